@@ -1,0 +1,86 @@
+#include "model/legfont_cond.h"
+
+#include "platform/archivio.h"
+#include "platform/file_testo.h"
+#include "platform/messaggi.h"
+#include "platform/numeri.h"
+#include "platform/testo.h"
+#include "startup/direttori_cond.h"
+
+#include <algorithm>
+
+namespace telva {
+
+Tabella<std::string, 256> CarFont{"CarFont"};
+Tabella<std::int16_t, 256> NumPtFont{"NumPtFont"};
+Tabella2<std::int16_t, 256, kPuntiCarattere> FontX{"FontX"}, FontY{"FontY"};
+std::int16_t SpazioFont = 0;
+
+namespace {
+
+constexpr int kPuntiMassimi = 100;
+
+// The two characters of a coordinate; beyond the end of the line they are empty and give 0.
+// False when they are no number.
+bool Coordinata(std::string_view riga, std::size_t posto, std::int16_t &dove) {
+    const std::string_view testo = Rifila(posto < riga.size() ? riga.substr(posto, 2) : "");
+    const auto numero = testo.empty() ? std::optional<double>(0) : NumeroStretto(testo);
+    if (!numero) return false;
+    dove = static_cast<std::int16_t>(ArrotondaPari(*numero)); // two characters: it fits
+    return true;
+}
+
+bool LeggiCarattere(std::string_view riga) {
+    const auto codice = static_cast<unsigned char>(riga[0]);
+    CarFont[codice] = DaWindows1252(riga.substr(0, 1));
+    const double tratti = ArrotondaPari(static_cast<double>(riga.size() - 1) / 8);
+    const int punti = static_cast<int>(std::min(2 * tratti, double(kPuntiMassimi)));
+    NumPtFont[codice] = static_cast<std::int16_t>(punti);
+    for (int k = 0; k < punti; ++k) {
+        const auto posto = static_cast<std::size_t>(1 + 4 * k);
+        if (!Coordinata(riga, posto, FontX(codice, k)) ||
+            !Coordinata(riga, posto + 2, FontY(codice, k))) {
+            NumPtFont[codice] = static_cast<std::int16_t>(k & ~1);
+            return false;
+        }
+    }
+    return true;
+}
+
+bool LeggiCaratteri(FileTesto &file) {
+    double spazio = 0;
+    if (file.LeggiNumero(spazio) != Lettura::Riuscita) return false;
+    const auto intero = Intero16(ArrotondaPari(spazio));
+    if (!intero) return false;
+    SpazioFont = *intero;
+    file.FinisciRiga();
+    std::string_view riga;
+    while (file.LeggiRiga(riga)) {
+        riga = riga.substr(0, riga.find_last_not_of(' ') + 1);
+        if (!riga.empty() && !LeggiCarattere(riga)) return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void AzzeraFont() {
+    CarFont.Azzera();
+    SpazioFont = 0;
+    for (int codice = 0; codice < 256; ++codice) NumPtFont[codice] = -1;
+}
+
+void LeggiFont() {
+    AzzeraFont();
+    std::string percorso = DirProgra + "\\font.001";
+    if (!EsisteFile(percorso) && EsisteFile(DirRoot + "\\font.001"))
+        percorso = DirRoot + "\\font.001";
+    FileTesto file;
+    if (!EsisteFile(percorso))
+        MostraMessaggio("File " + percorso + " inesistente!", Icona::Critica, "Problema");
+    else if (!file.Apri(percorso) || !LeggiCaratteri(file))
+        MostraMessaggio("Errore in lettura del file " + percorso + " !", Icona::Critica,
+                        "Problema");
+}
+
+} // namespace telva

@@ -1,0 +1,146 @@
+#include "platform/disegno.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace telva {
+namespace {
+
+constexpr double kLimitePixel = 1 << 28;
+
+int Vicino(double v) { return static_cast<int>(std::floor(v + 0.5)); }
+
+// Rubber bands: dashes of light over dark, to be seen on every colour of the drawing.
+constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
+constexpr std::uint32_t kElasticoScuro = 0x404040;
+
+void Elastico(Superficie &s, Pixel a, Pixel b, int spessore) {
+    if (spessore > 1) {
+        s.LineaLarga(a, b, spessore, kElasticoChiaro);
+        return;
+    }
+    s.Linea(a, b, kElasticoScuro);
+    s.LineaTratteggiata(a, b, kElasticoChiaro, {0xF, 8});
+}
+
+} // namespace
+
+RiquadroDisegno::RiquadroDisegno(Modulo *f, std::string nome)
+    : Controllo(f, std::move(nome), Tipo::Disegno),
+      MousePointer(*this, Campo::Puntatore, Puntatore::Predefinito), Shape(*this),
+      LineSposta(*this) {}
+
+int RiquadroDisegno::LarghezzaPixel() const { return std::max(1, APixel(Width, Proprietario()->dpi)); }
+int RiquadroDisegno::AltezzaPixel() const { return std::max(1, APixel(Height, Proprietario()->dpi)); }
+
+void RiquadroDisegno::AggiornaScala() {
+    scalaX_ = LarghezzaPixel() / ScaleWidth;
+    scalaY_ = AltezzaPixel() / ScaleHeight;
+}
+
+void RiquadroDisegno::Scale(double x1, double y1, double x2, double y2) {
+    ScaleLeft = x1;
+    ScaleTop = y1;
+    ScaleWidth = x2 - x1;
+    ScaleHeight = y2 - y1;
+    AggiornaScala();
+}
+
+double RiquadroDisegno::UnitaPerPixel() const { return std::abs(1 / scalaX_); }
+
+Pixel RiquadroDisegno::InPixel(double x, double y, bool &fuori) const {
+    double px = XPixel(x), py = YPixel(y);
+    if (!(std::abs(px) < kLimitePixel && std::abs(py) < kLimitePixel)) {
+        fuori = true;
+        px = std::clamp(px, -kLimitePixel, kLimitePixel);
+        py = std::clamp(py, -kLimitePixel, kLimitePixel);
+    }
+    return {Vicino(px), Vicino(py)};
+}
+
+void RiquadroDisegno::Cls() {
+    const int l = LarghezzaPixel(), a = AltezzaPixel();
+    if (l != superficie_.Larghezza() || a != superficie_.Altezza()) superficie_.Ridimensiona(l, a);
+    AggiornaScala();
+    superficie_.Riempi(APixelRGB(BackColor));
+}
+
+// Only for ends so far away that whole pixels cannot name them: cuts the segment, in pixels, to a
+// box that still holds the visible window many times over. False when nothing is left.
+bool RiquadroDisegno::RitagliaLontano(double &x1, double &y1, double &x2, double &y2) const {
+    const double dx = x2 - x1, dy = y2 - y1;
+    double da = 0, a = 1;
+    const double limite = 1 << 20;
+    for (const auto &[p, d] : {std::pair{x1, dx}, std::pair{y1, dy}}) {
+        for (const double verso : {-1.0, 1.0}) {
+            const double denominatore = verso * d, margine = limite - verso * p;
+            if (denominatore == 0) {
+                if (margine < 0) return false;
+            } else if (denominatore > 0) {
+                a = std::min(a, margine / denominatore);
+            } else {
+                da = std::max(da, margine / denominatore);
+            }
+        }
+    }
+    if (!(da <= a)) return false;
+    x2 = x1 + a * dx;
+    y2 = y1 + a * dy;
+    x1 += da * dx;
+    y1 += da * dy;
+    return true;
+}
+
+void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore) {
+    Line(x1, y1, x2, y2, colore, Tratteggio{});
+}
+
+void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
+                           Tratteggio t) {
+    bool fuori = false;
+    Pixel a = InPixel(x1, y1, fuori);
+    Pixel b = InPixel(x2, y2, fuori);
+    if (fuori) {
+        double px1 = XPixel(x1), py1 = YPixel(y1), px2 = XPixel(x2), py2 = YPixel(y2);
+        if (!RitagliaLontano(px1, py1, px2, py2)) return;
+        a = {Vicino(px1), Vicino(py1)};
+        b = {Vicino(px2), Vicino(py2)};
+    }
+    const std::uint32_t rgb = APixelRGB(colore);
+    if (DrawWidth > 1)
+        superficie_.LineaLarga(a, b, DrawWidth, rgb);
+    else if (t.periodo > 1)
+        superficie_.LineaTratteggiata(a, b, rgb, t);
+    else
+        superficie_.Linea(a, b, rgb);
+}
+
+void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t colore) {
+    bool fuori = false;
+    const Pixel centro = InPixel(x, y, fuori);
+    if (fuori) return;
+    const double r = std::min(raggio / UnitaPerPixel(), double{Superficie::kRaggioMassimo});
+    superficie_.Cerchio(centro, Vicino(std::max(r, 0.0)), std::max(DrawWidth, 1),
+                        APixelRGB(colore));
+}
+
+const Superficie &RiquadroDisegno::ComponiElastici(Superficie &composta) const {
+    if (!Shape.Visible && !LineSposta.Visible) return superficie_;
+    composta.CopiaPixel(superficie_);
+    const int spessore = std::max(1, Vicino(Proprietario()->dpi / 96));
+    bool fuori = false;
+    if (Shape.Visible) {
+        const Pixel a = InPixel(Shape.Left, Shape.Top, fuori);
+        const Pixel b = InPixel(Shape.Left + Shape.Width, Shape.Top - Shape.Height, fuori);
+        Elastico(composta, a, {b.x, a.y}, spessore);
+        Elastico(composta, {b.x, a.y}, b, spessore);
+        Elastico(composta, b, {a.x, b.y}, spessore);
+        Elastico(composta, {a.x, b.y}, a, spessore);
+    }
+    if (LineSposta.Visible)
+        Elastico(composta, InPixel(LineSposta.X1, LineSposta.Y1, fuori),
+                 InPixel(LineSposta.X2, LineSposta.Y2, fuori), spessore);
+    return composta;
+}
+
+} // namespace telva

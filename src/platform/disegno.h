@@ -1,0 +1,74 @@
+#pragma once
+// The picture box: a pixel surface of its own under a user scale set from two corners. Drawing
+// coordinates meet pixels here and nowhere else.
+
+#include "platform/controlli.h"
+#include "platform/superficie.h"
+
+#include <functional>
+#include <vector>
+
+namespace telva {
+
+class RiquadroDisegno : public Controllo {
+  public:
+    RiquadroDisegno(Modulo *f, std::string nome);
+
+    Proprieta<Puntatore> MousePointer;
+    std::uint32_t BackColor = 0;
+    int DrawWidth = 1; // pixels; below 1 counts as 1
+
+    // button 1 left, 2 right, 4 middle (in MouseMove: the sum of those held); shift bits 1 Shift,
+    // 2 Ctrl, 4 Alt; x and y in the user scale.
+    std::function<void(int button, int shift, float x, float y)> MouseDown, MouseMove, MouseUp;
+    std::function<void()> DblClick;
+    std::function<void()> CatturaPersa; // the mouse left us with a button held
+
+    // User scale: top-left and bottom-right corner. ScaleHeight is negative when y grows upwards.
+    void Scale(double x1, double y1, double x2, double y2);
+    double ScaleLeft = 0, ScaleTop = 0, ScaleWidth = 1, ScaleHeight = 1;
+    // Size in whole pixels, from Width, Height and the window's DPI; at least 1.
+    int LarghezzaPixel() const;
+    int AltezzaPixel() const;
+    // Drawing units per pixel of the current scale (positive).
+    double UnitaPerPixel() const;
+
+    // Position in pixels, fractions kept; pixel i has its centre at i.
+    double XPixel(double x) const { return (x - ScaleLeft) * scalaX_; }
+    double YPixel(double y) const { return (y - ScaleTop) * scalaY_; }
+    // User position of a pixel's centre.
+    double XDaPixel(double px) const { return ScaleLeft + px / scalaX_; }
+    double YDaPixel(double py) const { return ScaleTop + py / scalaY_; }
+    // Nearest pixel; positions beyond +-2^28 are brought to that limit and `fuori` is set.
+    Pixel InPixel(double x, double y, bool &fuori) const;
+
+    // Clears the picture in BackColor, at the present size.
+    void Cls();
+    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore);
+    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore, Tratteggio t);
+    void Circle(double x, double y, double raggio, std::uint32_t colore);
+    // Shows the finished picture.
+    void Presenta() { Avvisa(Campo::Immagine); }
+
+    Superficie &Immagine() { return superficie_; }
+    const Superficie &Immagine() const { return superficie_; }
+
+    Rettangolo Shape;
+    Segmento LineSposta;
+    // The picture with the rubber bands over it, as it is shown; `composta` is reused.
+    const Superficie &ComponiElastici(Superficie &composta) const;
+
+  private:
+    void AggiornaScala();
+    bool RitagliaLontano(double &x1, double &y1, double &x2, double &y2) const;
+
+    Superficie superficie_;
+    double scalaX_ = 1, scalaY_ = 1; // pixels per unit
+};
+
+// 0x00BBGGRR to a surface's pixel.
+constexpr std::uint32_t APixelRGB(std::uint32_t bgr) {
+    return ((bgr & 0xFF) << 16) | (bgr & 0xFF00) | ((bgr >> 16) & 0xFF);
+}
+
+} // namespace telva

@@ -1,0 +1,183 @@
+#include "platform/file_testo.h"
+
+#include "platform/archivio.h"
+#include "platform/guasto.h"
+#include "platform/numeri.h"
+#include "platform/tabella.h"
+#include "platform/testo.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace telva {
+namespace {
+
+bool FineRiga(char c) { return c == '\n' || c == '\r'; }
+bool FineNumero(char c) { return c == ',' || c == ' ' || c == '\t' || FineRiga(c); }
+
+} // namespace
+
+void GuastoInFile(const std::string &percorso, int riga, const std::string &motivo) {
+    throw Guasto("File " + percorso + ", riga " + TestoNumero(riga) + ": " + motivo);
+}
+
+void GuastoIndice(const char *tabella, long indice, long ultimo) {
+    throw Guasto("Indice " + std::to_string(indice) + " fuori dalla tabella " + tabella + " (0.." +
+                 std::to_string(ultimo) + ")");
+}
+
+bool FileTesto::Apri(const std::string &percorso) {
+    percorso_ = percorso;
+    std::string contenuto;
+    if (!LeggiFile(percorso, contenuto)) return false;
+    ApriContenuto(std::move(contenuto));
+    return true;
+}
+
+void FileTesto::ApriContenuto(std::string contenuto) {
+    byte_ = std::move(contenuto);
+    posto_ = byte_.starts_with("\xEF\xBB\xBF") ? 3 : 0;
+    righePassate_ = 0;
+    riga_ = 0;
+}
+
+void FileTesto::ConsumaFineRiga() {
+    if (Finito()) return;
+    if (byte_[posto_] == '\r') {
+        ++posto_;
+        if (!Finito() && byte_[posto_] == '\n') ++posto_;
+        ++righePassate_;
+    } else if (byte_[posto_] == '\n') {
+        ++posto_;
+        ++righePassate_;
+    }
+}
+
+void FileTesto::SaltaVuoti() {
+    while (!Finito() && (byte_[posto_] == ' ' || byte_[posto_] == '\t')) ++posto_;
+}
+
+void FileTesto::SaltaVuotiERighe() {
+    SaltaVuoti();
+    while (!Finito() && FineRiga(byte_[posto_])) {
+        ConsumaFineRiga();
+        SaltaVuoti();
+    }
+}
+
+bool FileTesto::LeggiRiga(std::string_view &riga) {
+    if (Finito()) return false;
+    riga_ = righePassate_ + 1;
+    const std::string_view resto = std::string_view(byte_).substr(posto_);
+    const std::size_t fine = resto.find('\n');
+    riga = resto.substr(0, fine);
+    posto_ += fine == std::string_view::npos ? resto.size() : fine + 1;
+    ++righePassate_;
+    if (!riga.empty() && riga.back() == '\r') riga.remove_suffix(1);
+    return true;
+}
+
+void FileTesto::FinisciRiga() {
+    std::string_view resto;
+    if (righePassate_ < riga_) LeggiRiga(resto);
+}
+
+bool FileTesto::LeggiRigaTesto(std::string &riga) {
+    std::string_view byte;
+    if (!LeggiRiga(byte)) return false;
+    riga = DaWindows1252(byte);
+    return true;
+}
+
+// After a value: blanks, then one comma or one line end belong to it.
+void FileTesto::ConsumaFineValore() {
+    SaltaVuoti();
+    if (Finito()) return;
+    if (byte_[posto_] == ',')
+        ++posto_;
+    else
+        ConsumaFineRiga();
+}
+
+Lettura FileTesto::LeggiNumero(double &valore) {
+    SaltaVuotiERighe();
+    if (Finito()) return Lettura::FineFile;
+    riga_ = righePassate_ + 1;
+    const char *inizio = byte_.data() + posto_;
+    const char *fineByte = byte_.data() + byte_.size();
+    double letto = 0;
+    // The plain decimal number is the common case, and the files are large.
+    const auto esito = std::from_chars(inizio, fineByte, letto);
+    const bool cifra = *inizio == '-' || *inizio == '.' || (*inizio >= '0' && *inizio <= '9');
+    const char *fine = inizio;
+    if (cifra && esito.ec == std::errc() && (esito.ptr == fineByte || FineNumero(*esito.ptr)) &&
+        !(*inizio == '-' && inizio[1] > '9')) {
+        fine = esito.ptr;
+    } else {
+        while (fine != fineByte && !FineNumero(*fine)) ++fine;
+        const std::string_view testo(inizio, static_cast<std::size_t>(fine - inizio));
+        const auto numero = testo.empty() ? std::optional<double>(0) : NumeroStretto(testo);
+        posto_ += testo.size();
+        ConsumaFineValore();
+        if (!numero) return Lettura::Malformata;
+        valore = *numero;
+        return Lettura::Riuscita;
+    }
+    posto_ += static_cast<std::size_t>(fine - inizio);
+    ConsumaFineValore();
+    valore = letto;
+    return Lettura::Riuscita;
+}
+
+std::string_view FileTesto::ProssimoTesto(bool &traVirgolette) {
+    SaltaVuoti();
+    riga_ = righePassate_ + 1;
+    traVirgolette = !Finito() && byte_[posto_] == '"';
+    if (traVirgolette) ++posto_;
+    const std::size_t inizio = posto_;
+    while (!Finito() && !(traVirgolette ? byte_[posto_] == '"'
+                                        : byte_[posto_] == ',' || FineRiga(byte_[posto_]))) {
+        if (byte_[posto_] == '\n') ++righePassate_;
+        ++posto_;
+    }
+    const std::string_view testo = std::string_view(byte_).substr(inizio, posto_ - inizio);
+    if (traVirgolette && !Finito()) ++posto_;
+    ConsumaFineValore();
+    return testo;
+}
+
+Lettura FileTesto::LeggiTesto(std::string &testo) {
+    if (Finito()) return Lettura::FineFile;
+    bool traVirgolette = false;
+    const std::string_view letto = ProssimoTesto(traVirgolette);
+    testo = DaWindows1252(traVirgolette ? letto : Rifila(letto));
+    return Lettura::Riuscita;
+}
+
+Lettura FileTesto::LeggiValore(Valore &valore) {
+    if (Finito()) return Lettura::FineFile;
+    bool traVirgolette = false;
+    const std::string_view letto = ProssimoTesto(traVirgolette);
+    if (traVirgolette)
+        valore = DaWindows1252(letto);
+    else if (Rifila(letto).empty())
+        valore = std::monostate{};
+    else if (const auto numero = NumeroStretto(letto))
+        valore = *numero;
+    else
+        valore = DaWindows1252(Rifila(letto));
+    return Lettura::Riuscita;
+}
+
+void FileTesto::SaltaValore() {
+    SaltaVuotiERighe();
+    bool traVirgolette = false;
+    if (!Finito() && byte_[posto_] == '"') {
+        ProssimoTesto(traVirgolette);
+        return;
+    }
+    while (!Finito() && !FineNumero(byte_[posto_])) ++posto_;
+    ConsumaFineValore();
+}
+
+} // namespace telva

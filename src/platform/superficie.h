@@ -1,0 +1,69 @@
+#pragma once
+// The pixel surface of the picture box: integer lines, wide pens with round ends, circle outlines.
+// Pixels are 0x00RRGGBB, row by row from the top. Coordinates are whole pixels, y downwards; what
+// lies outside is clipped exactly, so a clipped line lights the same pixels as a whole one.
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace telva {
+
+struct Pixel {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    friend bool operator==(const Pixel &, const Pixel &) = default;
+};
+
+// Dash pattern of a width-1 line: bit i of `bit` says whether pixel i of the period is lit.
+struct Tratteggio {
+    std::uint32_t bit = 1;
+    int periodo = 1; // 1..32
+};
+
+class Superficie {
+  public:
+    int Larghezza() const { return larghezza_; }
+    int Altezza() const { return altezza_; }
+    const std::uint32_t *Riga(int y) const;
+    std::uint32_t *Riga(int y);
+    std::uint32_t Leggi(int x, int y) const { return Riga(y)[x]; }
+
+    // New size (at least 1 x 1); the content is undefined until the next Riempi.
+    void Ridimensiona(int larghezza, int altezza);
+    void Riempi(std::uint32_t colore);
+    // Takes over size and pixels of another surface.
+    void CopiaPixel(const Superficie &altra);
+
+    // Ends included. Coordinates may lie anywhere within +-2^28.
+    void Linea(Pixel a, Pixel b, std::uint32_t colore);
+    void LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio tratteggio);
+    // Pen of `larghezza` pixels (2..kPennaMassima) with round ends.
+    void LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore);
+    // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
+    void Cerchio(Pixel centro, int raggio, int larghezza, std::uint32_t colore);
+
+    static constexpr int kPennaMassima = 256;
+    static constexpr int kRaggioMassimo = 4096;
+
+  private:
+    struct Tratto { // pixels xDa..xA of one row, relative to the centre
+        int y, xDa, xA;
+    };
+    void Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint32_t colore);
+    template <class Scrivi> void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
+    const std::vector<Tratto> &Disco(int larghezza);
+    const std::vector<Tratto> &Anello(int raggio, int larghezza);
+    void Timbra(const std::vector<Tratto> &forma, Pixel centro, std::uint32_t colore);
+
+    int larghezza_ = 0;
+    int altezza_ = 0;
+    std::vector<std::uint32_t> pixel_;
+    std::array<std::vector<Tratto>, kPennaMassima + 1> dischi_;
+    std::vector<Tratto> anello_; // of the radius and pen used last: a picture uses few
+    int raggioAnello_ = -1;
+    int pennaAnello_ = -1;
+};
+
+} // namespace telva

@@ -1,0 +1,56 @@
+#pragma once
+// Fixed-capacity tables whose index is always checked, in release builds too: a wrong index in a
+// job's files must end in a message and never in somebody else's memory.
+
+#include "platform/guasto.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+namespace telva {
+
+[[noreturn]] void GuastoIndice(const char *tabella, long indice, long ultimo);
+
+// Entries 0..N-1; an index outside throws Guasto.
+template <class T, int N> class Tabella {
+  public:
+    explicit constexpr Tabella(const char *nome) : nome_(nome) {}
+
+    T &operator[](int i) { return voci_[Verifica(i)]; }
+    const T &operator[](int i) const { return voci_[Verifica(i)]; }
+    T *Dati() { return voci_.data(); }
+    const T *Dati() const { return voci_.data(); }
+    void Azzera() { voci_.fill(T{}); }
+    static constexpr int Capacita() { return N; }
+
+  private:
+    std::size_t Verifica(int i) const {
+        if (static_cast<unsigned>(i) >= static_cast<unsigned>(N)) GuastoIndice(nome_, i, N - 1);
+        return static_cast<std::size_t>(i);
+    }
+    const char *nome_;
+    std::array<T, static_cast<std::size_t>(N)> voci_{};
+};
+
+// Entries (0..N-1, 0..M-1), the second index the fast one; an index outside throws Guasto.
+template <class T, int N, int M> class Tabella2 {
+  public:
+    explicit constexpr Tabella2(const char *nome) : nome_(nome) {}
+
+    T &operator()(int i, int j) { return voci_[Posto(i, j)]; }
+    const T &operator()(int i, int j) const { return voci_[Posto(i, j)]; }
+    void Azzera() { voci_.fill(T{}); }
+
+  private:
+    std::size_t Posto(int i, int j) const {
+        if (static_cast<unsigned>(i) >= static_cast<unsigned>(N)) GuastoIndice(nome_, i, N - 1);
+        if (static_cast<unsigned>(j) >= static_cast<unsigned>(M)) GuastoIndice(nome_, j, M - 1);
+        return static_cast<std::size_t>(i) * static_cast<std::size_t>(M) +
+               static_cast<std::size_t>(j);
+    }
+    const char *nome_;
+    std::array<T, static_cast<std::size_t>(N) * static_cast<std::size_t>(M)> voci_{};
+};
+
+} // namespace telva

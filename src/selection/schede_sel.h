@@ -1,0 +1,51 @@
+#pragma once
+// Selection by typed lists of card numbers or element names.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace telva {
+
+enum class EsitoLista {
+    Riuscita,
+    Troppi,      // more numbers than the capacity
+    FuoriLimiti  // a number outside -32768..32767
+};
+
+inline constexpr int kCapacitaSchede = 100, kCapacitaNomi = 20000;
+
+// Numbers of a list such as "1-5,7", in the order typed.
+EsitoLista LeggiLista(std::string_view testo, int capacita, std::vector<std::int16_t> &numeri);
+
+// A property's command: what it asks, what it is called, and for which kinds it is refused.
+struct SchedaProprieta {
+    std::uint8_t codice; // CodSottoFun
+    const char *domanda;
+    const char *titolo;
+    void (*seleziona)(const std::string &testo);
+    // By element kind 0..4: index of the refusal in Messaggi, or one of the two below.
+    int rifiuto[5];
+};
+inline constexpr int kAmmesso = -1, kIgnorato = -2;
+// The property of a sub-function code, or nullptr.
+const SchedaProprieta *ProprietaDi(std::uint8_t codice);
+
+// Starts the pending property: prompt, title, answer box ready for typing.
+void IniziaProprieta(std::uint8_t codice);
+
+// Enter in the answer box: runs the pending property on the typed list, or shows its refusal.
+void EseguiRisposta();
+
+// Each marks the active elements of the chosen kind, redraws and shows the list; a list that cannot
+// be taken shows its message and changes nothing.
+void SelezionaPerMateriale(const std::string &testo);
+void SelezionaElementoPerNome(const std::string &testo);
+void SelezionaPerSezione(const std::string &testo);
+void SelezionaPerSpessore(const std::string &testo);
+void SelezionaPerOrientamento(const std::string &testo);
+void SelezionaPerSvincolo(const std::string &testo);
+void SelezionaPerVincolo(const std::string &testo);
+
+} // namespace telva

@@ -1,0 +1,165 @@
+#include "selection/selezione.h"
+
+#include "model/scambio_cond.h"
+#include "model/struttura.h"
+#include "platform/numeri.h"
+#include "platform/testo.h"
+#include "ui/controlli/FormTelva.h"
+
+#include <array>
+#include <initializer_list>
+
+namespace telva {
+
+std::uint8_t CodFunAttiva = kNessunaFunzione;
+std::uint8_t CodSottoFun = kNessuna;
+
+namespace {
+
+std::array<VoceMenu *, 13> ComandiSelezioni() {
+    ModuloTelva &f = FormTelva;
+    return {&f.Finestra,    &f.Colore,     &f.TipoPunto,       &f.TipoLinea, &f.TipoTratt,
+            &f.Materiale,   &f.Nome,       &f.Tutto,           &f.SchSezione, &f.SchSpessore,
+            &f.SchSvincolo, &f.SchOrientamento, &f.SchVincolo};
+}
+
+void Disabilita(std::initializer_list<VoceMenu *> voci) {
+    for (VoceMenu *voce : voci) voce->Enabled = false;
+}
+
+// Names and flags of one kind, as its tables hold them.
+struct Elementi {
+    const std::int16_t *nomi = nullptr;
+    std::int16_t *flag = nullptr;
+    const std::int16_t *attivi = nullptr; // continuous elements have none of their own
+    int numero = 0;
+};
+
+Elementi ElementiDi(int tipo) {
+    switch (tipo) {
+    case kNodiTipo: return {NomeNodo.Dati(), SelNodo.Dati(), AttNodo.Dati(), NumNodi};
+    case kAsteTipo: return {NomeAsta.Dati(), SelAsta.Dati(), AttAsta.Dati(), NumAste};
+    case kGusciTipo: return {NomeGuscio.Dati(), SelGuscio.Dati(), AttGuscio.Dati(), NumGusci};
+    case kElContTipo: return {NumeroElCont.Dati(), SelElCont.Dati(), nullptr, NumElCont};
+    default: return {};
+    }
+}
+
+// One pass of a stable counting sort by eight bits of the name.
+void OrdinaPerByte(const std::vector<std::uint32_t> &da, std::vector<std::uint32_t> &a, int bit) {
+    std::array<std::size_t, 257> posti{};
+    for (std::uint32_t v : da) ++posti[((v >> bit) & 0xFF) + 1];
+    for (std::size_t i = 1; i < posti.size(); ++i) posti[i] += posti[i - 1];
+    for (std::uint32_t v : da) a[posti[(v >> bit) & 0xFF]++] = v;
+}
+
+// The list is read by the neighbouring program, which wants the lowest name of the kind doubled at
+// its head when it is selected.
+std::string TestaDoppia(int primo) { return primo > 0 ? TestoNumero(primo) : std::string(); }
+
+void ChiudiTratto(std::string &lista, int inizio, int ultimo) {
+    if (inizio < 1) return;
+    if (!lista.empty()) lista += ',';
+    lista += TestoNumero(inizio);
+    if (ultimo > inizio) lista += '-' + TestoNumero(ultimo);
+}
+
+} // namespace
+
+void AzzeraInput() {
+    CodSottoFun = kNessuna;
+    FormTelva.SottoFunAttiva.Caption = "";
+    FormTelva.Domanda.Caption = "";
+    FormTelva.Risposta.Text = "";
+    FormTelva.Risposta.BackColor = kColoreFaccia;
+    FormTelva.Risposta.Enabled = false;
+    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
+}
+
+void AbilitaComandi() {
+    ModuloTelva &f = FormTelva;
+    for (VoceMenu *voce : ComandiSelezioni()) voce->Enabled = true;
+    switch (f.TipoElemento()) {
+    case kNodiTipo:
+        Disabilita({&f.Materiale, &f.TipoTratt, &f.TipoLinea, &f.SchSezione, &f.SchSpessore,
+                    &f.SchSvincolo, &f.SchOrientamento});
+        break;
+    case kAsteTipo: Disabilita({&f.TipoPunto, &f.TipoTratt, &f.SchSpessore, &f.SchVincolo}); break;
+    case kGusciTipo:
+        Disabilita({&f.TipoLinea, &f.TipoPunto, &f.SchSezione, &f.SchSvincolo, &f.SchOrientamento,
+                    &f.SchVincolo});
+        break;
+    case kElContTipo:
+        Disabilita({&f.TipoPunto, &f.TipoTratt, &f.SchSpessore, &f.SchSvincolo, &f.SchVincolo});
+        break;
+    default: break;
+    }
+}
+
+void DisabilitaComandi() {
+    for (VoceMenu *voce : ComandiSelezioni()) voce->Enabled = false;
+}
+
+void InvertiSelezione() {
+    const int tipo = FormTelva.TipoElemento();
+    const Elementi e = ElementiDi(tipo);
+    for (int i = 0; i < e.numero; ++i)
+        if (e.attivi ? e.attivi[i] == 1 : ElContAttivo(i)) e.flag[i] = e.flag[i] == 1 ? 0 : 1;
+}
+
+void AggiornaSelezione() {
+    const int tipo = FormTelva.TipoElemento();
+    if (tipo != kParetiTipo) StrSel(tipo) = FormattaListaSel(OrdinaNumeriSel(tipo));
+    MostraStringaSel(tipo);
+}
+
+void MostraStringaSel(int tipo) {
+    FormTelva.StringaSel.Caption = std::string(Rifila(StrSel(tipo)));
+}
+
+// Names are 16-bit, so two passes of a counting sort give at once what exchanging neighbours until
+// nothing moves gives: ascending, equal names in the order of the file.
+std::vector<int> OrdinaNumeriSel(int tipo) {
+    const Elementi e = ElementiDi(tipo);
+    const auto n = static_cast<std::size_t>(e.numero);
+    std::vector<std::uint32_t> coppie(n), appoggio(n);
+    for (std::size_t i = 0; i < n; ++i)
+        coppie[i] = static_cast<std::uint32_t>(e.nomi[i] + 32768) << 1 |
+                    static_cast<std::uint32_t>(e.flag[i] == 1 ? 1 : 0);
+    OrdinaPerByte(coppie, appoggio, 1);
+    OrdinaPerByte(appoggio, coppie, 9);
+    std::vector<int> nomi(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        const int nome = static_cast<int>(coppie[i] >> 1) - 32768;
+        nomi[i] = nome > 0 && (coppie[i] & 1) == 0 ? -nome : nome;
+    }
+    return nomi;
+}
+
+std::string FormattaListaSel(std::span<const int> nomi) {
+    if (nomi.empty()) return {};
+    std::string lista = TestaDoppia(nomi[0]);
+    int inizio = nomi[0], ultimo = nomi[0];
+    for (const int nome : nomi.subspan(1)) {
+        if (nome <= 0) continue;
+        if (nome != ultimo + 1) {
+            ChiudiTratto(lista, inizio, ultimo);
+            inizio = ultimo = nome;
+        } else if (inizio < 1) { // name 1 right after an absent element: the run begins here
+            inizio = nome;
+        } else {
+            ultimo = nome;
+        }
+    }
+    ChiudiTratto(lista, inizio, ultimo);
+    return lista;
+}
+
+void AzzeraSelezione() {
+    CodFunAttiva = kNessunaFunzione;
+    CodSottoFun = kNessuna;
+    for (auto *lista : {&StrSelNodi, &StrSelAste, &StrSelGusci, &StrSelElCont, &StrSelPareti})
+        lista->clear();
+}
+
+} // namespace telva

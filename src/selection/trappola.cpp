@@ -1,0 +1,187 @@
+#include "selection/trappola.h"
+
+#include "model/opzioni_cond.h"
+#include "model/struttura.h"
+#include "platform/numeri.h"
+#include "selection/selezione.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/proiezione.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace telva {
+
+double TrappolaDis = 0;
+
+namespace {
+
+constexpr double kAstaNulla = 0.0001;   // squared projected length
+constexpr double kLatoNullo = 0.0001;   // extent in one direction
+
+// Colour 0 and names below 1 cannot be picked.
+bool Candidabile(int colore, int nome, int attivo) {
+    return colore >= 1 && nome >= 1 && attivo == 1;
+}
+
+bool FuoriIngombro(double p, double estremoI, double estremoJ) {
+    const double ampiezza = std::abs(estremoJ - estremoI);
+    return std::abs(p - estremoI) - ampiezza >= TrappolaDis ||
+           std::abs(p - estremoJ) - ampiezza >= TrappolaDis;
+}
+
+// On the side from (x1, y1) to (x2, y2), its ends included.
+bool SulLato(double x, double y, double x1, double y1, double x2, double y2) {
+    const double dx = x2 - x1, dy = y2 - y1;
+    const double l2 = dx * dx + dy * dy;
+    const double t = l2 > 0 ? std::clamp(((x - x1) * dx + (y - y1) * dy) / l2, 0.0, 1.0) : 0;
+    return std::hypot(x - x1 - t * dx, y - y1 - t * dy) < kLatoNullo;
+}
+
+// True when the side crosses the horizontal ray from (x, y) to the right. Sides with next to no
+// extent count as level or upright.
+bool AttraversaRaggio(double x, double y, double x1, double y1, double x2, double y2) {
+    if (std::abs(y2 - y1) < kLatoNullo || (y1 > y) == (y2 > y)) return false;
+    if (std::abs(x2 - x1) < kLatoNullo) return x1 > x;
+    return x1 + (y - y1) / (y2 - y1) * (x2 - x1) > x;
+}
+
+bool GiaNelloStato(int tipo, int indice) {
+    const std::int16_t flag = tipo == kNodiTipo   ? SelNodo[indice]
+                              : tipo == kAsteTipo ? SelAsta[indice]
+                                                  : SelGuscio[indice];
+    return CodFunAttiva == kAggiungi ? flag == 1 : flag != 1;
+}
+
+std::int16_t Nome(int tipo, int indice) {
+    return tipo == kNodiTipo   ? NomeNodo[indice]
+           : tipo == kAsteTipo ? NomeAsta[indice]
+                               : NomeGuscio[indice];
+}
+
+bool AstaSotto(int b, double x, double y, double &distanza) {
+    return Candidabile(ColAsta[b], NomeAsta[b], AttAsta[b]) && PickAsta(b, x, y, distanza) == 1;
+}
+
+std::vector<Candidato> CandidatiNodi(double x, double y) {
+    std::vector<Candidato> trovati;
+    double d = 0;
+    for (int i = 0; i < NumNodi && trovati.size() < kCandidati; ++i)
+        if (Candidabile(ColNodo[i], NomeNodo[i], AttNodo[i]) && PickNodo(i, x, y, d) == 1)
+            trovati.push_back({static_cast<std::int16_t>(i), d});
+    return trovati;
+}
+
+std::vector<Candidato> CandidatiAste(double x, double y) {
+    std::vector<Candidato> trovati;
+    double d = 0;
+    for (int b = 0; b < NumAste && trovati.size() < kCandidati; ++b)
+        if (AstaSotto(b, x, y, d)) trovati.push_back({static_cast<std::int16_t>(b), d});
+    return trovati;
+}
+
+// The first shell in the order of the table is the only candidate.
+std::vector<Candidato> CandidatiGusci(double x, double y) {
+    for (int s = 0; s < NumGusci; ++s)
+        if (Candidabile(ColGuscio[s], NomeGuscio[s], AttGuscio[s]) && PickGuscio(s, x, y) > 0)
+            return {{static_cast<std::int16_t>(s), 0}};
+    return {};
+}
+
+// Number of the continuous element hit last: unlike shells, the later one wins.
+std::int16_t UltimoElCont(double x, double y) {
+    int trovati = 0, ultimo = -1;
+    double d = 0;
+    for (int k = 0; k < NumElCont; ++k)
+        for (int j = 0; j < NumAsteElCont[k]; ++j) {
+            if (!AstaSotto(AsteElCont(k, j), x, y, d)) continue;
+            ultimo = k;
+            if (++trovati == kCandidati) return NumeroElCont[ultimo];
+        }
+    return ultimo < 0 ? std::int16_t{0} : NumeroElCont[ultimo];
+}
+
+} // namespace
+
+void CalcolaTrappola() { TrappolaDis = std::abs(OpzInt[1] * FormTelva.Disegno.UnitaPerPixel()); }
+
+int PickNodo(int i, double x, double y, double &distanza) {
+    const double dx = x - XNodo(i), dy = y - YNodo(i);
+    if (std::abs(dx) >= TrappolaDis || std::abs(dy) >= TrappolaDis) return 0;
+    const double d = std::sqrt(dx * dx + dy * dy);
+    if (!(d < TrappolaDis)) return 0;
+    distanza = d;
+    return 1;
+}
+
+int PickAsta(int b, double x, double y, double &distanza) {
+    const double xI = XNodo(NodoIAsta[b]), yI = YNodo(NodoIAsta[b]);
+    const double xJ = XNodo(NodoJAsta[b]), yJ = YNodo(NodoJAsta[b]);
+    const double dx = xJ - xI, dy = yJ - yI;
+    const double l2 = dx * dx + dy * dy;
+    if (!(l2 > kAstaNulla)) return 0;
+    if (FuoriIngombro(x, xI, xJ) || FuoriIngombro(y, yI, yJ)) return 0;
+    // Distance from the infinite line a*x + b*y + c = 0 through both ends.
+    const double d = std::abs(dy * (x - xI) - dx * (y - yI)) / std::sqrt(l2);
+    if (d >= TrappolaDis) return 0;
+    distanza = d;
+    return 1;
+}
+
+// A fourth corner of 0 makes a triangle here; the window selection sees a quadrilateral in it.
+int PickGuscio(int s, double x, double y) {
+    const auto &nodi = NodiGuscio[s];
+    const std::size_t angoli = nodi[3] > 0 ? 4 : 3;
+    bool dentro = false;
+    double x1 = XNodo(nodi[angoli - 1]), y1 = YNodo(nodi[angoli - 1]);
+    for (std::size_t c = 0; c < angoli; ++c) {
+        const double x2 = XNodo(nodi[c]), y2 = YNodo(nodi[c]);
+        if (SulLato(x, y, x1, y1, x2, y2)) return 1;
+        if (AttraversaRaggio(x, y, x1, y1, x2, y2)) dentro = !dentro;
+        x1 = x2;
+        y1 = y2;
+    }
+    return dentro ? 1 : 0;
+}
+
+std::int16_t ScegliCandidato(std::vector<Candidato> candidati, int tipo) {
+    // Neighbours are exchanged until nothing moves. The distance that moves down loses its fraction
+    // on the way, and which of several close elements a click takes depends on that.
+    for (bool scambiato = true; scambiato;) {
+        scambiato = false;
+        for (std::size_t i = 1; i < candidati.size(); ++i) {
+            if (!(candidati[i - 1].distanza > candidati[i].distanza)) continue;
+            std::swap(candidati[i - 1], candidati[i]);
+            candidati[i].distanza =
+                std::min(ArrotondaPari(candidati[i].distanza), double(INT16_MAX));
+            scambiato = true;
+        }
+    }
+    for (const Candidato &c : candidati)
+        if (!GiaNelloStato(tipo, c.indice)) return Nome(tipo, c.indice);
+    return Nome(tipo, candidati.front().indice);
+}
+
+std::int16_t SelezioneDiretta(double x, double y) {
+    CalcolaTrappola();
+    const int tipo = FormTelva.TipoElemento();
+    std::vector<Candidato> candidati;
+    switch (tipo) {
+    case kNodiTipo: candidati = CandidatiNodi(x, y); break;
+    case kAsteTipo: candidati = CandidatiAste(x, y); break;
+    case kGusciTipo: candidati = CandidatiGusci(x, y); break;
+    case kElContTipo: return UltimoElCont(x, y);
+    default: return 0;
+    }
+    return candidati.empty() ? std::int16_t{0} : ScegliCandidato(std::move(candidati), tipo);
+}
+
+int NodoSottoPuntatore(double x, double y) {
+    CalcolaTrappola();
+    double d = 0;
+    for (int i = 0; i < NumNodi; ++i)
+        if (Candidabile(ColNodo[i], NomeNodo[i], AttNodo[i]) && PickNodo(i, x, y, d) == 1) return i;
+    return -1;
+}
+
+} // namespace telva

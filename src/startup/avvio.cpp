@@ -1,0 +1,105 @@
+#include "startup/avvio.h"
+
+#include "model/legfont_cond.h"
+#include "model/leggstr_cond.h"
+#include "model/opzioni_cond.h"
+#include "model/scambio_cond.h"
+#include "model/struttura.h"
+#include "model/tabelle_cond.h"
+#include "platform/messaggi.h"
+#include "platform/testo.h"
+#include "selection/attributi_sel.h"
+#include "selection/schede_sel.h"
+#include "selection/selezione.h"
+#include "startup/basCommon_cond.h"
+#include "startup/direttori_cond.h"
+#include "ui/FormOptInt_gestori.h"
+#include "ui/FormOpt_gestori.h"
+#include "ui/FormTelva_gestori.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/FunzDisegno.h"
+#include "view/inquadra.h"
+#include "view/proiezione.h"
+#include "view/salva_dis_cond.h"
+
+namespace telva {
+namespace {
+
+void MostraProblema(const std::string &testo) {
+    if (!testo.empty()) MostraMessaggio(testo, Icona::Critica, "Problema");
+}
+
+// Sets the view up and draws, or applies what the caller wants selected.
+void PrimaVista(const std::string &ingresso) {
+    ConvertiAsteElCont();
+    ProiettaNodi();
+    AggiornaIntervalli(4);
+    Adatta();
+    if (ingresso.empty()) {
+        DisegnaStruttura();
+        return;
+    }
+    CodFunAttiva = kAggiungi;
+    CalcolaAttivi();
+    if (Rifila(ingresso) == "0")
+        SelezionaPerColore(kOgniColore);
+    else
+        SelezionaElementoPerNome(ingresso);
+    CodFunAttiva = kNessunaFunzione;
+}
+
+void LeggiTabelle() {
+    MostraProblema(LeggiSpessori());
+    MostraProblema(LeggiSezioni());
+    MostraProblema(LeggiElCont());
+}
+
+} // namespace
+
+void Avvia() {
+    CollegaFormTelva();
+    CollegaFormOpt();
+    CollegaFormOptInt();
+    AzzeraVista();
+    FormTelva.FunAttiva.Caption = "";
+    AzzeraPuntatore();
+    FormTelva.MousePointer = Puntatore::Clessidra;
+    Form_Resize(); // gives the drawing its size; there is nothing to see yet
+    Direttori();
+    LavoroDaArgomento();
+    LeggiOpzioni();
+    LeggiOpzInt();
+    CaricaMessaggi();
+    std::string ingresso;
+    LeggiIngresso(ingresso);
+    FormTelva.Caption = std::string(Rifila(TitoloIn)) + " - " + DirLavoro;
+    MostraTrappola();
+    LeggiFont();
+    LeggiTabelle();
+    std::int16_t ok = 0;
+    LeggiStruttura(ok);
+    if (ok == 1)
+        PrimaVista(ingresso);
+    else
+        MostraProblema("Errore nella lettura della struttura");
+    FormTelva.MousePointer = Puntatore::Predefinito;
+}
+
+void AzzeraProgramma() {
+    AzzeraStruttura();
+    AzzeraTabelle();
+    AzzeraOpzioni();
+    AzzeraFont();
+    AzzeraProiezione();
+    AzzeraDisegno();
+    AzzeraVista();
+    AzzeraSelezione();
+    AzzeraPuntatore();
+    Messaggi.Azzera();
+    FormTelva.Inizio();
+    for (auto *testo : {&ArgomentoAvvio, &DirRoot, &DirLavoro, &NomeLavoro, &DirProgra, &DirDriver,
+                        &DirCustom, &TitoloIn})
+        testo->clear();
+}
+
+} // namespace telva

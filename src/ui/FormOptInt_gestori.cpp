@@ -1,0 +1,53 @@
+#include "ui/FormOptInt_gestori.h"
+
+#include "model/opzioni_cond.h"
+#include "platform/messaggi.h"
+#include "platform/numeri.h"
+#include "startup/basCommon_cond.h"
+#include "ui/controlli/FormOptInt.h"
+#include "ui/controlli/FormTelva.h"
+
+#include <cmath>
+
+namespace telva {
+namespace {
+
+constexpr int kTastoEsc = 27;
+
+void Command1_Click() {
+    std::int16_t ok = 0;
+    AggiornaOpzioniInterne_(ok);
+    if (ok == 0) MostraMessaggio(Messaggi[17], Icona::Esclamazione, "ATTENZIONE");
+    MostraTrappola();
+    FormOptInt.Chiudi();
+}
+
+} // namespace
+
+void AggiornaOpzioniInterne_(std::int16_t &ok) {
+    const std::string &testo = FormOptInt.TextTrappola.Text;
+    OpzInt[1] = testo.empty() ? 0 : std::abs(ParteIntera(ValoreNumerico(testo)));
+    ok = OpzInt[1] == 0 ? 0 : 1;
+}
+
+void MostraTrappola() {
+    FormTelva.Trappola.Caption = "Trappola (" + TestoNumero(OpzInt[1]) + ")...";
+}
+
+void ApriFormOptInt() {
+    FormOptInt.TextTrappola.Text = TestoNumero(OpzInt[1]);
+    FormOptInt.fuoco = &FormOptInt.TextTrappola;
+    FormOptInt.MostraModale();
+}
+
+void CollegaFormOptInt() {
+    FormOptInt.Command1.Click = Command1_Click;
+    FormOptInt.TextTrappola.KeyDown = [](int tasto) {
+        if (tasto == 13) Command1_Click();
+    };
+    FormOptInt.KeyUp = [](int tasto) {
+        if (tasto == kTastoEsc) FormOptInt.Chiudi();
+    };
+}
+
+} // namespace telva

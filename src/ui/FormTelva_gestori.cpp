@@ -1,0 +1,245 @@
+#include "ui/FormTelva_gestori.h"
+
+#include "model/opzioni_cond.h"
+#include "model/scambio_cond.h"
+#include "platform/messaggi.h"
+#include "platform/numeri.h"
+#include "selection/attributi_sel.h"
+#include "selection/schede_sel.h"
+#include "selection/selezione.h"
+#include "ui/FormOptInt_gestori.h"
+#include "ui/FormOpt_gestori.h"
+#include "ui/comandi.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/FunzDisegno.h"
+#include "view/inquadra.h"
+#include "view/proiezione.h"
+
+#include <algorithm>
+
+namespace telva {
+namespace {
+
+constexpr int kTastoInvio = 13;
+constexpr int kCarattereEsc = 27;
+constexpr double kAltezzaBarra = 400; // twips
+
+void IniziaFunzione(Funzione funzione, const char *titolo) {
+    AnnullaElastici();
+    AzzeraInput();
+    FinestraAutomatica = 0;
+    CodFunAttiva = funzione;
+    CodSottoFun = kDiretta;
+    AbilitaComandi();
+    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
+    FormTelva.FunAttiva.Caption = titolo;
+    FormTelva.SottoFunAttiva.Caption = "Selezione diretta";
+    FormTelva.Interrompi.Enabled = true;
+}
+
+void Ridisegna_SuInvio(int tasto) {
+    if (tasto == kTastoInvio) Ridis_Click();
+}
+
+void SpostaIn(double scarto) {
+    for (Controllo *c : {static_cast<Controllo *>(&FormTelva.Disegno),
+                         static_cast<Controllo *>(&FormTelva.FrameInput),
+                         static_cast<Controllo *>(&FormTelva.FrameSel),
+                         static_cast<Controllo *>(&FormTelva.FrameAtt)})
+        c->Top = c->Top + scarto;
+    FormTelva.Disegno.Height = FormTelva.Disegno.Height - scarto;
+}
+
+void RidisegnaAllaMisura() {
+    Adatta();
+    DisegnaStruttura();
+}
+
+double LarghezzaDisegno() {
+    return FormTelva.Width - (FormTelva.FrameSel.Visible ? 3024.0 : 124.0);
+}
+
+} // namespace
+
+void Salva_Click() {
+    ScriviUscita();
+    FineProgramma();
+}
+
+void Esci_Click() { FineProgramma(); }
+
+void Ottimizza_Click() {
+    FinestraZoom = {};
+    ProiettaNodi();
+    Adatta();
+    DisegnaStruttura();
+}
+
+void Ridis_Click() {
+    ProiettaNodi();
+    Adatta();
+    DisegnaStruttura();
+    AggiornaSelezione();
+}
+
+void Aggiungi_Click() { IniziaFunzione(kAggiungi, "Aggiungi selezione"); }
+void Rimuovi_Click() { IniziaFunzione(kRimuovi, "Rimuovi selezione"); }
+
+void RimTutto_Click() {
+    const std::uint8_t funzione = CodFunAttiva, sottoFunzione = CodSottoFun;
+    AnnullaElastici();
+    CodFunAttiva = kRimuovi;
+    SelezionaPerColore(kOgniColore);
+    CodFunAttiva = funzione;
+    CodSottoFun = sottoFunzione;
+    AbilitaComandi();
+    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
+    FormTelva.SottoFunAttiva.Caption = "Selezione diretta"; // whatever the sub-function is
+}
+
+void Inverti_Click() {
+    InvertiSelezione();
+    DisegnaStruttura();
+    AggiornaSelezione();
+}
+
+void Interrompi_Click() {
+    CodFunAttiva = kNessunaFunzione;
+    AnnullaElastici();
+    AzzeraInput();
+    DisabilitaComandi();
+    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
+    FormTelva.Interrompi.Enabled = false;
+    FormTelva.FunAttiva.Caption = "";
+}
+
+void FinestraComando_Click() {
+    AnnullaElastici();
+    AzzeraInput();
+    FinestraAutomatica = 0;
+    Finestra_Click();
+}
+
+void Finestra_Click() {
+    CodSottoFun = kFinestra;
+    FormTelva.SottoFunAttiva.Caption = "Seleziona per finestra";
+    FormTelva.Disegno.MousePointer = Puntatore::Croce;
+}
+
+void IniziaAttributo() {
+    AnnullaElastici();
+    FinestraAutomatica = 0;
+}
+
+void VisCoord_Click() {
+    FormTelva.VisCoord.Checked = !FormTelva.VisCoord.Checked;
+    FormTelva.LabCoord.Caption = "";
+    FormTelva.FrameCoord.Visible = FormTelva.VisCoord.Checked;
+}
+
+void VisAssi_Click() {
+    FormTelva.VisAssi.Checked = !FormTelva.VisAssi.Checked;
+    Ridis_Click();
+}
+
+void BarraLat_Click() {
+    const bool mostra = !FormTelva.BarraLat.Checked;
+    FormTelva.FrameSel.Visible = mostra;
+    FormTelva.FrameAtt.Visible = mostra;
+    FormTelva.Toolbar1.Suggerimento("AggiungiBarraLat", mostra ? "Toglie la barra laterale"
+                                                               : "Aggiunge la barra laterale");
+    FormTelva.BarraLat.Checked = mostra;
+    FormTelva.Disegno.Width = LarghezzaDisegno();
+    RidisegnaAllaMisura();
+}
+
+void BarraIcone_Click() {
+    const bool mostra = !FormTelva.Toolbar1.Visible;
+    FormTelva.Toolbar1.Visible = mostra;
+    FormTelva.BarraIcone.Checked = mostra;
+    SpostaIn(mostra ? kAltezzaBarra : -kAltezzaBarra);
+    RidisegnaAllaMisura();
+}
+
+void Trappola_Click() {
+    AnnullaElastici();
+    ApriFormOptInt();
+}
+
+void Rappresentazione_Click() {
+    AnnullaElastici();
+    ApriFormOpt();
+}
+
+void OptElem_Click(int indice) {
+    if (CodFunAttiva != kNessunaFunzione) AbilitaComandi();
+    MostraStringaSel(indice);
+}
+
+void Form_Resize() {
+    ModuloTelva &f = FormTelva;
+    if (f.ridotta) return;
+    const double w = f.Width, h = f.Height;
+    if (w < f.larghezzaMinima || h < f.altezzaMinima) {
+        f.Width = std::max(w, f.larghezzaMinima);
+        f.Height = std::max(h, f.altezzaMinima);
+        return; // the resize that this causes lays the window out
+    }
+    f.FrameInput.Width = w - 180;
+    f.Disegno.Width = LarghezzaDisegno();
+    f.StringaSel.Width = w - 4464;
+    f.FrameCoord.Width = w - 5550;
+    f.Risposta.Left = f.FrameInput.Width - 2600;
+    f.LabCoord.Left = f.FrameCoord.Width - 1000;
+    f.FrameSel.Left = f.Disegno.Left + f.Disegno.Width + 50;
+    f.FrameAtt.Left = f.FrameSel.Left();
+    // Without the tool bar the drawing keeps the room it has gained.
+    f.Disegno.Height = h - 2700 + (f.Toolbar1.Visible ? 0 : kAltezzaBarra);
+    f.StringaSel.Top = f.Disegno.Top + f.Disegno.Height + 80;
+    f.Label5.Top = f.StringaSel.Top();
+    f.Frame2.Top = f.StringaSel.Top + f.StringaSel.Height + 50;
+    f.FrameCoord.Top = f.Frame2.Top();
+    for (int k = 0; k < 3; ++k) {
+        f.Angolo[k].Top = f.StringaSel.Top();
+        f.Label1[k].Top = f.StringaSel.Top();
+        f.Label2[k].Top = f.StringaSel.Top + 100;
+        const double left = w - 2340 + k * 730;
+        f.Label1[k].Left = left;
+        f.Label2[k].Left = left + 130;
+        f.Angolo[k].Left = left + 250;
+    }
+    f.Toolbar1.Width = w;
+    f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;
+    f.Label6.Left = f.LabCoord.Left - f.Label6.Width;
+    RidisegnaAllaMisura();
+}
+
+void CollegaFormTelva() {
+    ModuloTelva &f = FormTelva;
+    CostruisciComandi();
+    for (int k = 0; k < f.OptElem.Numero(); ++k) f.OptElem[k].Click = [k] { OptElem_Click(k); };
+    for (CasellaSpunta *c : {&f.NodiAtt, &f.AsteAtt, &f.GusciAtt, &f.ElSelez, &f.ElNonSelez})
+        c->Click = Ridis_Click;
+    for (auto *campi : {&f.IntX, &f.IntY, &f.IntZ})
+        for (CasellaTesto &casella : *campi) casella.KeyDown = Ridisegna_SuInvio;
+    for (CasellaTesto &casella : f.Angolo) casella.KeyDown = Ridisegna_SuInvio;
+    f.TuttoX.Click = [] { AggiornaIntervalli(1); };
+    f.TuttoY.Click = [] { AggiornaIntervalli(2); };
+    f.TuttoZ.Click = [] { AggiornaIntervalli(3); };
+    f.Risposta.KeyDown = [](int tasto) {
+        if (tasto == kTastoInvio) EseguiRisposta();
+    };
+    f.KeyPress = [](int carattere) {
+        if (carattere == kCarattereEsc) Interrompi_Click();
+    };
+    f.Resize = Form_Resize;
+    f.Unload = ChiudiFormOpt;
+    f.Rotella = WheelCatcher1_Rotella;
+    f.Disegno.MouseDown = Disegno_MouseDown;
+    f.Disegno.MouseMove = Disegno_MouseMove;
+    f.Disegno.MouseUp = Disegno_MouseUp;
+    f.Disegno.DblClick = Disegno_DblClick;
+    f.Disegno.CatturaPersa = Disegno_CatturaPersa;
+}
+
+} // namespace telva

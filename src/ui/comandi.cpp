@@ -1,0 +1,143 @@
+#include "ui/comandi.h"
+
+#include "selection/attributi_sel.h"
+#include "selection/schede_sel.h"
+#include "selection/selezione.h"
+#include "ui/FormTelva_gestori.h"
+#include "ui/controlli/FormTelva.h"
+#include "ui/icone.h"
+
+namespace telva {
+namespace {
+
+template <std::int16_t Codice> void Colore() {
+    IniziaAttributo();
+    SelezionaPerColore(Codice);
+}
+template <std::int16_t Codice> void Punto() {
+    IniziaAttributo();
+    SelezionaPerTipoPunto(Codice);
+}
+template <std::int16_t Codice> void Linea() {
+    IniziaAttributo();
+    SelezionaPerTipoLinea(Codice);
+}
+template <std::int16_t Codice> void Tratto() {
+    IniziaAttributo();
+    SelezionaPerTratteggio(Codice);
+}
+template <std::uint8_t Codice> void Scheda() {
+    AnnullaElastici();
+    IniziaProprieta(Codice);
+}
+
+ModuloTelva &f = FormTelva;
+
+const Comando kComandi[] = {
+    {&f.File, 0, "&File"},
+    {&f.Salva, 1, "&Aggiorna ed Esci", 'G', Salva_Click, "AggiornaEsci", "Aggiorna ed esci"},
+    {&f.Esci, 1, "&Esci", 'E', Esci_Click, "Esci", "Esci"},
+    {&f.Visualizza, 0, "&Visualizza"},
+    {&f.Ottimizza, 1, "&Ottimizza", 'O', Ottimizza_Click, "Ottimizza", "Ottimizza", true},
+    {&f.ZoomIn, 1, "&Zoom", 'Z', ZoomIn_Click, "Zoom", "Zoom"},
+    {&f.Sposta, 1, "&Sposta", 'S', Sposta_Click, "Sposta", "Sposta"},
+    {&f.Ridis, 1, "&Ridisegna", 'R', Ridis_Click, "Ridisegna", "Ridisegna"},
+    {&f.Operazioni, 0, "&Operazioni"},
+    {&f.Aggiungi, 1, "&Aggiungi", 'A', Aggiungi_Click, "Aggiungi", "Aggiungi selezione", true},
+    {&f.Rimuovi, 1, "&Rimuovi", 'T', Rimuovi_Click, "Rimuovi", "Rimuovi selezione"},
+    {&f.RimTutto, 1, "Ri&muovi tutto", 0, RimTutto_Click, "RimuoviTutto", "Rimuovi tutto"},
+    {&f.Inverti, 1, "In&verti selezione", 0, Inverti_Click, "InvertiSel", "Inverti selezione"},
+    {&f.Interrompi, 1, "&Interrompi", 0, Interrompi_Click, "Interrompi", "Interrompi"},
+    {&f.Selezioni, 0, "&Selezioni"},
+    {&f.Finestra, 1, "&Finestra", 0, FinestraComando_Click},
+    {&f.Colore, 1, "&Colore"},
+    {&f.Bianco, 2, "Bianco", 0, Colore<1>},
+    {&f.Blu, 2, "Blu", 0, Colore<2>},
+    {&f.Rosso, 2, "Rosso", 0, Colore<3>},
+    {&f.Verde, 2, "Verde", 0, Colore<4>},
+    {&f.Giallo, 2, "Giallo", 0, Colore<5>},
+    {&f.VerdeScuro, 2, "Verde scuro", 0, Colore<6>},
+    {&f.Magenta, 2, "Magenta", 0, Colore<7>},
+    {&f.Azzurro, 2, "Azzurro", 0, Colore<8>},
+    {&f.Arancione, 2, "Arancione", 0, Colore<9>},
+    {&f.TuttiCol, 2, "Tutti", 0, Colore<kOgniColore>},
+    {&f.TipoPunto, 1, "Tipo &punto"},
+    {&f.TipoPt1, 2, "1", 0, Punto<0>},
+    {&f.TipoPt2, 2, "2", 0, Punto<1>},
+    {&f.TipoPt3, 2, "3", 0, Punto<2>},
+    {&f.TipoPt4, 2, "4", 0, Punto<3>},
+    {&f.TuttiPt, 2, "Tutti", 0, Punto<kOgniPunto>},
+    {&f.TipoLinea, 1, "Tipo &linea"},
+    {&f.TipoLn1, 2, "1", 0, Linea<0>},
+    {&f.TipoLn2, 2, "2", 0, Linea<1>},
+    {&f.TipoLn3, 2, "3", 0, Linea<2>},
+    {&f.TipoLn4, 2, "4", 0, Linea<3>},
+    {&f.TipoLn5, 2, "5", 0, Linea<4>},
+    {&f.TuttiLn, 2, "Tutti", 0, Linea<kOgniLinea>},
+    {&f.TipoTratt, 1, "Tipo &tratteggio"},
+    {&f.TipoTr1, 2, "1", 0, Tratto<1>},
+    {&f.TipoTr2, 2, "2", 0, Tratto<2>},
+    {&f.TipoTr3, 2, "3", 0, Tratto<3>},
+    {&f.TipoTr4, 2, "4", 0, Tratto<4>},
+    {&f.TipoTr5, 2, "5", 0, Tratto<5>},
+    {&f.TipoTr6, 2, "6", 0, Tratto<6>},
+    {&f.TipoTr7, 2, "7", 0, Tratto<7>},
+    {&f.TipoTr8, 2, "8", 0, Tratto<8>},
+    {&f.TuttiTr, 2, "Tutti", 0, Tratto<kOgniTratto>},
+    {&f.Materiale, 1, "&Materiale", 0, Scheda<kMateriale>},
+    {&f.SchSezione, 1, "Sezione", 0, Scheda<kSezione>},
+    {&f.SchSpessore, 1, "Spessore", 0, Scheda<kSpessore>},
+    {&f.SchOrientamento, 1, "Orientamento", 0, Scheda<kOrientamento>},
+    {&f.SchSvincolo, 1, "Svincolo", 0, Scheda<kSvincolo>},
+    {&f.SchVincolo, 1, "Vincolo", 0, Scheda<kVincolo>},
+    {&f.Nome, 1, "N&ome elemento", 0, Scheda<kNome>},
+    {&f.Tutto, 1, "T&utto", 0, Colore<kOgniColore>},
+    {&f.Opzioni, 0, "Op&zioni"},
+    {&f.VisCoord, 1, "&Visualizza Coordinate", 0, VisCoord_Click},
+    {&f.VisAssi, 1, "Visualizza &Assi", 0, VisAssi_Click},
+    {&f.BarraLat, 1, "&Barra laterale", 0, BarraLat_Click, "AggiungiBarraLat",
+     "Attiva o disattiva la barra laterale", true},
+    {&f.BarraIcone, 1, "Barra delle &icone", 0, BarraIcone_Click},
+    {&f.Trappola, 1, "&Trappola...", 0, Trappola_Click},
+    {&f.Rappresentazione, 1, "O&pzioni...", 0, Rappresentazione_Click},
+};
+
+} // namespace
+
+std::span<const Comando> TabellaComandi() { return kComandi; }
+
+void CostruisciComandi() {
+    VoceMenu *capo[3] = {};
+    f.barraMenu.clear();
+    f.Toolbar1.Bottoni.clear();
+    for (const Comando &c : kComandi) {
+        c.voce->Caption = c.didascalia;
+        c.voce->Enabled = true;
+        c.voce->Checked = false;
+        c.voce->scorciatoia = c.scorciatoia;
+        if (c.gestore) c.voce->Click = c.gestore;
+        c.voce->voci.clear();
+        capo[c.livello] = c.voce;
+        if (c.livello == 0)
+            f.barraMenu.push_back(c.voce);
+        else
+            capo[c.livello - 1]->voci.push_back(c.voce);
+        if (c.chiave)
+            f.Toolbar1.Bottoni.push_back({c.chiave, c.suggerimento, c.voce, c.nuovoGruppo});
+    }
+    for (VoceMenu *v : {&f.VisCoord, &f.VisAssi, &f.BarraLat, &f.BarraIcone}) v->Checked = true;
+    DisabilitaComandi();
+    f.Interrompi.Enabled = false;
+    f.Toolbar1.ButtonClick = EseguiChiave;
+    f.Toolbar1.Icona = DisegnaIcona;
+}
+
+void EseguiChiave(const std::string &chiave) {
+    for (const Comando &c : kComandi)
+        if (c.chiave && chiave == c.chiave) {
+            c.gestore();
+            return;
+        }
+}
+
+} // namespace telva

@@ -1,0 +1,137 @@
+#include "view/FunzDisegno.h"
+
+#include "model/opzioni_cond.h"
+#include "model/tabelle_cond.h"
+#include "platform/numeri.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/assi.h"
+#include "view/etichette.h"
+#include "view/inquadra.h"
+#include "view/proiezione.h"
+#include "view/retini.h"
+#include "view/salva_dis_cond.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace telva {
+namespace {
+
+constexpr std::uint32_t kColoreEvidenza = 0xFFFF00; // cyan
+
+bool GuscioSottile(int s) {
+    const int scheda = SpessoreGuscio[s];
+    return OpzioneAttiva(kOpzNascondiSottili) && scheda >= 1 && scheda <= NumSpessori &&
+           ValSpessore[scheda - 1] < OpzioneNumero(kOpzSpessoreMinimo);
+}
+
+int Penna(int opzione) {
+    return static_cast<int>(std::clamp(ArrotondaPari(OpzioneNumero(opzione)), 1.0,
+                                       double(Superficie::kPennaMassima)));
+}
+
+// How elements are drawn, from the options, once for a whole picture.
+struct Stile {
+    bool evidenziaSel = OpzioneAttiva(kOpzColoreSel);
+    int pennaSel = Penna(kOpzPennaSel), pennaNonSel = Penna(kOpzPennaNonSel);
+
+    // With the option off the two roles are exchanged on purpose.
+    std::uint32_t Colore(bool sel, int codice) const {
+        return sel == evidenziaSel ? kColoreEvidenza : ColoreRGB(codice);
+    }
+    int Larghezza(bool sel) const { return sel ? pennaSel : pennaNonSel; }
+};
+
+// Dash patterns by line type: continuous, dashed, dotted, dash-dot, dash-dot-dot.
+Tratteggio TrattoLinea(int tipo) {
+    switch (tipo) {
+    case 1: return {0x1FF, 14};
+    case 2: return {0x3, 6};
+    case 3: return {0xC1FF, 20};    // 9 on, 5 off, 2 on, 4 off
+    case 4: return {0x30C1FF, 26};  // the same and once more 2 on, 4 off
+    default: return {};
+    }
+}
+
+// Bars of selected continuous elements are drawn as selected.
+std::vector<bool> AsteEvidenziate() {
+    std::vector<bool> aste(kAste, false);
+    for (int b = 0; b < NumAste; ++b) aste[static_cast<std::size_t>(b)] = SelAsta[b] == 1;
+    for (int k = 0; k < NumElCont; ++k) {
+        if (SelElCont[k] != 1) continue;
+        for (int j = 0; j < NumAsteElCont[k]; ++j)
+            if (const int b = AsteElCont(k, j); static_cast<unsigned>(b) < kAste)
+                aste[static_cast<std::size_t>(b)] = true;
+    }
+    return aste;
+}
+
+void DisegnaAste(const Stile &stile) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    const std::vector<bool> evidenziate = AsteEvidenziate();
+    for (int b = 0; b < NumAste; ++b) {
+        if (!AstaDisegnata(b)) continue;
+        const bool sel = evidenziate[static_cast<std::size_t>(b)];
+        const int i = NodoIAsta[b], j = NodoJAsta[b];
+        d.DrawWidth = stile.Larghezza(sel);
+        d.Line(XNodo(i), YNodo(i), XNodo(j), YNodo(j), stile.Colore(sel, ColAsta[b]),
+               TrattoLinea(TipoLinAsta[b]));
+    }
+}
+
+void DisegnaGusci(const Stile &stile) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    for (int s = 0; s < NumGusci; ++s) {
+        if (!GuscioDisegnato(s)) continue;
+        const bool sel = SelGuscio[s] == 1;
+        const std::uint32_t colore = stile.Colore(sel, ColGuscio[s]);
+        const auto &nodi = NodiGuscio[s];
+        const auto angoli = static_cast<std::size_t>(NumeroAngoli(s));
+        DisegnaRetino(s, colore);
+        d.DrawWidth = stile.Larghezza(sel);
+        for (std::size_t c = 0; c < angoli; ++c) {
+            const int a = nodi[c], z = nodi[(c + 1) % angoli];
+            d.Line(XNodo(a), YNodo(a), XNodo(z), YNodo(z), colore);
+        }
+    }
+}
+
+void DisegnaNodi(const Stile &stile) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    const double raggio = OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel();
+    for (int i = 0; i < NumNodi; ++i) {
+        if (!NodoDisegnato(i)) continue;
+        const bool sel = SelNodo[i] == 1;
+        d.DrawWidth = stile.Larghezza(sel);
+        d.Circle(XNodo(i), YNodo(i), raggio, stile.Colore(sel, ColNodo[i]));
+    }
+}
+
+} // namespace
+
+bool NodoDisegnato(int i) {
+    return NomeNodo[i] > 0 && ColNodo[i] < kColoreNascosto && AttNodo[i] == 1;
+}
+bool AstaDisegnata(int b) {
+    return NomeAsta[b] > 0 && ColAsta[b] < kColoreNascosto && AttAsta[b] == 1;
+}
+bool GuscioDisegnato(int s) {
+    return NomeGuscio[s] > 0 && ColGuscio[s] < kColoreNascosto && AttGuscio[s] == 1 &&
+           !GuscioSottile(s);
+}
+
+void DisegnaStruttura() {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    const Stile stile;
+    d.Cls();
+    if (FormTelva.VisAssi.Checked) DisegnaAssi();
+    DisegnaAste(stile);
+    DisegnaGusci(stile);
+    DisegnaNodi(stile);
+    DisegnaEtichette();
+    d.DrawWidth = 1;
+    d.Presenta();
+}
+
+} // namespace telva

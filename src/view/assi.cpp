@@ -1,0 +1,47 @@
+#include "view/assi.h"
+
+#include "model/opzioni_cond.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/proiezione.h"
+#include "view/salva_dis_cond.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace telva {
+namespace {
+
+constexpr double kMarginePixel = 8;
+constexpr double kStaccoLettera = 1.15; // letters stand a little beyond the end of their axis
+
+} // namespace
+
+void DisegnaAssi() {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    const double unita = d.UnitaPerPixel();
+    const double lunghezza = std::abs(OpzInt[2] * unita);
+    const double lettera = std::abs(OpzInt[3] * unita);
+    if (lunghezza == 0) return;
+    const Direzione *assi[3] = {&DirAsseX, &DirAsseY, &DirAsseZ};
+    double sinistra = 0, basso = 0;
+    for (const Direzione *a : assi) {
+        sinistra = std::min(sinistra, a->x * lunghezza * kStaccoLettera);
+        basso = std::min(basso, a->y * lunghezza * kStaccoLettera);
+    }
+    const double bordo = kMarginePixel * unita + lettera;
+    const double ox = d.ScaleLeft - sinistra + bordo;
+    const double oy = d.ScaleTop + d.ScaleHeight - basso + bordo;
+    // A code that is no 16-bit number is no colour of the table either, and those are white.
+    const double codice = std::clamp(std::trunc(OpzInt[5]), -1.0, 10.0);
+    const auto colore = static_cast<std::int16_t>(codice);
+    d.DrawWidth = 1;
+    static constexpr const char *kLettere[3] = {"X", "Y", "Z"};
+    for (int k = 0; k < 3; ++k) {
+        const double fx = assi[k]->x * lunghezza, fy = assi[k]->y * lunghezza;
+        d.Line(ox, oy, ox + fx, oy + fy, ColoreRGB(colore));
+        const double lx = ox + fx * kStaccoLettera, ly = oy + fy * kStaccoLettera;
+        DisTesto(kLettere[k], lx - lettera / 2, ly - lettera / 2, 0, lettera, lettera, colore, &d);
+    }
+}
+
+} // namespace telva

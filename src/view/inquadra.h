@@ -1,0 +1,39 @@
+#pragma once
+// Which part of the projected structure fills the picture box, and what of it is active.
+
+namespace telva {
+
+// Window in drawing coordinates. "First" is always the larger value of an axis.
+struct FinestraDisegno {
+    double primaX = 0, secondaX = 0, primaY = 0, secondaY = 0;
+    friend bool operator==(const FinestraDisegno &, const FinestraDisegno &) = default;
+};
+
+extern FinestraDisegno FinestraZoom;  // set by zoom, pan and wheel; zeros = fit to the structure
+extern FinestraDisegno FinestraVista; // fitted by the last Adatta, before its margins
+
+// True while a zoom window is set.
+bool ZoomImpostato();
+
+// Puts the two corners in order and makes them the zoom window.
+void ImpostaZoom(double xa, double ya, double xb, double yb);
+
+// `partenza` moved by (-dx, -dy) becomes the zoom window.
+void SpostaVista(const FinestraDisegno &partenza, double dx, double dy);
+
+// Brings FinestraVista up to date with what is shown, without touching the scale.
+void AggiornaFinestraVista();
+
+// Wheel by d steps (positive = zoom in). False when the window has become too small to redraw.
+bool ApplicaRotella(double d);
+
+// Active flags of all elements, from the coordinate intervals and the side bar's check boxes.
+void CalcolaAttivi();
+
+// Activation, then the user scale of Disegno: the chosen window undistorted, centred, with
+// margins. A window without area leaves the scale as it is.
+void Adatta();
+
+void AzzeraVista();
+
+} // namespace telva

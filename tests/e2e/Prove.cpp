@@ -1,0 +1,123 @@
+// prove_e2e --telva EXE --dati INSTALLATION [--solo NAME] [--foto DIR]
+// The exit code is the number of scenarios that failed, at most 100.
+#include "Prove.h"
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <map>
+
+namespace telva::prove {
+
+namespace {
+
+using Scenari = std::map<std::string, void (*)(const Ambiente &)>;
+
+Scenari &Elenco() {
+    static Scenari elenco;
+    return elenco;
+}
+
+int controlli = 0, errori = 0;
+
+void Errore(const std::string &testo) {
+    ++errori;
+    std::printf("    FAILED %s\n", testo.c_str());
+}
+
+bool Esegui(const std::string &nome, void (*corpo)(const Ambiente &), const Ambiente &amb) {
+    controlli = errori = 0;
+    alFallimento = [&] {
+        if (!amb.foto.empty() && errori == 0) ScriviBmp(Schermo(), amb.foto / (nome + ".bmp"));
+    };
+    const ULONGLONG da = GetTickCount64();
+    try {
+        corpo(amb);
+        if (controlli == 0) Errore("the scenario checked nothing");
+    } catch (const std::exception &e) {
+        Errore(e.what());
+    }
+    std::printf("%s %s (%d checks, %llu ms)\n", errori ? "FAILED" : "ok    ", nome.c_str(),
+                controlli, GetTickCount64() - da);
+    std::fflush(stdout);
+    return errori == 0;
+}
+
+int EseguiTutti(const Ambiente &amb, const std::string &solo) {
+    int eseguiti = 0, falliti = 0;
+    for (const auto &[nome, corpo] : Elenco())
+        if (solo.empty() || solo == nome) {
+            ++eseguiti;
+            if (!Esegui(nome, corpo, amb)) ++falliti;
+        }
+    if (eseguiti == 0) std::printf("no scenario '%s'\n", solo.c_str());
+    std::printf("%d scenarios, %d failed\n", eseguiti, falliti);
+    return eseguiti == 0 ? 1 : std::min(falliti, 100);
+}
+
+} // namespace
+
+Registra::Registra(const std::string &nome, void (*corpo)(const Ambiente &)) {
+    Elenco()[nome] = corpo;
+}
+
+void Verifica(bool esito, const std::string &testo, const char *file, int riga) {
+    ++controlli;
+    if (esito) return;
+    if (alFallimento) alFallimento();
+    Errore(std::filesystem::path(file).filename().string() + ":" + std::to_string(riga) + " " +
+           testo);
+}
+
+std::string Visibile(const std::string &testo) {
+    std::string r = "'";
+    for (char c : testo) r += c == '\r' ? "\\r" : c == '\n' ? "\\n" : std::string(1, c);
+    return r + "'";
+}
+
+std::filesystem::path Ambiente::Lavori() const {
+    auto riga = LeggiByte(dati / "impostazioni" / "dirlav").value_or("");
+    riga = riga.substr(0, riga.find_first_of(",\r\n"));
+    std::erase(riga, '"');
+    std::transform(riga.begin(), riga.end(), riga.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return riga.ends_with('\\') ? riga : riga + '\\';
+}
+
+std::wstring Ambiente::Argomento(const std::string &altro) const {
+    return L"|diroot=" + dati.wstring() + L"|" + Largo(altro);
+}
+
+} // namespace telva::prove
+
+int main() {
+    using namespace telva::prove;
+    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    SetConsoleOutputCP(CP_UTF8);
+    Ambiente amb;
+    std::wstring solo;
+    int n = 0;
+    wchar_t **argomenti = CommandLineToArgvW(GetCommandLineW(), &n);
+    for (int i = 1; i < n; ++i) {
+        const std::wstring nome = argomenti[i];
+        const std::wstring valore = i + 1 < n ? argomenti[++i] : L"";
+        if (nome == L"--telva")
+            amb.telva = valore;
+        else if (nome == L"--dati")
+            amb.dati = valore;
+        else if (nome == L"--foto")
+            amb.foto = valore;
+        else if (nome == L"--solo")
+            solo = valore;
+        else
+            amb.telva.clear(), i = n;
+    }
+    if (amb.telva.empty() || amb.dati.empty()) {
+        std::printf("prove_e2e --telva EXE --dati DIR [--solo NAME] [--foto DIR]\n");
+        return 101;
+    }
+    if (!amb.foto.empty()) std::filesystem::create_directories(amb.foto);
+    return EseguiTutti(amb, Utf8(solo));
+}
