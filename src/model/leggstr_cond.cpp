@@ -61,9 +61,8 @@ class LettoreStruttura {
         std::string_view riga;
         file_.LeggiRiga(riga);
         if (Minuscole(riga).find("release") != std::string::npos) return;
-        MostraMessaggio(
-            "Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
-            Icona::Critica, "Attenzione");
+        MostraMessaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
+                        Icona::Critica, "Attenzione");
         FineProgramma();
     }
 
@@ -208,7 +207,8 @@ class LettoreStruttura {
         std::string_view riga;
         if (!file_.LeggiRiga(riga)) return;
         const double numero = ValoreCampo(ProssimoCampo(riga));
-        for (double n = 0; n < numero && file_.LeggiRiga(riga); ++n) {}
+        for (double n = 0; n < numero && file_.LeggiRiga(riga); ++n) {
+        }
     }
 
     void LeggiTesti() {

@@ -29,8 +29,8 @@ std::string TestoValore(const Valore &valore) {
     if (!testo) return {};
     const std::string rifilato(Rifila(*testo));
     // A comma would end the value when it is read back.
-    const bool virgola = rifilato.find(',') != std::string::npos &&
-                         rifilato.find('"') == std::string::npos;
+    const bool virgola =
+        rifilato.find(',') != std::string::npos && rifilato.find('"') == std::string::npos;
     return virgola ? '"' + rifilato + '"' : rifilato;
 }
 

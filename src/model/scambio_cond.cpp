@@ -18,8 +18,7 @@ std::string &StrSel(int tipo) {
     static const Tabella<std::string *, 5> liste = [] {
         Tabella<std::string *, 5> t{"StrSel"};
         int k = 0;
-        for (auto *lista :
-             {&StrSelNodi, &StrSelAste, &StrSelGusci, &StrSelElCont, &StrSelPareti})
+        for (auto *lista : {&StrSelNodi, &StrSelAste, &StrSelGusci, &StrSelElCont, &StrSelPareti})
             t[k++] = lista;
         return t;
     }();

@@ -2,7 +2,8 @@
 
 namespace telva {
 
-#define TABELLA(nome) nome{#nome}
+#define TABELLA(nome)                                                                              \
+    nome { #nome }
 
 std::int16_t NumPunti;
 Tabella<double, kPunti> TABELLA(PuntoX), TABELLA(PuntoY), TABELLA(PuntoZ);
@@ -22,8 +23,7 @@ Tabella<double, kAste> TABELLA(IngIX), TABELLA(IngIY), TABELLA(IngIZ), TABELLA(I
 
 std::int16_t NumGusci;
 Tabella<std::array<std::int16_t, 5>, kGusci> TABELLA(NodiGuscio);
-Campi16Gusci TABELLA(TrattGuscio), TABELLA(NomeGuscio), TABELLA(SpessoreGuscio),
-    TABELLA(ColGuscio);
+Campi16Gusci TABELLA(TrattGuscio), TABELLA(NomeGuscio), TABELLA(SpessoreGuscio), TABELLA(ColGuscio);
 
 std::int16_t NumElCont;
 Campi16ElCont TABELLA(NumeroElCont), TABELLA(DatoElCont2), TABELLA(NumAsteElCont);

@@ -63,8 +63,8 @@ void LeggiUnElCont(FileTesto &file, int k) {
     const std::int16_t aste = InteroDovuto(file);
     if (aste > kAsteElCont)
         GuastoInFile(file.Percorso(), file.Riga(),
-                     "troppe aste nell'elemento continuo: " + TestoNumero(aste) +
-                         " (al massimo " + TestoNumero(kAsteElCont) + ")");
+                     "troppe aste nell'elemento continuo: " + TestoNumero(aste) + " (al massimo " +
+                         TestoNumero(kAsteElCont) + ")");
     NumAsteElCont[k] = std::max<std::int16_t>(aste, 0);
     for (int j = 0; j < NumAsteElCont[k]; ++j) AsteElCont(k, j) = InteroDovuto(file);
 }
@@ -101,8 +101,7 @@ std::string LeggiSezioni() {
 
 std::string LeggiElCont() {
     FileTesto file;
-    if (!file.Apri(DirLavoro + "\\el_conti.tmp"))
-        return Messaggi[2] + DirLavoro + "\\el_conti.tmp";
+    if (!file.Apri(DirLavoro + "\\el_conti.tmp")) return Messaggi[2] + DirLavoro + "\\el_conti.tmp";
     double numero = 0;
     if (file.LeggiNumero(numero) != Lettura::Riuscita)
         GuastoInFile(file.Percorso(), std::max(file.Riga(), 1), "numero intero errato");

@@ -14,7 +14,9 @@ SistemaFinestre *&Sistema() {
 
 void ImpostaSistemaFinestre(SistemaFinestre *sistema) { Sistema() = sistema; }
 
-int APixel(double twip, double dpi) { return static_cast<int>(std::floor(twip * dpi / 1440 + 0.5)); }
+int APixel(double twip, double dpi) {
+    return static_cast<int>(std::floor(twip * dpi / 1440 + 0.5));
+}
 double ATwip(double pixel, double dpi) { return pixel * 1440 / dpi; }
 
 Controllo::Controllo(Modulo *proprietario, std::string nome, Tipo tipo, Controllo *genitore)
@@ -41,7 +43,9 @@ void Controllo::Posiziona(double left, double top, double width, double height) 
     Height = height;
 }
 
-double Controllo::LeftAssoluto() const { return Left + (genitore_ ? genitore_->LeftAssoluto() : 0); }
+double Controllo::LeftAssoluto() const {
+    return Left + (genitore_ ? genitore_->LeftAssoluto() : 0);
+}
 double Controllo::TopAssoluto() const { return Top + (genitore_ ? genitore_->TopAssoluto() : 0); }
 bool Controllo::VisibileDavvero() const {
     return Visible && (!genitore_ || genitore_->VisibileDavvero());

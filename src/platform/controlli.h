@@ -24,8 +24,21 @@ enum class Puntatore { Predefinito = 0, Croce = 2, Ridimensiona = 5, Clessidra =
 
 // Which property changed, for the peer.
 enum class Campo {
-    Posizione, Visibile, Abilitato, Didascalia, Testo, Spunta, Sfondo, Puntatore, Suggerimento,
-    Fuoco, Immagine, Elastici, Menu, Barra, Colore
+    Posizione,
+    Visibile,
+    Abilitato,
+    Didascalia,
+    Testo,
+    Spunta,
+    Sfondo,
+    Puntatore,
+    Suggerimento,
+    Fuoco,
+    Immagine,
+    Elastici,
+    Menu,
+    Barra,
+    Colore
 };
 
 class Controllo;
@@ -39,11 +52,21 @@ class Pari {
 };
 
 enum class Tipo {
-    Modulo, Etichetta, CasellaTesto, CasellaSpunta, BottoneOpzione, Pulsante, Cornice, Disegno,
-    BarraStrumenti, Campione, VoceMenu
+    Modulo,
+    Etichetta,
+    CasellaTesto,
+    CasellaSpunta,
+    BottoneOpzione,
+    Pulsante,
+    Cornice,
+    Disegno,
+    BarraStrumenti,
+    Campione,
+    VoceMenu
 };
 
-template <class T> class Proprieta {
+template <class T>
+class Proprieta {
   public:
     Proprieta(Controllo &controllo, Campo campo, T valore = T{})
         : controllo_(&controllo), campo_(campo), valore_(std::move(valore)) {}
@@ -56,7 +79,10 @@ template <class T> class Proprieta {
     // Takes over what the native control already shows.
     void Accogli(T valore) { valore_ = std::move(valore); }
 
-    template <class U> bool operator==(const U &valore) const { return valore_ == valore; }
+    template <class U>
+    bool operator==(const U &valore) const {
+        return valore_ == valore;
+    }
 
   private:
     Controllo *controllo_;
@@ -98,7 +124,8 @@ class Controllo {
     Controllo *genitore_;
 };
 
-template <class T> Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
+template <class T>
+Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
     if (!(valore_ == valore)) {
         valore_ = valore;
         controllo_->Avvisa(campo_);
@@ -172,7 +199,8 @@ class Pulsante : public Controllo {
     std::function<void()> Click;
 };
 
-// Coloured rectangle to choose from; `Marcato` shows it as the chosen one.
+// Coloured rectangle to choose from, or (without Click) the frame around one, which shows that it
+// is `Marcato`. The caption names the colour for those who do not see it.
 class Campione : public Controllo {
   public:
     Campione(Modulo *f, std::string nome, Controllo *genitore = nullptr)
@@ -180,6 +208,7 @@ class Campione : public Controllo {
           Marcato(*this, Campo::Colore, false) {}
     Proprieta<std::uint32_t> BackColor;
     Proprieta<bool> Marcato;
+    std::string didascalia;
     std::function<void()> Click;
 };
 
@@ -237,10 +266,11 @@ class Modulo : public Controllo {
     explicit Modulo(std::string nome);
     Proprieta<std::string> Caption;
     Proprieta<telva::Puntatore> MousePointer;
-    bool ridotta = false;      // minimised
+    bool ridotta = false; // minimised
+    // Width and Height are the outer size of a window that can be resized, the inner size of one
+    // that cannot.
     bool ridimensionabile = false;
     double larghezzaMinima = 0, altezzaMinima = 0; // outer, twips
-    double bordoX = 0, bordoY = 0; // outer size less inner size of the shown window, twips
     double dpi = 96;
 
     std::vector<Controllo *> controlli; // in the order of declaration, which is the tab order
@@ -298,7 +328,8 @@ class RaccoltaRotella {
 };
 
 // N controls of one kind with the names "Nome(0)", "Nome(1)", ...
-template <class T, std::size_t N> class Schiera {
+template <class T, std::size_t N>
+class Schiera {
   public:
     Schiera(Modulo *f, const std::string &nome, Controllo *genitore = nullptr)
         : Schiera(f, nome, genitore, std::make_index_sequence<N>{}) {}

@@ -30,8 +30,12 @@ RiquadroDisegno::RiquadroDisegno(Modulo *f, std::string nome)
       MousePointer(*this, Campo::Puntatore, Puntatore::Predefinito), Shape(*this),
       LineSposta(*this) {}
 
-int RiquadroDisegno::LarghezzaPixel() const { return std::max(1, APixel(Width, Proprietario()->dpi)); }
-int RiquadroDisegno::AltezzaPixel() const { return std::max(1, APixel(Height, Proprietario()->dpi)); }
+int RiquadroDisegno::LarghezzaPixel() const {
+    return std::max(1, APixel(Width, Proprietario()->dpi));
+}
+int RiquadroDisegno::AltezzaPixel() const {
+    return std::max(1, APixel(Height, Proprietario()->dpi));
+}
 
 void RiquadroDisegno::AggiornaScala() {
     scalaX_ = LarghezzaPixel() / ScaleWidth;

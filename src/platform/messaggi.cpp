@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <new>
 
 namespace telva {
 namespace {
@@ -46,6 +47,8 @@ void EseguiProtetto(const std::function<void()> &evento) {
         motivo = g.what();
     } catch (const std::bad_alloc &) {
         motivo = "Memoria insufficiente";
+    } catch (const std::exception &e) {
+        motivo = std::string("Errore interno: ") + e.what();
     }
     ChiudiPerGuasto(motivo);
 }

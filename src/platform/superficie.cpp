@@ -54,9 +54,9 @@ void Superficie::Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint
 // Walks the line along its longer direction: step i = 0..maggiore stands at
 // minor coordinate floor((2*minore*i + maggiore) / (2*maggiore)). Which steps fall inside the
 // surface is solved beforehand, so the loop itself tests nothing. Calls scrivi(offset, step).
-template <class Scrivi> void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
-    const bool ripida =
-        std::abs(std::int64_t{b.y} - a.y) > std::abs(std::int64_t{b.x} - a.x);
+template <class Scrivi>
+void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
+    const bool ripida = std::abs(std::int64_t{b.y} - a.y) > std::abs(std::int64_t{b.x} - a.x);
     // From here on u is the longer direction and v the other one.
     std::int64_t u0 = ripida ? a.y : a.x, v0 = ripida ? a.x : a.y;
     std::int64_t u1 = ripida ? b.y : b.x, v1 = ripida ? b.x : b.y;
@@ -86,8 +86,8 @@ template <class Scrivi> void Superficie::Percorri(Pixel a, Pixel b, Scrivi scriv
     std::int64_t errore = maggiore > 0 ? avanzo - fatti * 2 * maggiore : 0;
     const std::int64_t u = u0 + da;
     const std::int64_t v = v0 + segno * fatti;
-    std::ptrdiff_t posto = static_cast<std::ptrdiff_t>(ripida ? u * larghezza_ + v
-                                                              : v * larghezza_ + u);
+    std::ptrdiff_t posto =
+        static_cast<std::ptrdiff_t>(ripida ? u * larghezza_ + v : v * larghezza_ + u);
     const std::ptrdiff_t passoU = ripida ? larghezza_ : 1;
     const std::ptrdiff_t passoV =
         static_cast<std::ptrdiff_t>(segno) * (ripida ? 1 : static_cast<std::ptrdiff_t>(larghezza_));
@@ -205,11 +205,11 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
         }
         const auto yy = static_cast<double>(y);
         if (dy > 0 && yy >= sinistraDa && yy <= sinistraA)
-            xDa = std::min(xDa, static_cast<std::int64_t>(std::ceil(
-                                    a.x + centro - nx + (yy - sinistraDa) * pendenza)));
+            xDa = std::min(xDa, static_cast<std::int64_t>(
+                                    std::ceil(a.x + centro - nx + (yy - sinistraDa) * pendenza)));
         if (dy > 0 && yy >= destraDa && yy <= destraA)
-            xA = std::max(xA, static_cast<std::int64_t>(std::floor(
-                                  a.x + centro + nx + (yy - destraDa) * pendenza)));
+            xA = std::max(xA, static_cast<std::int64_t>(
+                                  std::floor(a.x + centro + nx + (yy - destraDa) * pendenza)));
         if (dy == 0) { // a level band: the rows between the discs' middles are whole
             const std::int64_t i = y - a.y - yDisco;
             const Tratto &t = disco[static_cast<std::size_t>(i)];

@@ -52,7 +52,8 @@ class Superficie {
         int y, xDa, xA;
     };
     void Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint32_t colore);
-    template <class Scrivi> void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
+    template <class Scrivi>
+    void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
     const std::vector<Tratto> &Disco(int larghezza);
     const std::vector<Tratto> &Anello(int raggio, int larghezza);
     void Timbra(const std::vector<Tratto> &forma, Pixel centro, std::uint32_t colore);

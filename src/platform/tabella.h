@@ -13,7 +13,8 @@ namespace telva {
 [[noreturn]] void GuastoIndice(const char *tabella, long indice, long ultimo);
 
 // Entries 0..N-1; an index outside throws Guasto.
-template <class T, int N> class Tabella {
+template <class T, int N>
+class Tabella {
   public:
     explicit constexpr Tabella(const char *nome) : nome_(nome) {}
 
@@ -34,7 +35,8 @@ template <class T, int N> class Tabella {
 };
 
 // Entries (0..N-1, 0..M-1), the second index the fast one; an index outside throws Guasto.
-template <class T, int N, int M> class Tabella2 {
+template <class T, int N, int M>
+class Tabella2 {
   public:
     explicit constexpr Tabella2(const char *nome) : nome_(nome) {}
 

@@ -69,7 +69,9 @@ char32_t ProssimoCarattere(std::string_view testo, std::size_t &posto) {
 }
 
 void AggiungiCarattere(std::string &testo, char32_t c) {
-    const auto metti = [&](char32_t b) { testo += static_cast<char>(static_cast<unsigned char>(b)); };
+    const auto metti = [&](char32_t b) {
+        testo += static_cast<char>(static_cast<unsigned char>(b));
+    };
     if (c < 0x80) {
         metti(c);
     } else if (c < 0x800) {

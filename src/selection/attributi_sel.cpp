@@ -35,12 +35,8 @@ void SegnaElCont(const std::int16_t *campo, std::int16_t codice, std::int16_t og
 void Seleziona(const Famiglia &f, std::int16_t codice) {
     AzzeraInput();
     switch (FormTelva.TipoElemento()) {
-    case kNodiTipo:
-        Segna(SelNodo.Dati(), AttNodo.Dati(), NumNodi, f.nodi, codice, f.ogni);
-        break;
-    case kAsteTipo:
-        Segna(SelAsta.Dati(), AttAsta.Dati(), NumAste, f.aste, codice, f.ogni);
-        break;
+    case kNodiTipo: Segna(SelNodo.Dati(), AttNodo.Dati(), NumNodi, f.nodi, codice, f.ogni); break;
+    case kAsteTipo: Segna(SelAsta.Dati(), AttAsta.Dati(), NumAste, f.aste, codice, f.ogni); break;
     case kElContTipo: SegnaElCont(f.aste, codice, f.ogni); break;
     default: // walls are drawn from the shells, and have no attributes of their own
         Segna(SelGuscio.Dati(), AttGuscio.Dati(), NumGusci, f.gusci, codice, f.ogni);

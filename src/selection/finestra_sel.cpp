@@ -18,10 +18,9 @@ struct Riquadro {
     double x0, y0, x1, y1, larghezza, altezza;
 
     bool Contiene(double px, double py) const {
-        return !(std::abs(px - x0) - larghezza > kMargine ||
-                 std::abs(py - y0) - altezza > kMargine ||
-                 std::abs(px - x1) - larghezza > kMargine ||
-                 std::abs(py - y1) - altezza > kMargine);
+        return !(
+            std::abs(px - x0) - larghezza > kMargine || std::abs(py - y0) - altezza > kMargine ||
+            std::abs(px - x1) - larghezza > kMargine || std::abs(py - y1) - altezza > kMargine);
     }
 };
 
@@ -45,7 +44,8 @@ bool ElContDentro(int k) {
     return true;
 }
 
-template <class Prova> void Segna(std::int16_t *flag, int numero, Prova prova) {
+template <class Prova>
+void Segna(std::int16_t *flag, int numero, Prova prova) {
     const std::int16_t valore = NuovoFlag();
     for (int i = 0; i < numero; ++i)
         if (prova(i)) flag[i] = valore;

@@ -142,9 +142,8 @@ bool ElContPreso(int k, Campo campo, const Insieme &insieme) {
 void SegnaElCont(const Campi &campi, const Insieme &insieme) {
     if (!campi.asta) return;
     for (int k = 0; k < NumElCont; ++k) {
-        const bool preso = campi.numeroElCont
-                               ? insieme.Contiene(NumeroElCont[k]) && ElContAttivo(k)
-                               : ElContPreso(k, campi.asta, insieme);
+        const bool preso = campi.numeroElCont ? insieme.Contiene(NumeroElCont[k]) && ElContAttivo(k)
+                                              : ElContPreso(k, campi.asta, insieme);
         if (preso) SelElCont[k] = NuovoFlag();
     }
 }
@@ -152,9 +151,7 @@ void SegnaElCont(const Campi &campi, const Insieme &insieme) {
 void Seleziona(const std::string &testo, int capacita, const Campi &campi) {
     std::vector<std::int16_t> numeri;
     switch (LeggiLista(testo, capacita, numeri)) {
-    case EsitoLista::Troppi:
-        MostraMessaggio(Messaggi[18], Icona::Esclamazione, "ERRORE");
-        return;
+    case EsitoLista::Troppi: MostraMessaggio(Messaggi[18], Icona::Esclamazione, "ERRORE"); return;
     case EsitoLista::FuoriLimiti:
         MostraMessaggio(" Numero fuori dai limiti ammessi (da -32768 a 32767) ",
                         Icona::Esclamazione, "ERRORE");

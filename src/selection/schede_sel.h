@@ -10,8 +10,8 @@ namespace telva {
 
 enum class EsitoLista {
     Riuscita,
-    Troppi,      // more numbers than the capacity
-    FuoriLimiti  // a number outside -32768..32767
+    Troppi,     // more numbers than the capacity
+    FuoriLimiti // a number outside -32768..32767
 };
 
 inline constexpr int kCapacitaSchede = 100, kCapacitaNomi = 20000;

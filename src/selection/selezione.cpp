@@ -18,9 +18,10 @@ namespace {
 
 std::array<VoceMenu *, 13> ComandiSelezioni() {
     ModuloTelva &f = FormTelva;
-    return {&f.Finestra,    &f.Colore,     &f.TipoPunto,       &f.TipoLinea, &f.TipoTratt,
-            &f.Materiale,   &f.Nome,       &f.Tutto,           &f.SchSezione, &f.SchSpessore,
-            &f.SchSvincolo, &f.SchOrientamento, &f.SchVincolo};
+    return {&f.Finestra,   &f.Colore,      &f.TipoPunto,   &f.TipoLinea,
+            &f.TipoTratt,  &f.Materiale,   &f.Nome,        &f.Tutto,
+            &f.SchSezione, &f.SchSpessore, &f.SchSvincolo, &f.SchOrientamento,
+            &f.SchVincolo};
 }
 
 void Disabilita(std::initializer_list<VoceMenu *> voci) {

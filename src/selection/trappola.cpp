@@ -16,8 +16,8 @@ double TrappolaDis = 0;
 
 namespace {
 
-constexpr double kAstaNulla = 0.0001;   // squared projected length
-constexpr double kLatoNullo = 0.0001;   // extent in one direction
+constexpr double kAstaNulla = 0.0001; // squared projected length
+constexpr double kLatoNullo = 0.0001; // extent in one direction
 
 // Colour 0 and names below 1 cannot be picked.
 bool Candidabile(int colore, int nome, int attivo) {

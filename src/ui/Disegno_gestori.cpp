@@ -40,8 +40,7 @@ struct {
 RiquadroDisegno &Disegno() { return FormTelva.Disegno; }
 
 void RipristinaSottoFun() {
-    Disegno().MousePointer =
-        CodSottoFun == kFinestra ? Puntatore::Croce : Puntatore::Predefinito;
+    Disegno().MousePointer = CodSottoFun == kFinestra ? Puntatore::Croce : Puntatore::Predefinito;
     Etichetta &etichetta = FormTelva.SottoFunAttiva;
     switch (CodSottoFun) {
     case kNessuna: AzzeraInput(); break;

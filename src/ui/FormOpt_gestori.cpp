@@ -40,12 +40,10 @@ CampoTesto *CampiTesto() {
 
 std::vector<CampoSpunta> CampiSpunta() {
     ModuloOpt &f = FormOpt;
-    std::vector<CampoSpunta> campi = {{&f.CheckSpGus, kOpzNascondiSottili},
-                                      {&f.CheckTxtNodi, kOpzTestiNodi},
-                                      {&f.CheckTxtAste, kOpzTestiAste},
-                                      {&f.CheckTxtGusci, kOpzTestiGusci},
-                                      {&f.CheckTxtElCont, kOpzTestiElCont},
-                                      {&f.TxtElCont, kOpzNomeElCont}};
+    std::vector<CampoSpunta> campi = {
+        {&f.CheckSpGus, kOpzNascondiSottili}, {&f.CheckTxtNodi, kOpzTestiNodi},
+        {&f.CheckTxtAste, kOpzTestiAste},     {&f.CheckTxtGusci, kOpzTestiGusci},
+        {&f.CheckTxtElCont, kOpzTestiElCont}, {&f.TxtElCont, kOpzNomeElCont}};
     const auto parti = [&](auto &caselle, int prima) {
         for (int k = 0; k < caselle.Numero(); ++k) campi.push_back({&caselle[k], prima + k});
     };
@@ -125,7 +123,8 @@ void AggiornaOpzioni() {
     for (const auto &[casella, voce] :
          {CampoTesto{&FormOpt.BaseTxt, kOpzBaseTesto}, {&FormOpt.AltezzaTxt, kOpzAltezzaTesto}}) {
         if (!casella->Text().empty()) continue;
-        for (const int azzerata : {int{kOpzTestiNodi}, int{kOpzTestiAste}, int{kOpzTestiGusci}, voce})
+        for (const int azzerata :
+             {int{kOpzTestiNodi}, int{kOpzTestiAste}, int{kOpzTestiGusci}, voce})
             Opzioni[azzerata] = 0.0;
     }
 }

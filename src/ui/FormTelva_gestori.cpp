@@ -203,10 +203,10 @@ void Form_Resize() {
         f.Angolo[k].Top = f.StringaSel.Top();
         f.Label1[k].Top = f.StringaSel.Top();
         f.Label2[k].Top = f.StringaSel.Top + 100;
-        const double left = w - 2340 + k * 730;
+        const double left = w - 2035 + k * 632;
         f.Label1[k].Left = left;
-        f.Label2[k].Left = left + 130;
-        f.Angolo[k].Left = left + 250;
+        f.Label2[k].Left = left + 125;
+        f.Angolo[k].Left = left + 230;
     }
     f.Toolbar1.Width = w;
     f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;

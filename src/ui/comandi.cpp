@@ -10,23 +10,28 @@
 namespace telva {
 namespace {
 
-template <std::int16_t Codice> void Colore() {
+template <std::int16_t Codice>
+void Colore() {
     IniziaAttributo();
     SelezionaPerColore(Codice);
 }
-template <std::int16_t Codice> void Punto() {
+template <std::int16_t Codice>
+void Punto() {
     IniziaAttributo();
     SelezionaPerTipoPunto(Codice);
 }
-template <std::int16_t Codice> void Linea() {
+template <std::int16_t Codice>
+void Linea() {
     IniziaAttributo();
     SelezionaPerTipoLinea(Codice);
 }
-template <std::int16_t Codice> void Tratto() {
+template <std::int16_t Codice>
+void Tratto() {
     IniziaAttributo();
     SelezionaPerTratteggio(Codice);
 }
-template <std::uint8_t Codice> void Scheda() {
+template <std::uint8_t Codice>
+void Scheda() {
     AnnullaElastici();
     IniziaProprieta(Codice);
 }

@@ -10,13 +10,13 @@ namespace telva {
 
 struct Comando {
     VoceMenu *voce;
-    int livello;                       // 0 in the menu bar, 1 in a menu, 2 in a submenu
-    const char *didascalia;            // with its access key
-    char scorciatoia = 0;              // Ctrl + letter
-    void (*gestore)() = nullptr;       // none: opens a submenu
-    const char *chiave = nullptr;      // of its tool-bar button
+    int livello;                  // 0 in the menu bar, 1 in a menu, 2 in a submenu
+    const char *didascalia;       // with its access key
+    char scorciatoia = 0;         // Ctrl + letter
+    void (*gestore)() = nullptr;  // none: opens a submenu
+    const char *chiave = nullptr; // of its tool-bar button
     const char *suggerimento = nullptr;
-    bool nuovoGruppo = false;          // a gap stands before the button
+    bool nuovoGruppo = false; // a gap stands before the button
 };
 
 // In the order of the menu tree, which is also that of the tool bar.

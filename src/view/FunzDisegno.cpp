@@ -27,8 +27,8 @@ bool GuscioSottile(int s) {
 }
 
 int Penna(int opzione) {
-    return static_cast<int>(std::clamp(ArrotondaPari(OpzioneNumero(opzione)), 1.0,
-                                       double(Superficie::kPennaMassima)));
+    return static_cast<int>(
+        std::clamp(ArrotondaPari(OpzioneNumero(opzione)), 1.0, double(Superficie::kPennaMassima)));
 }
 
 // How elements are drawn, from the options, once for a whole picture.
@@ -48,8 +48,8 @@ Tratteggio TrattoLinea(int tipo) {
     switch (tipo) {
     case 1: return {0x1FF, 14};
     case 2: return {0x3, 6};
-    case 3: return {0xC1FF, 20};    // 9 on, 5 off, 2 on, 4 off
-    case 4: return {0x30C1FF, 26};  // the same and once more 2 on, 4 off
+    case 3: return {0xC1FF, 20};   // 9 on, 5 off, 2 on, 4 off
+    case 4: return {0x30C1FF, 26}; // the same and once more 2 on, 4 off
     default: return {};
     }
 }

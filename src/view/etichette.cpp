@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <vector>
 
 namespace telva {
 namespace {
@@ -29,13 +31,13 @@ struct Scrittura {
     double base = OpzioneNumero(kOpzBaseTesto);
     double altezza = OpzioneNumero(kOpzAltezzaTesto);
     double distanza = OpzioneNumero(kOpzDistanzaTesto);
-    std::int16_t colore =
-        static_cast<std::int16_t>(std::clamp(std::trunc(OpzioneNumero(kOpzColoreTesto)), -1.0, 10.0));
+    std::int16_t colore = static_cast<std::int16_t>(
+        std::clamp(std::trunc(OpzioneNumero(kOpzColoreTesto)), -1.0, 10.0));
 
     // Room that a text of n characters may take up around (x, y), in any direction.
     bool InVista(double x, double y, std::size_t n) const {
-        const double raggio = std::abs(base) * static_cast<double>(n) + std::abs(altezza) +
-                              std::abs(distanza);
+        const double raggio =
+            std::abs(base) * static_cast<double>(n) + std::abs(altezza) + std::abs(distanza);
         return x + raggio >= d.ScaleLeft && x - raggio <= d.ScaleLeft + d.ScaleWidth &&
                y - raggio <= d.ScaleTop && y + raggio >= d.ScaleTop + d.ScaleHeight;
     }
@@ -46,6 +48,8 @@ struct Scrittura {
 
 // Longest label there can be, for rejecting before the text is made.
 constexpr std::size_t kCaratteriEtichetta = 40;
+constexpr double kCaratteriNodo = 4;    // of a node's label, usually
+constexpr double kPendenzaRipida = 0.3; // a bar is neither flat nor upright beyond this sine
 
 double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
     std::size_t caratteri = 0;
@@ -53,33 +57,73 @@ double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
     return static_cast<double>(caratteri) * s.base;
 }
 
-// Beside the middle of a bar, on the side where the text leaves the line free: to the right of a
-// steep one, above a flat one.
-void ScriviAsta(const Scrittura &s, int b, const std::string &testo, bool sotto) {
+// Beside the middle of a bar: above a flat one, to the right of an upright one, below one that
+// falls steeply, so that the labels of two crossing braces keep apart. `opposto`: on the other
+// side.
+void ScriviAsta(const Scrittura &s, int b, const std::string &testo, bool opposto) {
     const int i = NodoIAsta[b], j = NodoJAsta[b];
     const double mx = (XNodo(i) + XNodo(j)) / 2, my = (YNodo(i) + YNodo(j)) / 2;
     const double dx = XNodo(j) - XNodo(i), dy = YNodo(j) - YNodo(i);
     const double lunghezza = std::hypot(dx, dy);
     const double larghezza = LarghezzaTesto(s, testo);
-    if (lunghezza == 0) {
-        s.Scrivi(testo, mx + s.distanza, my + (sotto ? -s.distanza - s.altezza : s.distanza));
+    if (lunghezza ==
+        0) { // seen from its end: to the left, for the nodes' labels stand to the right
+        s.Scrivi(testo, mx - s.distanza - larghezza,
+                 my + (opposto ? -s.distanza - s.altezza : s.distanza));
         return;
     }
-    // Unit normal pointing upwards (to the right for an upright bar); `sotto` takes the other side.
     double nx = -dy / lunghezza, ny = dx / lunghezza;
     if (ny < 0 || (ny == 0 && nx < 0)) nx = -nx, ny = -ny;
-    if (sotto) nx = -nx, ny = -ny;
+    const bool cade = nx > kPendenzaRipida && ny > kPendenzaRipida;
+    if (cade != opposto) nx = -nx, ny = -ny;
     // Centre of the text box, moved out until the whole box stands clear of the line.
     const double scarto = s.distanza + (std::abs(nx) * larghezza + std::abs(ny) * s.altezza) / 2;
     s.Scrivi(testo, mx + nx * scarto - larghezza / 2, my + ny * scarto - s.altezza / 2);
 }
+
+// The corners around the nodes, bit by bit: 1 right above, 2 left above, 4 right below, 8 left
+// below. Where a bar or a side of a shell passes, a label would lie across it.
+class AngoliNodi {
+  public:
+    // A label stands `scarto` from its node both ways and is about `larghezza` x `altezza`.
+    AngoliNodi(double scarto, double larghezza, double altezza)
+        : scarto_(scarto), largo_(scarto + larghezza), alto_(scarto + altezza) {
+        for (int b = 0; b < NumAste; ++b)
+            if (AstaDisegnata(b)) Occupa(NodoIAsta[b], NodoJAsta[b]);
+        for (int g = 0; g < NumGusci; ++g) {
+            if (!GuscioDisegnato(g)) continue;
+            const auto angoli = static_cast<std::size_t>(NumeroAngoli(g));
+            for (std::size_t c = 0; c < angoli; ++c)
+                Occupa(NodiGuscio[g][c], NodiGuscio[g][(c + 1) % angoli]);
+        }
+    }
+    // A free corner of the node (bit number), right before left; the first when none is free.
+    int Libero(int nodo) const {
+        for (const int k : {0, 2, 1, 3})
+            if ((occupati_[static_cast<std::size_t>(nodo)] >> k & 1) == 0) return k;
+        return 0;
+    }
+
+  private:
+    void Occupa(int i, int j) {
+        const double dx = XNodo(j) - XNodo(i), dy = YNodo(j) - YNodo(i);
+        const double ax = std::abs(dx), ay = std::abs(dy);
+        if (ay * largo_ <= ax * scarto_ || ax * alto_ <= ay * scarto_) return; // passes beside it
+        const int k = (dx < 0 ? 1 : 0) + (dy < 0 ? 2 : 0);
+        occupati_[static_cast<std::size_t>(i)] |= static_cast<std::uint8_t>(1 << k);
+        occupati_[static_cast<std::size_t>(j)] |= static_cast<std::uint8_t>(1 << (3 - k));
+    }
+
+    std::vector<std::uint8_t> occupati_ = std::vector<std::uint8_t>(kNodi);
+    double scarto_, largo_, alto_;
+};
 
 void EtichetteElCont(const Scrittura &s) {
     if (!OpzioneAttiva(kOpzTestiElCont) || !OpzioneAttiva(kOpzNomeElCont)) return;
     for (int k = 0; k < NumElCont; ++k) {
         if (NumAsteElCont[k] == 0 || NumeroElCont[k] <= 0) continue;
         const int b = AsteElCont(k, 0);
-        if (!AstaDisegnata(b)) continue;
+        if (b < 0 || b >= NumAste || !AstaDisegnata(b)) continue; // a name that no bar has
         const std::string testo = EtichettaElCont(k);
         const int i = NodoIAsta[b], j = NodoJAsta[b];
         if (s.InVista((XNodo(i) + XNodo(j)) / 2, (YNodo(i) + YNodo(j)) / 2, testo.size()))
@@ -117,9 +161,14 @@ void EtichetteNodi(const Scrittura &s) {
     if (!OpzioneAttiva(kOpzTestiNodi)) return;
     const double raggio = OpzioneNumero(kOpzRaggioNodo) * s.d.UnitaPerPixel();
     const double scarto = (raggio + s.distanza) * std::sqrt(0.5);
-    for (int i = 0; i < NumNodi; ++i)
-        if (NodoDisegnato(i) && s.InVista(XNodo(i), YNodo(i), kCaratteriEtichetta))
-            s.Scrivi(EtichettaNodo(i), XNodo(i) + scarto, YNodo(i) + scarto);
+    const AngoliNodi angoli(scarto, kCaratteriNodo * s.base, s.altezza);
+    for (int i = 0; i < NumNodi; ++i) {
+        if (!NodoDisegnato(i) || !s.InVista(XNodo(i), YNodo(i), kCaratteriEtichetta)) continue;
+        const std::string testo = EtichettaNodo(i);
+        const int k = angoli.Libero(i);
+        s.Scrivi(testo, XNodo(i) + (k & 1 ? -scarto - LarghezzaTesto(s, testo) : scarto),
+                 YNodo(i) + (k & 2 ? -scarto - s.altezza : scarto));
+    }
 }
 
 } // namespace

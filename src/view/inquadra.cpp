@@ -60,8 +60,7 @@ struct Filtri {
 
 class Estensione {
   public:
-    explicit Estensione(int punto)
-        : f_{XDis[punto], XDis[punto], YDis[punto], YDis[punto]} {}
+    explicit Estensione(int punto) : f_{XDis[punto], XDis[punto], YDis[punto], YDis[punto]} {}
     void Comprendi(int nodo) {
         const double x = XNodo(nodo), y = YNodo(nodo);
         f_.primaX = std::max(f_.primaX, x);
@@ -138,8 +137,7 @@ void CalcolaAttivi() {
                gusci = FormTelva.GusciAtt.Value;
     for (int i = 0; i < NumNodi; ++i) AttNodo[i] = filtri.Flag(Dentro(i), nodi, SelNodo[i]);
     for (int b = 0; b < NumAste; ++b)
-        AttAsta[b] =
-            filtri.Flag(Dentro(NodoIAsta[b]) && Dentro(NodoJAsta[b]), aste, SelAsta[b]);
+        AttAsta[b] = filtri.Flag(Dentro(NodoIAsta[b]) && Dentro(NodoJAsta[b]), aste, SelAsta[b]);
     for (int s = 0; s < NumGusci; ++s) {
         bool dentro = true;
         for (int c = 0; c < NumeroAngoli(s); ++c)

@@ -6,8 +6,8 @@
 
 namespace telva {
 
-extern double MatRot[4][4];                 // rows and columns 1..3
-extern Tabella<double, kPunti> XDis, YDis;  // drawing coordinates of the points
+extern double MatRot[4][4];                // rows and columns 1..3
+extern Tabella<double, kPunti> XDis, YDis; // drawing coordinates of the points
 struct Direzione {
     double x = 0, y = 0;
 };

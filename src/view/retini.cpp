@@ -7,15 +7,16 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 
 namespace telva {
 namespace {
 
-// A family of parallel lines a*x + b*y = n*passo, in whole pixels, so that neighbouring shells of
-// one type join up. `punti` draws every second pixel group only.
+// A family of parallel lines a*x + b*y = n*passo + avanzo, in whole pixels of the picture: shells
+// of one type join up, and stacked ones (the floors of a building) do not add up to a solid colour.
+// `punti` > 0 draws dots that far apart instead, every second row shifted by half.
 struct Famiglia {
-    int a, b, passo;
-    bool punti;
+    int a, b, passo, avanzo = 0, punti = 0;
 };
 
 struct Retino {
@@ -23,28 +24,47 @@ struct Retino {
     Famiglia famiglie[2];
 };
 
+// Wide steps: bars and labels have to stay readable through several shells.
 constexpr std::array<Retino, 9> kRetini = {{
     {0, {}},
-    {1, {{0, 1, 8, false}, {}}},                     // horizontal
-    {1, {{1, 0, 8, false}, {}}},                     // vertical
-    {1, {{1, 1, 12, false}, {}}},                    // diagonal upwards to the right
-    {1, {{1, -1, 12, false}, {}}},                   // diagonal downwards to the right
-    {2, {{0, 1, 8, false}, {1, 0, 8, false}}},       // upright cross
-    {2, {{1, 1, 12, false}, {1, -1, 12, false}}},    // diagonal cross
-    {1, {{0, 1, 3, false}, {}}},                     // dense
-    {1, {{0, 1, 6, true}, {}}},                      // dotted
+    {1, {{0, 1, 16}}},                // horizontal
+    {1, {{1, 0, 16}}},                // vertical
+    {1, {{1, 1, 24}}},                // diagonal upwards to the right
+    {1, {{1, -1, 24}}},               // diagonal downwards to the right
+    {2, {{0, 1, 24}, {1, 0, 24}}},    // upright cross
+    {2, {{1, 1, 36}, {1, -1, 36}}},   // diagonal cross
+    {2, {{0, 1, 24}, {0, 1, 24, 3}}}, // horizontal pairs
+    {1, {{0, 1, 8, 0, 12}}},          // dotted
 }};
 
 constexpr int kLatoMinimo = 12; // pixels; below this a hatch would only fill the shell
+constexpr int kForza = 120;     // strongest channel of hatch lines
+
+// The shell's colour drawn back towards the background, so that outlines and labels stand out.
+std::uint32_t Attenua(std::uint32_t colore, std::uint32_t sfondo) {
+    int massimo = 1;
+    for (int bit = 0; bit < 24; bit += 8)
+        massimo =
+            std::max(massimo, std::abs(int(colore >> bit & 0xFF) - int(sfondo >> bit & 0xFF)));
+    const int forza = std::min(kForza, massimo * 5 / 8);
+    std::uint32_t esito = 0;
+    for (int bit = 0; bit < 24; bit += 8) {
+        const int da = int(sfondo >> bit & 0xFF), a = int(colore >> bit & 0xFF);
+        esito |= static_cast<std::uint32_t>(da + (a - da) * forza / massimo) << bit;
+    }
+    return esito;
+}
 
 struct Poligono {
     std::array<Pixel, 4> vertici;
     std::size_t numero = 0;
 };
 
-// Where the line a*x + b*y = c enters and leaves the polygon. A polygon whose sides cross (a warped
-// shell seen from the edge) may be met four times: consecutive pairs are inside.
-std::size_t Incontri(const Poligono &p, const Famiglia &f, int c, std::array<Pixel, 4> &punti) {
+// Where the line a*x + b*y = c enters and leaves the polygon, as places along x (along y for
+// upright lines), in order. A polygon whose sides cross (a warped shell seen from the edge) may be
+// met four times: consecutive pairs are inside.
+std::size_t Incontri(const Poligono &p, const Famiglia &f, std::int64_t c,
+                     std::array<double, 4> &posti) {
     std::size_t quanti = 0;
     const auto valore = [&](const Pixel &v) {
         return std::int64_t{f.a} * v.x + std::int64_t{f.b} * v.y - c;
@@ -54,46 +74,55 @@ std::size_t Incontri(const Poligono &p, const Famiglia &f, int c, std::array<Pix
         const std::int64_t v0 = valore(da), v1 = valore(a);
         if ((v0 < 0) == (v1 < 0)) continue;
         const double t = static_cast<double>(v0) / static_cast<double>(v0 - v1);
-        punti[quanti++] = {static_cast<int>(std::lround(da.x + t * (a.x - da.x))),
-                           static_cast<int>(std::lround(da.y + t * (a.y - da.y)))};
+        posti[quanti++] = f.b != 0 ? da.x + t * (a.x - da.x) : da.y + t * (a.y - da.y);
     }
-    // At most four points: exchanging neighbours is all the sorting they need.
-    const auto prima = [&](const Pixel &u, const Pixel &v) {
-        return f.b != 0 ? u.x < v.x : u.y < v.y;
-    };
+    // At most four: exchanging neighbours is all the sorting they need.
     for (std::size_t giro = 1; giro < quanti; ++giro)
         for (std::size_t k = 0; k + giro < quanti; ++k)
-            if (prima(punti[k + 1], punti[k])) std::swap(punti[k], punti[k + 1]);
+            if (posti[k + 1] < posti[k]) std::swap(posti[k], posti[k + 1]);
     return quanti;
+}
+
+// The pixels da..a of the line a*x + b*y = c, along x or, for upright lines, along y.
+void DisegnaTratto(Superficie &s, const Famiglia &f, int c, int da, int a, std::uint32_t rgb) {
+    if (f.b == 0) {
+        s.Linea({c, da}, {c, a}, rgb);
+        return;
+    }
+    const auto y = [&](int x) { return (c - f.a * x) * f.b; }; // b is 1 or -1
+    if (f.punti == 0) {
+        s.Linea({da, y(da)}, {a, y(a)}, rgb);
+        return;
+    }
+    const int fase = c / f.passo % 2 == 0 ? 0 : f.punti / 2;
+    for (int x = da + ((fase - da) % f.punti + f.punti) % f.punti; x < a; x += f.punti)
+        s.Linea({x, c}, {x + 1, c}, rgb);
 }
 
 void DisegnaFamiglia(Superficie &s, const Poligono &p, const Famiglia &f, std::uint32_t rgb) {
     // Only lines that meet both the polygon and the picture.
     std::int64_t minimo = INT64_MAX, massimo = INT64_MIN;
     for (std::size_t k = 0; k < p.numero; ++k) {
-        const std::int64_t v = std::int64_t{f.a} * p.vertici[k].x + std::int64_t{f.b} * p.vertici[k].y;
+        const std::int64_t v =
+            std::int64_t{f.a} * p.vertici[k].x + std::int64_t{f.b} * p.vertici[k].y;
         minimo = std::min(minimo, v);
         massimo = std::max(massimo, v);
     }
-    const std::int64_t l = s.Larghezza(), h = s.Altezza();
-    minimo = std::max<std::int64_t>(minimo, std::min<std::int64_t>(0, f.b * h));
-    massimo = std::min<std::int64_t>(massimo, f.a * l + std::max<std::int64_t>(0, f.b * h));
-    std::int64_t c = minimo - minimo % f.passo;
-    if (c < minimo) c += f.passo;
-    std::array<Pixel, 4> punti;
-    for (; c <= massimo; c += f.passo) {
-        const std::size_t quanti = Incontri(p, f, static_cast<int>(c), punti);
+    const int l = s.Larghezza(), h = s.Altezza();
+    minimo = std::max<std::int64_t>(minimo, std::min(0, f.b * h));
+    massimo = std::min<std::int64_t>(massimo, f.a * l + std::max(0, f.b * h));
+    const std::int64_t resto = ((minimo - f.avanzo) % f.passo + f.passo) % f.passo;
+    std::array<double, 4> posti{};
+    for (std::int64_t c = resto == 0 ? minimo : minimo + f.passo - resto; c <= massimo;
+         c += f.passo) {
+        const std::size_t quanti = Incontri(p, f, c, posti);
         for (std::size_t k = 0; k + 1 < quanti; k += 2) {
-            if (!f.punti) {
-                s.Linea(punti[k], punti[k + 1], rgb);
-                continue;
-            }
-            // Dots on a fixed grid of the picture, each second row shifted.
-            const int passo = f.passo;
-            const int fase = c / passo % 2 == 0 ? 0 : passo / 2;
-            const int da = std::max(punti[k].x, 0), a = std::min(punti[k + 1].x, s.Larghezza() - 1);
-            int x = da + ((fase - da) % passo + passo) % passo;
-            for (; x <= a; x += passo) s.Linea({x, punti[k].y}, {x + 1, punti[k].y}, rgb);
+            // Cut to the picture too: dots are counted out one by one.
+            const double da = std::max(std::ceil(posti[k]), 0.0);
+            const double a = std::min(std::floor(posti[k + 1]), double(std::max(l, h)));
+            if (da <= a)
+                DisegnaTratto(s, f, static_cast<int>(c), static_cast<int>(da), static_cast<int>(a),
+                              rgb);
         }
     }
 }
@@ -118,9 +147,12 @@ void DisegnaRetino(int guscio, std::uint32_t colore) {
     if (fuori || std::min(maxX - minX, maxY - minY) < kLatoMinimo || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
+    const std::uint32_t rgb = APixelRGB(colore), tenue = Attenua(rgb, APixelRGB(d.BackColor));
     const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
-    for (int k = 0; k < retino.numero; ++k)
-        DisegnaFamiglia(s, p, retino.famiglie[k], APixelRGB(colore));
+    for (int k = 0; k < retino.numero; ++k) {
+        const Famiglia &f = retino.famiglie[k];
+        DisegnaFamiglia(s, p, f, f.punti > 0 ? rgb : tenue); // single dots are quiet enough
+    }
 }
 
 } // namespace telva

@@ -53,8 +53,8 @@ void DisponiParti(ModuloOpt &f) {
     gruppo(f.CheckTxtNodi, "Nodi", 300);
     parti(f.TxtNodi, {"Nome", "Vincolo (V)"}, 300);
     gruppo(f.CheckTxtAste, "Aste", 640);
-    parti(f.TxtAste,
-          {"Nome", "Materiale (M)", "Sezione (S)", "Orientamento (O)", "Svincolo (C)"}, 640);
+    parti(f.TxtAste, {"Nome", "Materiale (M)", "Sezione (S)", "Orientamento (O)", "Svincolo (C)"},
+          640);
     gruppo(f.CheckTxtGusci, "Gusci", 1260);
     parti(f.TxtGusci, {"Nome", "Materiale (M)", "Spessore (S)"}, 1260);
     gruppo(f.CheckTxtElCont, "Elementi continui", 1600);
@@ -81,8 +81,8 @@ void DisponiTesti(ModuloOpt &f) {
 
 ModuloOpt::ModuloOpt() : Modulo("FormOpt") {
     Caption = "Opzioni di rappresentazione";
-    Width = 9360;
-    Height = 7290;
+    Width = 9240;
+    Height = 6705;
     DisponiElementi(*this);
     FrameNum.Caption = "Numerazione";
     FrameNum.Posiziona(120, 2550, 9000, 3510);

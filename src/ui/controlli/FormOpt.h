@@ -37,8 +37,8 @@ struct ModuloOpt : Modulo {
     Etichetta LabelDistTxt{this, "LabelDistTxt", &FrameNum};
     CasellaTesto DistTxt{this, "DistTxt", &FrameNum};
     Etichetta LabelColoreTxt{this, "LabelColoreTxt", &FrameNum};
-    Schiera<Campione, 10> LabelBordCol{this, "LabelBordCol", &FrameNum};
     Schiera<Campione, 10> LabelCol{this, "LabelCol", &FrameNum};
+    Schiera<Campione, 10> LabelBordCol{this, "LabelBordCol", &FrameNum};
 
     Pulsante Salva{this, "Salva"};
     Pulsante Chiudi_{this, "Chiudi"};

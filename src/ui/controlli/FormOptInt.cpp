@@ -6,8 +6,8 @@ ModuloOptInt FormOptInt;
 
 ModuloOptInt::ModuloOptInt() : Modulo("FormOptInt") {
     Caption = "Opzioni";
-    Width = 4290;
-    Height = 2010;
+    Width = 4170;
+    Height = 1470;
     Frame1.Posiziona(120, 60, 3930, 780);
     Label1.Caption = "Dimensione della trappola:";
     Label1.Posiziona(180, 330, 2250, 225);

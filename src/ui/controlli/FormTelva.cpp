@@ -12,6 +12,8 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     FrameInput.bordo = false;
     FrameCoord.bordo = false;
     Domanda.stile = StileEtichetta::SuPiuRighe;
+    LabCoord.stile = StileEtichetta::SuPiuRighe;
+    Label6.stile = StileEtichetta::SuPiuRighe;
     StringaSel.stile = StileEtichetta::Riassunto;
     for (Etichetta &e : Label2) e.stile = StileEtichetta::Pedice;
     Inizio();
@@ -53,19 +55,20 @@ void Disponi(ModuloTelva &f) {
         (*campi[k])[1].Posiziona(1130, riga, 800, 290);
         tutto[k]->Posiziona(1960, riga - 5, 740, 300);
     }
-    f.Label5.Posiziona(60, 0, 1980, 285);
-    f.StringaSel.Posiziona(2080, 0, 0, 300);
+    f.Label5.Posiziona(60, 0, 2320, 285);
+    f.StringaSel.Posiziona(2400, 0, 0, 300);
     for (int k = 0; k < 3; ++k) {
-        f.Label1[k].Posiziona(0, 0, 140, 285);
-        f.Label2[k].Posiziona(0, 0, 110, 200);
-        f.Angolo[k].Posiziona(0, 0, 440, 300);
+        f.Label1[k].Posiziona(0, 0, 130, 285);
+        f.Label2[k].Posiziona(0, 0, 105, 200);
+        f.Angolo[k].Posiziona(0, 0, 390, 300);
     }
-    f.Frame2.Posiziona(30, 0, 2400, 480);
-    f.FunAttiva.Posiziona(30, 0, 2340, 235);
-    f.SottoFunAttiva.Posiziona(30, 240, 2340, 235);
-    f.FrameCoord.Posiziona(4400, 0, 0, 480);
-    f.Label6.Posiziona(0, 0, 960, 235);
-    f.LabCoord.Posiziona(0, 0, 1990, 235);
+    f.Frame2.Posiziona(30, 0, 2520, 480);
+    f.FunAttiva.Posiziona(30, 0, 2490, 235);
+    f.SottoFunAttiva.Posiziona(30, 240, 2490, 235);
+    // Its labels reach out of this frame on both sides: it has no width at the smallest size.
+    f.FrameCoord.Posiziona(4700, 0, 0, 480);
+    f.Label6.Posiziona(0, 15, 1130, 235);
+    f.LabCoord.Posiziona(0, 15, 1690, 460);
 }
 
 } // namespace

@@ -1,0 +1,89 @@
+#include "platform/win32/base_win32.h"
+
+#include "platform/guasto.h"
+#include "platform/numeri.h"
+
+namespace telva {
+namespace {
+
+// Newer functions of the system, looked up so that the program starts on older Windows too.
+template <class F>
+F Cerca(const wchar_t *libreria, const char *nome) {
+    const HMODULE modulo = LoadLibraryExW(libreria, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (!modulo) return nullptr;
+    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(modulo, nome)));
+}
+
+UINT DpiDiSistema() {
+    const HDC schermo = GetDC(nullptr);
+    if (!schermo) return 96;
+    const int dpi = GetDeviceCaps(schermo, LOGPIXELSX);
+    ReleaseDC(nullptr, schermo);
+    return dpi > 0 ? static_cast<UINT>(dpi) : 96;
+}
+
+} // namespace
+
+std::wstring ALargo(std::string_view utf8) {
+    const int byte = static_cast<int>(utf8.size());
+    const int n = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), byte, nullptr, 0);
+    std::wstring largo(static_cast<std::size_t>(n), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), byte, largo.data(), n);
+    return largo;
+}
+
+std::string DaLargo(std::wstring_view largo) {
+    const int unita = static_cast<int>(largo.size());
+    const int n =
+        WideCharToMultiByte(CP_UTF8, 0, largo.data(), unita, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(n), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, largo.data(), unita, utf8.data(), n, nullptr, nullptr);
+    return utf8;
+}
+
+std::string TestoFinestra(HWND finestra) {
+    const int lunghezza = GetWindowTextLengthW(finestra);
+    std::wstring testo(static_cast<std::size_t>(lunghezza) + 1, L'\0');
+    const int letti = GetWindowTextW(finestra, testo.data(), lunghezza + 1);
+    return DaLargo(std::wstring_view(testo).substr(0, static_cast<std::size_t>(letti)));
+}
+
+void GuastoWindows(const char *chiamata) {
+    throw Guasto("Chiamata di sistema non riuscita: " + std::string(chiamata) + " (errore " +
+                 std::to_string(GetLastError()) + ")");
+}
+
+UINT DpiDi(HWND finestra) {
+    using Funzione = UINT(WINAPI *)(HWND);
+    static const auto dpiFinestra = Cerca<Funzione>(L"user32.dll", "GetDpiForWindow");
+    const UINT dpi = finestra && dpiFinestra ? dpiFinestra(finestra) : 0;
+    return dpi > 0 ? dpi : DpiDiSistema();
+}
+
+SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi) {
+    using Funzione = BOOL(WINAPI *)(RECT *, DWORD, BOOL, DWORD, UINT);
+    static const auto perDpi = Cerca<Funzione>(L"user32.dll", "AdjustWindowRectExForDpi");
+    RECT r{0, 0, interna.cx, interna.cy};
+    if (!perDpi || !perDpi(&r, stile, menu, stileEsteso, dpi))
+        Richiesto(AdjustWindowRectEx(&r, stile, menu, stileEsteso), "AdjustWindowRectEx");
+    return {r.right - r.left, r.bottom - r.top};
+}
+
+RECT RettangoloVisibile(HWND finestra) {
+    using Funzione = HRESULT(WINAPI *)(HWND, DWORD, void *, DWORD);
+    static const auto attributo = Cerca<Funzione>(L"dwmapi.dll", "DwmGetWindowAttribute");
+    constexpr DWORD kBordiEstesi = 9; // DWMWA_EXTENDED_FRAME_BOUNDS
+    RECT visibile{}, intero{};
+    if (!GetWindowRect(finestra, &intero)) return intero;
+    const bool trovato =
+        attributo && SUCCEEDED(attributo(finestra, kBordiEstesi, &visibile, sizeof visibile));
+    return trovato && visibile.right > visibile.left ? visibile : intero;
+}
+
+void AssegnaNome(HWND finestra, const std::string &nome) {
+    const ATOM atomo = GlobalAddAtomW(ALargo(nome).c_str());
+    if (atomo)
+        SetPropW(finestra, L"TelvaNome", reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(atomo)));
+}
+
+} // namespace telva

@@ -1,0 +1,103 @@
+#include "platform/win32/menu_win32.h"
+
+#include <algorithm>
+
+namespace telva {
+namespace {
+
+constexpr WORD kPrimaVoce = 1000;
+
+WORD IdVoce(const Modulo &modulo, const VoceMenu &voce) {
+    const auto posto = std::find(modulo.voci.begin(), modulo.voci.end(), &voce);
+    return static_cast<WORD>(kPrimaVoce + (posto - modulo.voci.begin()));
+}
+
+std::wstring TestoVoce(const VoceMenu &voce) {
+    std::wstring testo = ALargo(voce.Caption());
+    if (voce.scorciatoia)
+        testo += std::wstring(L"\tCtrl+") + static_cast<wchar_t>(voce.scorciatoia);
+    return testo;
+}
+
+MENUITEMINFOW Stato(const VoceMenu &voce, std::wstring &testo) {
+    testo = TestoVoce(voce);
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_STRING | MIIM_STATE;
+    info.fState = static_cast<UINT>((voce.Enabled ? MFS_ENABLED : MFS_GRAYED) |
+                                    (voce.Checked ? MFS_CHECKED : MFS_UNCHECKED));
+    info.dwTypeData = testo.data();
+    return info;
+}
+
+} // namespace
+
+MenuWin32::MenuWin32(Modulo &modulo, HWND finestra) : modulo_(modulo), finestra_(finestra) {
+    barra_ = Costruisci(modulo.barraMenu, Richiesto(CreateMenu(), "CreateMenu"));
+    Richiesto(SetMenu(finestra, barra_), "SetMenu");
+    std::vector<ACCEL> tasti;
+    for (const VoceMenu *voce : modulo.voci)
+        if (voce->scorciatoia)
+            tasti.push_back(
+                {FVIRTKEY | FCONTROL, static_cast<WORD>(voce->scorciatoia), IdVoce(modulo, *voce)});
+    if (!tasti.empty())
+        scorciatoie_ =
+            Richiesto(CreateAcceleratorTableW(tasti.data(), static_cast<int>(tasti.size())),
+                      "CreateAcceleratorTable");
+}
+
+MenuWin32::~MenuWin32() {
+    if (scorciatoie_) DestroyAcceleratorTable(scorciatoie_);
+}
+
+HMENU MenuWin32::Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu) {
+    UINT posizione = 0;
+    for (const VoceMenu *voce : voci) {
+        HMENU figlio = nullptr;
+        if (!voce->voci.empty())
+            figlio = Costruisci(voce->voci, Richiesto(CreatePopupMenu(), "CreatePopupMenu"));
+        Inserisci(*voce, {menu, posizione++, figlio});
+    }
+    return menu;
+}
+
+void MenuWin32::Inserisci(const VoceMenu &voce, const Posto &posto) {
+    std::wstring testo;
+    MENUITEMINFOW info = Stato(voce, testo);
+    info.fMask |= MIIM_ID;
+    info.wID = IdVoce(modulo_, voce);
+    if (posto.figlio) {
+        info.fMask |= MIIM_SUBMENU;
+        info.hSubMenu = posto.figlio;
+    }
+    Richiesto(InsertMenuItemW(posto.menu, posto.posizione, TRUE, &info), "InsertMenuItem");
+    posti_[&voce] = posto;
+}
+
+VoceMenu *MenuWin32::Voce(WORD id) const {
+    const auto posto = static_cast<std::size_t>(id - kPrimaVoce);
+    return id >= kPrimaVoce && posto < modulo_.voci.size() ? modulo_.voci[posto] : nullptr;
+}
+
+bool MenuWin32::TraduciScorciatoia(MSG &messaggio) const {
+    return scorciatoie_ && TranslateAcceleratorW(finestra_, scorciatoie_, &messaggio) != 0;
+}
+
+void MenuWin32::Aggiorna(const VoceMenu &voce) const {
+    const auto posto = posti_.find(&voce);
+    if (posto == posti_.end()) return;
+    std::wstring testo;
+    MENUITEMINFOW info = Stato(voce, testo);
+    SetMenuItemInfoW(posto->second.menu, posto->second.posizione, TRUE, &info);
+    if (posto->second.menu == barra_) DrawMenuBar(finestra_);
+}
+
+void MenuWin32::Popup(const VoceMenu &menu) const {
+    const auto posto = posti_.find(&menu);
+    POINT p{};
+    if (posto == posti_.end() || !posto->second.figlio || !GetCursorPos(&p)) return;
+    TrackPopupMenu(posto->second.figlio, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, p.x, p.y,
+                   0, finestra_, nullptr);
+}
+
+} // namespace telva

@@ -1,0 +1,108 @@
+#include "platform/win32/riassunto_win32.h"
+
+namespace telva {
+namespace {
+
+constexpr const wchar_t *kClasse = L"TelvaRiassunto";
+constexpr int kMargine = 4;
+
+std::wstring Testo(HWND hwnd) { return ALargo(TestoFinestra(hwnd)); }
+
+HFONT Font(HWND hwnd) { return reinterpret_cast<HFONT>(GetWindowLongPtrW(hwnd, GWLP_USERDATA)); }
+
+void Dipingi(HWND hwnd) {
+    PAINTSTRUCT p{};
+    const HDC dc = BeginPaint(hwnd, &p);
+    if (!dc) return;
+    RECT r{};
+    GetClientRect(hwnd, &r);
+    FillRect(dc, &r, GetSysColorBrush(COLOR_WINDOW));
+    const HGDIOBJ prima = SelectObject(dc, Font(hwnd));
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    RECT dentro = r;
+    InflateRect(&dentro, -kMargine, 0);
+    // What lies beyond the field cannot be seen: the system need not measure a megabyte of list.
+    std::wstring testo = Testo(hwnd);
+    if (testo.size() > 4000) testo.resize(4000);
+    DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &dentro,
+              DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
+    SelectObject(dc, prima);
+    if (GetFocus() == hwnd) {
+        InflateRect(&r, -1, -1);
+        DrawFocusRect(dc, &r);
+    }
+    EndPaint(hwnd, &p);
+}
+
+void Copia(HWND hwnd) {
+    const std::wstring testo = Testo(hwnd);
+    const SIZE_T byte = (testo.size() + 1) * sizeof(wchar_t);
+    if (testo.empty() || !OpenClipboard(hwnd)) return;
+    EmptyClipboard();
+    if (const HGLOBAL blocco = GlobalAlloc(GMEM_MOVEABLE, byte)) {
+        if (void *dove = GlobalLock(blocco)) {
+            CopyMemory(dove, testo.c_str(), byte);
+            GlobalUnlock(blocco);
+        }
+        if (!SetClipboardData(CF_UNICODETEXT, blocco)) GlobalFree(blocco);
+    }
+    CloseClipboard();
+}
+
+LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+    switch (messaggio) {
+    case WM_PAINT: Dipingi(hwnd); return 0;
+    case WM_ERASEBKGND: return 1;
+    case WM_SETFONT: SetWindowLongPtrW(hwnd, GWLP_USERDATA, static_cast<LONG_PTR>(w)); break;
+    case WM_GETFONT: return GetWindowLongPtrW(hwnd, GWLP_USERDATA);
+    case WM_SETTEXT:
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_SIZE: InvalidateRect(hwnd, nullptr, FALSE); break;
+    case WM_LBUTTONDOWN: SetFocus(hwnd); return 0;
+    case WM_COPY: Copia(hwnd); return 0;
+    case WM_KEYDOWN:
+        if (w == 'C' && GetKeyState(VK_CONTROL) < 0) Copia(hwnd);
+        return 0;
+    default: break;
+    }
+    return DefWindowProcW(hwnd, messaggio, w, l);
+}
+
+} // namespace
+
+void RegistraRiassunto() {
+    WNDCLASSEXW classe{};
+    classe.cbSize = sizeof classe;
+    classe.lpfnWndProc = Procedura;
+    classe.hInstance = GetModuleHandleW(nullptr);
+    classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    classe.lpszClassName = kClasse;
+    Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
+}
+
+HWND CreaRiassunto(HWND genitore, int id, const std::wstring &testo) {
+    return Richiesto(CreateWindowExW(WS_EX_STATICEDGE, kClasse, testo.c_str(),
+                                     WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP, 0, 0, 0, 0, genitore,
+                                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                     GetModuleHandleW(nullptr), nullptr),
+                     "CreateWindowEx(TelvaRiassunto)");
+}
+
+bool RiassuntoTagliato(HWND hwnd) {
+    const std::wstring testo = Testo(hwnd);
+    if (testo.size() > 4000) return true;
+    const HDC dc = GetDC(hwnd);
+    if (!dc) return false;
+    const HGDIOBJ prima = SelectObject(dc, Font(hwnd));
+    SIZE misura{};
+    GetTextExtentPoint32W(dc, testo.c_str(), static_cast<int>(testo.size()), &misura);
+    SelectObject(dc, prima);
+    ReleaseDC(hwnd, dc);
+    RECT r{};
+    GetClientRect(hwnd, &r);
+    return misura.cx > r.right - 2 * kMargine;
+}
+
+} // namespace telva
