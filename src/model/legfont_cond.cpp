@@ -15,6 +15,7 @@ Tabella<std::string, 256> CarFont{"CarFont"};
 Tabella<std::int16_t, 256> NumPtFont{"NumPtFont"};
 Tabella2<std::int16_t, 256, kPuntiCarattere> FontX{"FontX"}, FontY{"FontY"};
 std::int16_t SpazioFont = 0;
+int RevisioneFont = 0;
 
 namespace {
 
@@ -65,13 +66,14 @@ bool LeggiCaratteri(FileTesto &file) {
 } // namespace
 
 void AzzeraFont() {
+    ++RevisioneFont;
     CarFont.Azzera();
     SpazioFont = 0;
     for (int codice = 0; codice < 256; ++codice) NumPtFont[codice] = -1;
 }
 
 void LeggiFont() {
-    AzzeraFont();
+    AzzeraFont(); // the tables count as changed until the next call
     std::string percorso = DirProgra + "\\font.001";
     if (!EsisteFile(percorso) && EsisteFile(DirRoot + "\\font.001"))
         percorso = DirRoot + "\\font.001";

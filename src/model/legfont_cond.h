@@ -16,6 +16,8 @@ extern Tabella<std::int16_t, 256> NumPtFont; // end points of the glyph, -1 = no
 extern Tabella2<std::int16_t, 256, kPuntiCarattere> FontX, FontY; // (code, point)
 extern std::int16_t SpazioFont; // narrowing of the glyphs, percent
 
+extern int RevisioneFont; // grows whenever the tables change
+
 // Reads font.001 from DirProgra, or from DirRoot when it is not there. A missing or broken file
 // shows its message; the glyphs read so far stay.
 void LeggiFont();

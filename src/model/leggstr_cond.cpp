@@ -19,14 +19,13 @@ constexpr double kNomeNodoMassimo = 32000;
 
 // Next token of a line: between blanks and tabs; the rest of the line stays for the next one.
 std::string_view ProssimoCampo(std::string_view &riga) {
-    const std::size_t inizio = riga.find_first_not_of(" \t");
-    if (inizio == std::string_view::npos) {
-        riga = {};
-        return {};
-    }
-    const std::size_t fine = riga.find_first_of(" \t", inizio);
+    const auto vuoto = [](char c) { return c == ' ' || c == '\t'; };
+    std::size_t inizio = 0;
+    while (inizio < riga.size() && vuoto(riga[inizio])) ++inizio;
+    std::size_t fine = inizio;
+    while (fine < riga.size() && !vuoto(riga[fine])) ++fine;
     const std::string_view campo = riga.substr(inizio, fine - inizio);
-    riga.remove_prefix(fine == std::string_view::npos ? riga.size() : fine);
+    riga.remove_prefix(fine);
     return campo;
 }
 

@@ -119,6 +119,24 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
         superficie_.Linea(a, b, rgb);
 }
 
+void RiquadroDisegno::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {
+    const double px = XPixel(x), py = YPixel(y);
+    constexpr double kVicinanza = 1 << 19;
+    const bool lontano = !(std::abs(px) + std::max(-t.minX, t.maxX) < kVicinanza &&
+                           std::abs(py) + std::max(-t.minY, t.maxY) < kVicinanza);
+    if (DrawWidth <= 1 && !lontano) {
+        superficie_.LineeTratti(t, px, py, APixelRGB(colore));
+        return;
+    }
+    const Tratti::Punto *da = nullptr;
+    for (const Tratti::Punto &a : t.punti) {
+        if (!a.inizio)
+            Line(XDaPixel(px + da->x), YDaPixel(py + da->y), XDaPixel(px + a.x), YDaPixel(py + a.y),
+                 colore);
+        da = &a;
+    }
+}
+
 void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t colore) {
     bool fuori = false;
     const Pixel centro = InPixel(x, y, fuori);

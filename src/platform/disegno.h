@@ -10,6 +10,11 @@
 
 namespace telva {
 
+// 0x00BBGGRR to a surface's pixel.
+constexpr std::uint32_t APixelRGB(std::uint32_t bgr) {
+    return ((bgr & 0xFF) << 16) | (bgr & 0xFF00) | ((bgr >> 16) & 0xFF);
+}
+
 class RiquadroDisegno : public Controllo {
   public:
     RiquadroDisegno(Modulo *f, std::string nome);
@@ -47,6 +52,15 @@ class RiquadroDisegno : public Controllo {
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore);
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore, Tratteggio t);
     void Circle(double x, double y, double raggio, std::uint32_t colore);
+    // Segments in pixels whose origin is the point (x, y).
+    void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore);
+    // Lit pixels around a pixel.
+    void Timbra(const Timbro &timbro, Pixel origine, std::uint32_t colore) {
+        superficie_.Timbra(timbro, origine, APixelRGB(colore));
+    }
+    // Pixels to the unit, with the sign of the axis.
+    double ScalaX() const { return scalaX_; }
+    double ScalaY() const { return scalaY_; }
     // Shows the finished picture.
     void Presenta() { Avvisa(Campo::Immagine); }
 
@@ -65,10 +79,5 @@ class RiquadroDisegno : public Controllo {
     Superficie superficie_;
     double scalaX_ = 1, scalaY_ = 1; // pixels per unit
 };
-
-// 0x00BBGGRR to a surface's pixel.
-constexpr std::uint32_t APixelRGB(std::uint32_t bgr) {
-    return ((bgr & 0xFF) << 16) | (bgr & 0xFF00) | ((bgr >> 16) & 0xFF);
-}
 
 } // namespace telva

@@ -6,14 +6,41 @@
 #include "platform/tabella.h"
 #include "platform/testo.h"
 
-#include <algorithm>
-#include <charconv>
+#include <cstdint>
+#include <optional>
 
 namespace telva {
 namespace {
 
 bool FineRiga(char c) { return c == '\n' || c == '\r'; }
 bool FineNumero(char c) { return c == ',' || c == ' ' || c == '\t' || FineRiga(c); }
+
+// The plain decimal number that nearly every value is: up to 15 digits and no exponent, which one
+// division of two exact numbers turns into the nearest double. The end of the value, or nullptr
+// when it is anything else.
+const char *NumeroSemplice(const char *p, const char *fine, double &valore) {
+    static constexpr double kPotenze[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool negativo = *p == '-';
+    if (negativo) ++p;
+    std::uint64_t cifre = 0;
+    int numero = 0, decimali = 0;
+    for (bool punto = false; p != fine; ++p) {
+        if (*p >= '0' && *p <= '9') {
+            cifre = cifre * 10 + static_cast<std::uint64_t>(*p - '0');
+            if (++numero > 15) return nullptr;
+            decimali += punto ? 1 : 0;
+        } else if (*p == '.' && !punto) {
+            punto = true;
+        } else {
+            break;
+        }
+    }
+    if (numero == 0 || (p != fine && !FineNumero(*p))) return nullptr;
+    const double assoluto = static_cast<double>(cifre) / kPotenze[decimali];
+    valore = negativo ? -assoluto : assoluto;
+    return p;
+}
 
 } // namespace
 
@@ -105,27 +132,19 @@ Lettura FileTesto::LeggiNumero(double &valore) {
     riga_ = righePassate_ + 1;
     const char *inizio = byte_.data() + posto_;
     const char *fineByte = byte_.data() + byte_.size();
-    double letto = 0;
-    // The plain decimal number is the common case, and the files are large.
-    const auto esito = std::from_chars(inizio, fineByte, letto);
-    const bool cifra = *inizio == '-' || *inizio == '.' || (*inizio >= '0' && *inizio <= '9');
-    const char *fine = inizio;
-    if (cifra && esito.ec == std::errc() && (esito.ptr == fineByte || FineNumero(*esito.ptr)) &&
-        !(*inizio == '-' && inizio[1] > '9')) {
-        fine = esito.ptr;
-    } else {
-        while (fine != fineByte && !FineNumero(*fine)) ++fine;
-        const std::string_view testo(inizio, static_cast<std::size_t>(fine - inizio));
-        const auto numero = testo.empty() ? std::optional<double>(0) : NumeroStretto(testo);
-        posto_ += testo.size();
+    if (const char *fine = NumeroSemplice(inizio, fineByte, valore)) {
+        posto_ += static_cast<std::size_t>(fine - inizio);
         ConsumaFineValore();
-        if (!numero) return Lettura::Malformata;
-        valore = *numero;
         return Lettura::Riuscita;
     }
-    posto_ += static_cast<std::size_t>(fine - inizio);
+    const char *fine = inizio;
+    while (fine != fineByte && !FineNumero(*fine)) ++fine;
+    const std::string_view testo(inizio, static_cast<std::size_t>(fine - inizio));
+    const auto numero = testo.empty() ? std::optional<double>(0) : NumeroStretto(testo);
+    posto_ += testo.size();
     ConsumaFineValore();
-    valore = letto;
+    if (!numero) return Lettura::Malformata;
+    valore = *numero;
     return Lettura::Riuscita;
 }
 

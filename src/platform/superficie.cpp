@@ -120,6 +120,61 @@ void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratt
     });
 }
 
+void Tratti::Aggiungi(Punto p) {
+    const bool primo = punti.empty();
+    minX = primo ? p.x : std::min(minX, p.x);
+    maxX = primo ? p.x : std::max(maxX, p.x);
+    minY = primo ? p.y : std::min(minY, p.y);
+    maxY = primo ? p.y : std::max(maxY, p.y);
+    punti.push_back(p);
+}
+
+void Tratti::Aggiungi(double x1, double y1, double x2, double y2) {
+    if (punti.empty() || punti.back().x != x1 || punti.back().y != y1) Aggiungi({x1, y1, true});
+    Aggiungi({x2, y2, false});
+}
+
+void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {
+    const auto pixel = [](double v) { return static_cast<int>(std::floor(v + 0.5)); };
+    Pixel da{};
+    for (const Tratti::Punto &punto : t.punti) {
+        const Pixel a{pixel(x + punto.x), pixel(y + punto.y)};
+        if (!punto.inizio) Linea(da, a, colore);
+        da = a;
+    }
+}
+
+void Timbro::Riempi(const Tratti &t, double x, double y) {
+    pixel.clear();
+    if (t.punti.empty()) return;
+    const auto basso = [](double v) { return static_cast<int>(std::floor(v)) - 1; };
+    const Pixel angolo{basso(t.minX + x), basso(t.minY + y)};
+    Superficie foglio;
+    foglio.Ridimensiona(basso(t.maxX + x) + 4 - angolo.x, basso(t.maxY + y) + 4 - angolo.y);
+    foglio.Riempi(0);
+    foglio.LineeTratti(t, x - angolo.x, y - angolo.y, 1);
+    for (int py = 0; py < foglio.Altezza(); ++py)
+        for (int px = 0; px < foglio.Larghezza(); ++px)
+            if (foglio.Leggi(px, py) != 0) pixel.push_back({px + angolo.x, py + angolo.y});
+    minimo = angolo;
+    massimo = {angolo.x + foglio.Larghezza() - 1, angolo.y + foglio.Altezza() - 1};
+}
+
+void Superficie::Timbra(const Timbro &t, Pixel o, std::uint32_t colore) {
+    const bool dentro = o.x + t.minimo.x >= 0 && o.y + t.minimo.y >= 0 &&
+                        o.x + t.massimo.x < larghezza_ && o.y + t.massimo.y < altezza_;
+    if (dentro) {
+        std::uint32_t *origine = Riga(o.y) + o.x;
+        const std::ptrdiff_t riga = larghezza_;
+        for (const Pixel &p : t.pixel) origine[p.y * riga + p.x] = colore;
+        return;
+    }
+    for (const Pixel &p : t.pixel) {
+        const int x = o.x + p.x, y = o.y + p.y;
+        if (x >= 0 && y >= 0 && x < larghezza_ && y < altezza_) Riga(y)[x] = colore;
+    }
+}
+
 const std::vector<Superficie::Tratto> &Superficie::Disco(int larghezza) {
     auto &disco = dischi_[static_cast<std::size_t>(larghezza)];
     if (disco.empty()) {
@@ -158,7 +213,7 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
     return anello_;
 }
 
-void Superficie::Timbra(const std::vector<Tratto> &forma, Pixel c, std::uint32_t colore) {
+void Superficie::TimbraForma(const std::vector<Tratto> &forma, Pixel c, std::uint32_t colore) {
     for (const Tratto &t : forma)
         Orizzontale(std::int64_t{c.x} + t.xDa, std::int64_t{c.x} + t.xA, c.y + t.y, colore);
 }
@@ -170,7 +225,7 @@ void Superficie::Cerchio(Pixel c, int raggio, int larghezza, std::uint32_t color
     if (c.x < -ingombro || c.y < -ingombro || c.x > larghezza_ + ingombro ||
         c.y > altezza_ + ingombro)
         return;
-    Timbra(raggio == 0 ? Disco(larghezza) : Anello(raggio, larghezza), c, colore);
+    TimbraForma(raggio == 0 ? Disco(larghezza) : Anello(raggio, larghezza), c, colore);
 }
 
 // The band between two discs is convex: every row of it is one run, whose ends are the outermost
@@ -179,7 +234,7 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
     larghezza = std::clamp(larghezza, 1, kPennaMassima);
     const std::vector<Tratto> &disco = Disco(larghezza);
     if (a == b) {
-        if (a.x >= -larghezza && a.x <= larghezza_ + larghezza) Timbra(disco, a, colore);
+        if (a.x >= -larghezza && a.x <= larghezza_ + larghezza) TimbraForma(disco, a, colore);
         return;
     }
     if (a.y > b.y) std::swap(a, b);

@@ -22,6 +22,29 @@ struct Tratteggio {
     int periodo = 1; // 1..32
 };
 
+// Segments in pixels (fractions kept) from an origin; one that begins where the last one ended goes
+// on from there. A glyph in its size is one of these, drawn thousands of times.
+struct Tratti {
+    struct Punto {
+        double x, y;
+        bool inizio; // nothing leads here from the point before
+    };
+    std::vector<Punto> punti;
+    double minX = 0, maxX = 0, minY = 0, maxY = 0;
+    void Aggiungi(double x1, double y1, double x2, double y2);
+
+  private:
+    void Aggiungi(Punto p);
+};
+
+// The pixels that such segments light, around their origin.
+struct Timbro {
+    std::vector<Pixel> pixel;
+    Pixel minimo, massimo;
+    // Of the segments with their origin at (x, y) within one pixel.
+    void Riempi(const Tratti &tratti, double x, double y);
+};
+
 class Superficie {
   public:
     int Larghezza() const { return larghezza_; }
@@ -39,6 +62,10 @@ class Superficie {
     // Ends included. Coordinates may lie anywhere within +-2^28.
     void Linea(Pixel a, Pixel b, std::uint32_t colore);
     void LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio tratteggio);
+    // The segments with their origin at (x, y), which lies within +-2^19: each end goes to its
+    // nearest pixel, then as Linea.
+    void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore);
+    void Timbra(const Timbro &timbro, Pixel origine, std::uint32_t colore);
     // Pen of `larghezza` pixels (2..kPennaMassima) with round ends.
     void LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore);
     // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
@@ -56,7 +83,7 @@ class Superficie {
     void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
     const std::vector<Tratto> &Disco(int larghezza);
     const std::vector<Tratto> &Anello(int raggio, int larghezza);
-    void Timbra(const std::vector<Tratto> &forma, Pixel centro, std::uint32_t colore);
+    void TimbraForma(const std::vector<Tratto> &forma, Pixel centro, std::uint32_t colore);
 
     int larghezza_ = 0;
     int altezza_ = 0;

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 #include <vector>
 
 namespace telva {
@@ -41,15 +42,16 @@ struct Scrittura {
         return x + raggio >= d.ScaleLeft && x - raggio <= d.ScaleLeft + d.ScaleWidth &&
                y - raggio <= d.ScaleTop && y + raggio >= d.ScaleTop + d.ScaleHeight;
     }
-    void Scrivi(const std::string &testo, double x, double y) const {
-        DisTesto(testo, x, y, 0, base, altezza, colore, &d);
+    void Scrivi(const std::string &testo, double x, double y, std::int16_t gradi = 0) const {
+        DisTesto(testo, x, y, gradi, base, altezza, colore, &d);
     }
 };
 
 // Longest label there can be, for rejecting before the text is made.
 constexpr std::size_t kCaratteriEtichetta = 40;
 constexpr double kCaratteriNodo = 4;    // of a node's label, usually
-constexpr double kPendenzaRipida = 0.3; // a bar is neither flat nor upright beyond this sine
+constexpr double kQuasiRitta = 0.02;    // sine of the lean up to which a bar counts as upright
+constexpr double kPendenzaRipida = 0.3; // sine beyond which it is neither flat nor upright
 
 double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
     std::size_t caratteri = 0;
@@ -57,28 +59,57 @@ double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
     return static_cast<double>(caratteri) * s.base;
 }
 
-// Beside the middle of a bar: above a flat one, to the right of an upright one, below one that
-// falls steeply, so that the labels of two crossing braces keep apart. `opposto`: on the other
-// side.
-void ScriviAsta(const Scrittura &s, int b, const std::string &testo, bool opposto) {
-    const int i = NodoIAsta[b], j = NodoJAsta[b];
-    const double mx = (XNodo(i) + XNodo(j)) / 2, my = (YNodo(i) + YNodo(j)) / 2;
-    const double dx = XNodo(j) - XNodo(i), dy = YNodo(j) - YNodo(i);
-    const double lunghezza = std::hypot(dx, dy);
+// The middle of a bar on the screen and the unit normal to the side of its label: above a flat bar,
+// to the right of an upright one, below one that falls steeply, so that the labels of two crossing
+// braces keep apart. The name of a continuous element stands on the other side.
+struct MezzoAsta {
+    double x, y, nx = 0, ny = 0;
+    bool diPunta; // seen from its end
+
+    MezzoAsta(const Scrittura &s, int b) {
+        const int i = NodoIAsta[b], j = NodoJAsta[b];
+        x = (XNodo(i) + XNodo(j)) / 2;
+        y = (YNodo(i) + YNodo(j)) / 2;
+        const double dx = XNodo(j) - XNodo(i), dy = YNodo(j) - YNodo(i);
+        const double lunghezza = std::sqrt(dx * dx + dy * dy);
+        diPunta = lunghezza < s.d.UnitaPerPixel();
+        if (diPunta) return;
+        nx = -dy / lunghezza;
+        ny = dx / lunghezza;
+        if (ny < -kQuasiRitta || (ny < kQuasiRitta && nx < 0)) nx = -nx, ny = -ny;
+        if (nx > kPendenzaRipida && ny > kPendenzaRipida) nx = -nx, ny = -ny;
+    }
+};
+
+void ScriviAsta(const Scrittura &s, const MezzoAsta &m, const std::string &testo) {
     const double larghezza = LarghezzaTesto(s, testo);
-    if (lunghezza ==
-        0) { // seen from its end: to the left, for the nodes' labels stand to the right
-        s.Scrivi(testo, mx - s.distanza - larghezza,
-                 my + (opposto ? -s.distanza - s.altezza : s.distanza));
+    if (m.diPunta) { // to the left, for the nodes' labels stand to the right
+        s.Scrivi(testo, m.x - s.distanza - larghezza, m.y + s.distanza);
         return;
     }
-    double nx = -dy / lunghezza, ny = dx / lunghezza;
-    if (ny < 0 || (ny == 0 && nx < 0)) nx = -nx, ny = -ny;
-    const bool cade = nx > kPendenzaRipida && ny > kPendenzaRipida;
-    if (cade != opposto) nx = -nx, ny = -ny;
     // Centre of the text box, moved out until the whole box stands clear of the line.
-    const double scarto = s.distanza + (std::abs(nx) * larghezza + std::abs(ny) * s.altezza) / 2;
-    s.Scrivi(testo, mx + nx * scarto - larghezza / 2, my + ny * scarto - s.altezza / 2);
+    const double scarto =
+        s.distanza + (std::abs(m.nx) * larghezza + std::abs(m.ny) * s.altezza) / 2;
+    s.Scrivi(testo, m.x + m.nx * scarto - larghezza / 2, m.y + m.ny * scarto - s.altezza / 2);
+}
+
+// Names are long: they run along the bar, to be read from below or from the right.
+void ScriviNome(const Scrittura &s, const MezzoAsta &m, const std::string &testo) {
+    const double larghezza = LarghezzaTesto(s, testo);
+    if (m.diPunta) {
+        s.Scrivi(testo, m.x - s.distanza - larghezza, m.y - s.distanza - s.altezza);
+        return;
+    }
+    const bool ritta = std::abs(m.ny) < kQuasiRitta;
+    const double verso = m.ny < 0 ? -1 : 1; // makes the text run to the right
+    const double inclinata = std::atan2(-m.nx * verso, m.ny * verso) * 180 / std::numbers::pi;
+    const double gradi = ritta ? 90 : std::round(inclinata);
+    const double c = std::cos(gradi * std::numbers::pi / 180);
+    const double n = std::sin(gradi * std::numbers::pi / 180);
+    const double scarto = s.distanza + s.altezza / 2;
+    s.Scrivi(testo, m.x - m.nx * scarto - (c * larghezza - n * s.altezza) / 2,
+             m.y - m.ny * scarto - (n * larghezza + c * s.altezza) / 2,
+             static_cast<std::int16_t>(gradi));
 }
 
 // The corners around the nodes, bit by bit: 1 right above, 2 left above, 4 right below, 8 left
@@ -125,9 +156,8 @@ void EtichetteElCont(const Scrittura &s) {
         const int b = AsteElCont(k, 0);
         if (b < 0 || b >= NumAste || !AstaDisegnata(b)) continue; // a name that no bar has
         const std::string testo = EtichettaElCont(k);
-        const int i = NodoIAsta[b], j = NodoJAsta[b];
-        if (s.InVista((XNodo(i) + XNodo(j)) / 2, (YNodo(i) + YNodo(j)) / 2, testo.size()))
-            ScriviAsta(s, b, testo, true);
+        const MezzoAsta mezzo(s, b);
+        if (s.InVista(mezzo.x, mezzo.y, testo.size())) ScriviNome(s, mezzo, testo);
     }
 }
 
@@ -151,9 +181,9 @@ void EtichetteAste(const Scrittura &s) {
     if (!OpzioneAttiva(kOpzTestiAste)) return;
     for (int b = 0; b < NumAste; ++b) {
         if (!AstaDisegnata(b)) continue;
-        const int i = NodoIAsta[b], j = NodoJAsta[b];
-        if (s.InVista((XNodo(i) + XNodo(j)) / 2, (YNodo(i) + YNodo(j)) / 2, kCaratteriEtichetta))
-            ScriviAsta(s, b, EtichettaAsta(b), false);
+        const MezzoAsta mezzo(s, b);
+        if (s.InVista(mezzo.x, mezzo.y, kCaratteriEtichetta))
+            ScriviAsta(s, mezzo, EtichettaAsta(b));
     }
 }
 

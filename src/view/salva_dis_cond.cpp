@@ -81,6 +81,110 @@ void DisLinea(double x1, double y1, double x2, double y2, std::optional<std::int
                          colore.value_or(ColoreDisCorrente));
 }
 
+namespace {
+
+// Size and direction of a text: what turns font units into drawing units.
+struct Misura {
+    double ct, st, sx, sy;
+
+    Misura(std::int16_t angolo, double base, double altezza) {
+        const double teta = angolo * 4 * std::atan(1.0) / 180;
+        ct = std::cos(teta);
+        st = std::sin(teta);
+        sx = (1 - SpazioFont / 100.0) * base / kLarghezzaCella;
+        sy = altezza / kAltezzaCella;
+    }
+    double X(int codice, int j) const {
+        return FontX(codice, j) * sx * ct - (FontY(codice, j) - kLineaBase) * sy * st;
+    }
+    double Y(int codice, int j) const {
+        return FontX(codice, j) * sx * st + (FontY(codice, j) - kLineaBase) * sy * ct;
+    }
+    friend bool operator==(const Misura &, const Misura &) = default;
+};
+
+// The glyphs of the size used last, made into pixels once for all the texts of a picture. Their
+// places are rounded to a quarter of a pixel, so that each glyph has only sixteen shapes; large
+// ones are drawn stroke by stroke.
+class CaratteriInScala {
+  public:
+    void Disegna(int codice, const Misura &misura, double x, double y, std::uint32_t colore,
+                 RiquadroDisegno &d) {
+        const Chiave chiave{misura, d.ScalaX(), d.ScalaY(), RevisioneFont};
+        if (!(chiave_ == chiave)) {
+            chiave_ = chiave;
+            pronti_.fill(false);
+        }
+        Carattere &c = Prepara(codice);
+        if (c.tratti.punti.empty()) return;
+        const double qx = std::floor(d.XPixel(x) * kFrazioni + 0.5);
+        const double qy = std::floor(d.YPixel(y) * kFrazioni + 0.5);
+        if (!c.piccolo || d.DrawWidth > 1 ||
+            !(std::abs(qx) < kLontano && std::abs(qy) < kLontano)) {
+            d.LineeTratti(c.tratti, x, y, colore);
+            return;
+        }
+        const int ix = static_cast<int>(qx), iy = static_cast<int>(qy);
+        const int fx = ix & (kFrazioni - 1), fy = iy & (kFrazioni - 1);
+        const auto forma = static_cast<std::size_t>(fy * kFrazioni + fx);
+        if (!c.fatti[forma]) {
+            c.timbri[forma].Riempi(c.tratti, double(fx) / kFrazioni, double(fy) / kFrazioni);
+            c.fatti[forma] = true;
+        }
+        d.Timbra(c.timbri[forma], {(ix - fx) / kFrazioni, (iy - fy) / kFrazioni}, colore);
+    }
+
+  private:
+    static constexpr int kFrazioni = 4;
+    static constexpr double kLontano = 1 << 24, kGrande = 64;
+
+    struct Chiave {
+        Misura misura{0, 0, 0};
+        double scalaX = 0, scalaY = 0;
+        int revisione = -1;
+        friend bool operator==(const Chiave &, const Chiave &) = default;
+    };
+    struct Carattere {
+        Tratti tratti;
+        bool piccolo = true;
+        std::array<bool, kFrazioni * kFrazioni> fatti{};
+        std::array<Timbro, kFrazioni * kFrazioni> timbri;
+    };
+
+    Carattere &Prepara(int codice) {
+        const auto posto = static_cast<std::size_t>(codice);
+        Carattere &c = caratteri_[posto];
+        if (pronti_[posto]) return c;
+        pronti_[posto] = true;
+        c.tratti = {};
+        c.fatti.fill(false);
+        const Misura &m = chiave_.misura;
+        for (int j = 0; j + 1 < NumPtFont[codice]; j += 2) {
+            const double x1 = m.X(codice, j), y1 = m.Y(codice, j);
+            const double x2 = m.X(codice, j + 1), y2 = m.Y(codice, j + 1);
+            if (Vicini(x1, y1, x2, y2)) continue;
+            c.tratti.Aggiungi(x1 * chiave_.scalaX, y1 * chiave_.scalaY, x2 * chiave_.scalaX,
+                              y2 * chiave_.scalaY);
+        }
+        c.piccolo =
+            c.tratti.maxX - c.tratti.minX < kGrande && c.tratti.maxY - c.tratti.minY < kGrande;
+        return c;
+    }
+
+    Chiave chiave_;
+    std::array<bool, 256> pronti_{};
+    std::array<Carattere, 256> caratteri_;
+};
+
+void RegistraCarattere(int codice, const Misura &m, double ox, double oy,
+                       std::optional<std::int16_t> colore) {
+    for (int j = 0; j + 1 < NumPtFont[codice]; j += 2)
+        DisLinea(ox + m.X(codice, j), oy + m.Y(codice, j), ox + m.X(codice, j + 1),
+                 oy + m.Y(codice, j + 1), colore);
+}
+
+} // namespace
+
 void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, double base,
               double altezza, std::optional<std::int16_t> colore, RiquadroDisegno *bersaglio) {
     if (base == 0 || altezza == 0) return;
@@ -88,23 +192,19 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
         RegistraTesto(testo, x, y);
         return;
     }
-    const double teta = angolo * 4 * std::atan(1.0) / 180;
-    const double ct = std::cos(teta), st = std::sin(teta);
-    const double sx = (1 - SpazioFont / 100.0) * base / kLarghezzaCella;
-    const double sy = altezza / kAltezzaCella;
+    static CaratteriInScala caratteri;
+    const Misura misura(angolo, base, altezza);
+    const std::uint32_t rgb = ColoreRGB(colore.value_or(0));
     double avanzamento = -base;
     for (std::size_t posto = 0; posto < testo.size();) {
         const int codice = CodiceAnsi(ProssimoCarattere(testo, posto));
         if (codice < 0) return; // no character of the font's code page
         avanzamento += base;
-        const double ox = x + avanzamento * ct, oy = y + avanzamento * st;
-        for (int j = 0; j + 1 < NumPtFont[codice]; j += 2) {
-            const double gx1 = FontX(codice, j) * sx, gy1 = (FontY(codice, j) - kLineaBase) * sy;
-            const double gx2 = FontX(codice, j + 1) * sx,
-                         gy2 = (FontY(codice, j + 1) - kLineaBase) * sy;
-            DisLinea(ox + gx1 * ct - gy1 * st, oy + gx1 * st + gy1 * ct, ox + gx2 * ct - gy2 * st,
-                     oy + gx2 * st + gy2 * ct, colore, bersaglio);
-        }
+        const double ox = x + avanzamento * misura.ct, oy = y + avanzamento * misura.st;
+        if (bersaglio)
+            caratteri.Disegna(codice, misura, ox, oy, rgb, *bersaglio);
+        else
+            RegistraCarattere(codice, misura, ox, oy, colore);
     }
 }
 
