@@ -89,6 +89,10 @@ Modulo::Modulo(std::string nome)
     : Controllo(nullptr, std::move(nome), Tipo::Modulo), Caption(*this, Campo::Didascalia),
       MousePointer(*this, Campo::Puntatore, telva::Puntatore::Predefinito) {}
 
+void Modulo::PreparaDpi() {
+    if (Sistema()) dpi = Sistema()->DpiIniziale();
+}
+
 void Modulo::Mostra() {
     mostrata_ = true;
     if (Sistema()) Sistema()->Mostra(*this);

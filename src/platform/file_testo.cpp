@@ -48,6 +48,8 @@ void GuastoInFile(const std::string &percorso, int riga, const std::string &moti
     throw Guasto("File " + percorso + ", riga " + TestoNumero(riga) + ": " + motivo);
 }
 
+const char *NomeTabella(const char *nome) { return nome; }
+
 void GuastoIndice(const char *tabella, long indice, long ultimo) {
     throw Guasto("Indice " + std::to_string(indice) + " fuori dalla tabella " + tabella + " (0.." +
                  std::to_string(ultimo) + ")");

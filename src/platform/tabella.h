@@ -12,11 +12,16 @@ namespace telva {
 
 [[noreturn]] void GuastoIndice(const char *tabella, long indice, long ultimo);
 
-// Entries 0..N-1; an index outside throws Guasto.
+// Gives the name back. Called while the program starts: a table whose name the compiler wrote down
+// would carry all its zeros in the program's file.
+const char *NomeTabella(const char *nome);
+
+// Entries 0..N-1, all zero at start: tables stand in static storage. An index outside throws
+// Guasto.
 template <class T, int N>
 class Tabella {
   public:
-    explicit constexpr Tabella(const char *nome) : nome_(nome) {}
+    explicit Tabella(const char *nome) : nome_(NomeTabella(nome)) {}
 
     T &operator[](int i) { return voci_[Verifica(i)]; }
     const T &operator[](int i) const { return voci_[Verifica(i)]; }
@@ -31,14 +36,14 @@ class Tabella {
         return static_cast<std::size_t>(i);
     }
     const char *nome_;
-    std::array<T, static_cast<std::size_t>(N)> voci_{};
+    std::array<T, static_cast<std::size_t>(N)> voci_;
 };
 
 // Entries (0..N-1, 0..M-1), the second index the fast one; an index outside throws Guasto.
 template <class T, int N, int M>
 class Tabella2 {
   public:
-    explicit constexpr Tabella2(const char *nome) : nome_(nome) {}
+    explicit Tabella2(const char *nome) : nome_(NomeTabella(nome)) {}
 
     T &operator()(int i, int j) { return voci_[Posto(i, j)]; }
     const T &operator()(int i, int j) const { return voci_[Posto(i, j)]; }
@@ -52,7 +57,7 @@ class Tabella2 {
                static_cast<std::size_t>(j);
     }
     const char *nome_;
-    std::array<T, static_cast<std::size_t>(N) * static_cast<std::size_t>(M)> voci_{};
+    std::array<T, static_cast<std::size_t>(N) * static_cast<std::size_t>(M)> voci_;
 };
 
 } // namespace telva

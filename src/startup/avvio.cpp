@@ -64,6 +64,7 @@ void Avvia() {
     FormTelva.FunAttiva.Caption = "";
     AzzeraPuntatore();
     FormTelva.MousePointer = Puntatore::Clessidra;
+    FormTelva.PreparaDpi();
     Form_Resize(); // gives the drawing its size; there is nothing to see yet
     Direttori();
     LavoroDaArgomento();

@@ -18,13 +18,12 @@ Tabella<std::int16_t, kElemDis> ElemDisColore{"ElemDisColore"}, ElemDisTipo{"Ele
 std::int16_t ColoreDisCorrente, TipoDisCorrente;
 double OffsetDisX, OffsetDisY;
 std::string ModoDisTesto;
-std::int32_t NumTestiDis;
-Tabella<TestoDis, kTestiDis> TestiDis{"TestiDis"};
+std::vector<TestoDis> TestiDis;
 
 namespace {
 
 constexpr double kVicino = 0.0001; // drawing coordinates closer than this are the same
-constexpr std::int32_t kLimiteCoord = 50000, kLimiteElem = 50000, kLimiteTesti = 15000;
+constexpr std::int32_t kLimiteCoord = 50000, kLimiteElem = 50000;
 constexpr std::int32_t kRicerca = 30; // how far behind the last point sharing looks
 
 constexpr double kLarghezzaCella = 99, kAltezzaCella = 69, kLineaBase = 30;
@@ -36,9 +35,9 @@ bool Vicini(double x1, double y1, double x2, double y2) {
 void Avverti(const char *testo) { MostraMessaggio(testo, Icona::Esclamazione, "Problema"); }
 
 void RegistraTesto(std::string_view testo, double x, double y) {
-    if (NumTestiDis >= kLimiteTesti) return;
-    if (NumTestiDis == kLimiteTesti - 1) Avverti(" Numero eccessivo di testi ");
-    TestiDis[NumTestiDis++] = {std::string(testo), x + OffsetDisX, y + OffsetDisY};
+    if (TestiDis.size() >= kTestiDis) return;
+    if (TestiDis.size() == kTestiDis - 1) Avverti(" Numero eccessivo di testi ");
+    TestiDis.push_back({std::string(testo), x + OffsetDisX, y + OffsetDisY});
 }
 
 } // namespace
@@ -209,7 +208,8 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
 }
 
 void AzzeraDisegno() {
-    NumCoordDis = NumElemDis = NumTestiDis = 0;
+    NumCoordDis = NumElemDis = 0;
+    TestiDis.clear();
     ColoreDisCorrente = TipoDisCorrente = 0;
     OffsetDisX = OffsetDisY = 0;
     ModoDisTesto.clear();

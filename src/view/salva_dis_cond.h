@@ -8,13 +8,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace telva {
 
 class RiquadroDisegno;
 
 // Display list: shared points and the segments between them.
-inline constexpr int kCoordDis = 50001, kElemDis = 50001, kTestiDis = 15001;
+inline constexpr int kCoordDis = 50001, kElemDis = 50001, kTestiDis = 15000;
 extern std::int32_t NumCoordDis;
 extern Tabella<double, kCoordDis> CoordDisX, CoordDisY;
 extern std::int32_t NumElemDis;
@@ -28,8 +29,7 @@ struct TestoDis {
     std::string testo;
     double x = 0, y = 0;
 };
-extern std::int32_t NumTestiDis;
-extern Tabella<TestoDis, kTestiDis> TestiDis;
+extern std::vector<TestoDis> TestiDis; // at most kTestiDis
 
 // Colour value 0x00BBGGRR of a colour code; white for a code that is none.
 std::uint32_t ColoreRGB(std::int32_t codice);

@@ -58,6 +58,7 @@ HCURSOR Cursore(Puntatore puntatore) {
 }
 
 FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria) : modulo_(modulo) {
+    const double dpiPrima = modulo.dpi;
     modulo.dpi = DpiDi(proprietaria);
     const bool principale = modulo.ridimensionabile;
     const DWORD stile =
@@ -75,6 +76,7 @@ FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria) : modulo_(modulo
     CreaControlli();
     creata_ = true;
     ApplicaMisuraFinestra();
+    if (modulo.dpi != dpiPrima) Ridimensionata(SIZE_RESTORED, true);
 }
 
 FinestraWin32::~FinestraWin32() {
@@ -357,12 +359,16 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     return DefWindowProcW(hwnd_, messaggio, w, l);
 }
 
-void FinestraWin32::Ridimensionata(WPARAM modo) {
+void FinestraWin32::Ridimensionata(WPARAM modo, bool forza) {
     modulo_.ridotta = modo == SIZE_MINIMIZED;
     if (!creata_ || !modulo_.ridimensionabile || modulo_.ridotta) return;
     const RECT r = RettangoloVisibile(hwnd_);
-    modulo_.Width.Accogli(ATwip(r.right - r.left, modulo_.dpi));
-    modulo_.Height.Accogli(ATwip(r.bottom - r.top, modulo_.dpi));
+    const double larghezza = ATwip(r.right - r.left, modulo_.dpi);
+    const double altezza = ATwip(r.bottom - r.top, modulo_.dpi);
+    // Shown or restored at the size it had: everything stands where it is.
+    if (!forza && modulo_.Width == larghezza && modulo_.Height == altezza) return;
+    modulo_.Width.Accogli(larghezza);
+    modulo_.Height.Accogli(altezza);
     if (modulo_.Resize) Evento(modulo_.Resize);
     InvalidateRect(hwnd_, nullptr, TRUE);
 }
@@ -388,7 +394,7 @@ void FinestraWin32::DpiCambiato(UINT dpi, const RECT &r) {
     ApplicaPosizioni();
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    if (modulo_.ridimensionabile) Ridimensionata(SIZE_RESTORED);
+    if (modulo_.ridimensionabile) Ridimensionata(SIZE_RESTORED, true);
 }
 
 void FinestraWin32::Comando(HWND nativo, WORD codice, WORD id) {

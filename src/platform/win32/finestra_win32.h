@@ -67,7 +67,7 @@ class FinestraWin32 : public Pari {
     std::vector<Controllo *> ConFigli(Controllo &c) const;
 
     // Events
-    void Ridimensionata(WPARAM modo);
+    void Ridimensionata(WPARAM modo, bool forza = false);
     void MisuraMinima(MINMAXINFO &info) const;
     void DpiCambiato(UINT dpi, const RECT &proposto);
     void Comando(HWND nativo, WORD codice, WORD id);

@@ -12,6 +12,8 @@ namespace {
 
 class Sistema : public SistemaFinestre {
   public:
+    double DpiIniziale() override { return DpiDi(nullptr); }
+
     void Mostra(Modulo &modulo) override {
         principale_ = std::make_unique<FinestraWin32>(modulo, nullptr);
         principale_->Mostra(SW_SHOWDEFAULT);
