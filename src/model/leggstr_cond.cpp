@@ -7,6 +7,7 @@
 #include "platform/testo.h"
 #include "startup/direttori_cond.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <vector>
@@ -52,7 +53,7 @@ class LettoreStruttura {
         LeggiGusci();
         for (int sezione = 0; sezione < 3; ++sezione) SaltaSezione();
         LeggiTesti();
-        if (!motivo_.empty()) GuastoInFile(file_.Percorso(), rigaGuasta_, motivo_);
+        SegnalaIndice();
     }
 
   private:
@@ -101,15 +102,15 @@ class LettoreStruttura {
     }
 
     // Number of entries of a section that the tables have to hold.
-    std::int16_t Conteggio(int capacita, const char *voci) {
+    std::int16_t Conteggio(int capacita, const char *troppe) {
         std::string_view riga;
         if (!file_.LeggiRiga(riga)) return 0;
         const double valore = ValoreCampo(ProssimoCampo(riga));
         if (valore > capacita)
             GuastoInFile(file_.Percorso(), file_.Riga(),
-                         "troppi " + std::string(voci) + ": " + TestoNumero(valore) +
-                             " (al massimo " + TestoNumero(capacita) + ")");
-        return A16(valore);
+                         std::string(troppe) + ": " + TestoNumero(valore) + " (al massimo " +
+                             TestoNumero(capacita) + ")");
+        return std::max<std::int16_t>(A16(valore), 0);
     }
 
     // Users of an index check it against its table; the first bad one is remembered with its line,
@@ -121,8 +122,12 @@ class LettoreStruttura {
         rigaGuasta_ = file_.Riga();
     }
 
+    void SegnalaIndice() const {
+        if (!motivo_.empty()) GuastoInFile(file_.Percorso(), rigaGuasta_, motivo_);
+    }
+
     void LeggiPunti() {
-        NumPunti = Conteggio(kPunti, "punti");
+        NumPunti = Conteggio(kPunti, "troppi punti");
         for (int p = 0; p < NumPunti; ++p) {
             Libero(PuntoX[p]);
             Libero(PuntoY[p]);
@@ -153,7 +158,7 @@ class LettoreStruttura {
     }
 
     bool LeggiNodi() {
-        NumNodi = Conteggio(kNodi, "nodi");
+        NumNodi = Conteggio(kNodi, "troppi nodi");
         for (int i = 0; i < NumNodi; ++i) {
             std::string_view riga = RigaDovuta();
             Campo(riga, PuntoNodo[i]);
@@ -163,6 +168,7 @@ class LettoreStruttura {
             riga = RigaDovuta();
             const double nome = ValoreCampo(ProssimoCampo(riga));
             if (nome > kNomeNodoMassimo) {
+                SegnalaIndice();
                 MostraMessaggio("Nome nodo maggiore di 32000.", Icona::Esclamazione,
                                 "ERRORE IN STRUTTUR.STR");
                 return false;
@@ -174,7 +180,7 @@ class LettoreStruttura {
     }
 
     void LeggiAste() {
-        NumAste = Conteggio(kAste, "aste");
+        NumAste = Conteggio(kAste, "troppe aste");
         for (int b = 0; b < NumAste; ++b) {
             for (auto *dove : {&NodoIAsta, &NodoJAsta, &TipoLinAsta, &ColAsta}) Libero((*dove)[b]);
             Indice(NodoIAsta[b], kNodi, "nodo");
@@ -187,7 +193,7 @@ class LettoreStruttura {
     }
 
     void LeggiGusci() {
-        NumGusci = Conteggio(kGusci, "gusci");
+        NumGusci = Conteggio(kGusci, "troppi gusci");
         for (int s = 0; s < NumGusci; ++s) {
             for (std::size_t c = 0; c < 4; ++c) {
                 Libero(NodiGuscio[s][c]);
@@ -206,15 +212,16 @@ class LettoreStruttura {
         std::string_view riga;
         if (!file_.LeggiRiga(riga)) return;
         const double numero = ValoreCampo(ProssimoCampo(riga));
-        for (double n = 0; n < numero && file_.LeggiRiga(riga); ++n) {
+        for (double n = 0; n < numero; ++n) {
+            RigaDovuta();
         }
     }
 
     void LeggiTesti() {
-        NumTestiFinali = Conteggio(kTesti, "testi finali");
+        NumTestiFinali = Conteggio(kTesti, "troppi testi finali");
         for (int i = 0; i < NumTestiFinali; ++i) {
-            std::string_view seconda;
-            if (!file_.LeggiRigaTesto(TestoFinale[i]) || !file_.LeggiRiga(seconda)) return;
+            TestoFinale[i] = DaWindows1252(RigaDovuta());
+            RigaDovuta();
         }
     }
 

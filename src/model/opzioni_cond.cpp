@@ -28,10 +28,11 @@ std::string TestoValore(const Valore &valore) {
     const auto *testo = std::get_if<std::string>(&valore);
     if (!testo) return {};
     const std::string rifilato(Rifila(*testo));
-    // A comma would end the value when it is read back.
-    const bool virgola =
-        rifilato.find(',') != std::string::npos && rifilato.find('"') == std::string::npos;
-    return virgola ? '"' + rifilato + '"' : rifilato;
+    // Quotes where it would be read back as something else: a comma or line end ends a value, and
+    // digits alone are a number.
+    const bool virgolette =
+        rifilato.find_first_of(",\r\n") != std::string::npos || NumeroStretto(rifilato).has_value();
+    return virgolette && rifilato.find('"') == std::string::npos ? '"' + rifilato + '"' : rifilato;
 }
 
 // One line "value|PCn|anything"; anything else is passed over.

@@ -1,5 +1,8 @@
 #include "model/struttura.h"
 
+#include "platform/numeri.h"
+#include "startup/direttori_cond.h"
+
 namespace telva {
 
 #define TABELLA(nome)                                                                              \
@@ -42,9 +45,18 @@ Campi16ElCont TABELLA(SelElCont);
 
 int NumeroAngoli(int guscio) { return NodiGuscio[guscio][3] < 0 ? 3 : 4; }
 
+int AstaElCont(int k, int j) {
+    const int asta = AsteElCont(k, j);
+    if (asta < 0 || asta >= kAste)
+        throw Guasto("File " + DirLavoro + "\\el_conti.tmp, elemento continuo " +
+                     TestoNumero(NumeroElCont[k]) + ": l'asta " + TestoNumero(asta) +
+                     " non esiste");
+    return asta;
+}
+
 bool ElContAttivo(int k) {
     for (int j = 0; j < NumAsteElCont[k]; ++j)
-        if (AttAsta[AsteElCont(k, j)] != 1) return false;
+        if (AttAsta[AstaElCont(k, j)] != 1) return false;
     return true;
 }
 

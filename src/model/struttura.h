@@ -62,6 +62,10 @@ extern Campi16ElCont SelElCont;
 // Corners that count for drawing, extents and intervals: 3 when the fourth is negative, else 4.
 int NumeroAngoli(int guscio);
 
+// Place of the j-th bar of a continuous element. A name that no bar has stands there as it is: one
+// that is no place of the table is a Guasto that names the element.
+int AstaElCont(int elemento, int j);
+
 // True when every bar of the continuous element is active; so is one without bars.
 bool ElContAttivo(int elemento);
 

@@ -21,8 +21,9 @@ namespace {
 
 // The number of entries to read; over the limit the message comes at once and the limit holds.
 std::int16_t Limita(double numero, int limite, int messaggio) {
+    numero = ArrotondaPari(numero);
     if (numero > limite) MostraMessaggio(Messaggi[messaggio], Icona::Critica, "Problema");
-    return static_cast<std::int16_t>(std::clamp(ArrotondaPari(numero), 0.0, double(limite)));
+    return static_cast<std::int16_t>(std::clamp(numero, 0.0, double(limite)));
 }
 
 std::int16_t LeggiConteggio(FileTesto &file, int limite, int messaggio) {
@@ -31,14 +32,11 @@ std::int16_t LeggiConteggio(FileTesto &file, int limite, int messaggio) {
     return Limita(numero, limite, messaggio);
 }
 
+// A value that is no 16-bit number leaves its place as it was.
 void LeggiIntero(FileTesto &file, std::int16_t &dove) {
     double valore = 0;
     if (file.LeggiNumero(valore) != Lettura::Riuscita) return;
-    if (const auto intero = Intero16(ArrotondaPari(valore)))
-        dove = *intero;
-    else
-        GuastoInFile(file.Percorso(), file.Riga(),
-                     "numero fuori dai limiti di 16 bit: " + TestoNumero(valore));
+    if (const auto intero = Intero16(ArrotondaPari(valore))) dove = *intero;
 }
 
 // A value of the continuous-element file, which must be there and be right.

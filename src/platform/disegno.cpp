@@ -15,12 +15,11 @@ constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
 constexpr std::uint32_t kElasticoScuro = 0x404040;
 
 void Elastico(Superficie &s, Pixel a, Pixel b, int spessore) {
-    if (spessore > 1) {
-        s.LineaLarga(a, b, spessore, kElasticoChiaro);
-        return;
+    for (int k = 0; k < spessore; ++k) {
+        const Pixel da{a.x + k, a.y + k}, fino{b.x + k, b.y + k};
+        s.Linea(da, fino, kElasticoScuro);
+        s.LineaTratteggiata(da, fino, kElasticoChiaro, {0xF, 8});
     }
-    s.Linea(a, b, kElasticoScuro);
-    s.LineaTratteggiata(a, b, kElasticoChiaro, {0xF, 8});
 }
 
 } // namespace
@@ -56,8 +55,11 @@ Pixel RiquadroDisegno::InPixel(double x, double y, bool &fuori) const {
     double px = XPixel(x), py = YPixel(y);
     if (!(std::abs(px) < kLimitePixel && std::abs(py) < kLimitePixel)) {
         fuori = true;
-        px = std::clamp(px, -kLimitePixel, kLimitePixel);
-        py = std::clamp(py, -kLimitePixel, kLimitePixel);
+        const auto limita = [](double v) {
+            return std::isnan(v) ? kLimitePixel : std::clamp(v, -kLimitePixel, kLimitePixel);
+        };
+        px = limita(px);
+        py = limita(py);
     }
     return {Vicino(px), Vicino(py)};
 }
@@ -73,6 +75,7 @@ void RiquadroDisegno::Cls() {
 // box that still holds the visible window many times over. False when nothing is left.
 bool RiquadroDisegno::RitagliaLontano(double &x1, double &y1, double &x2, double &y2) const {
     const double dx = x2 - x1, dy = y2 - y1;
+    if (!std::isfinite(x1 + y1) || !std::isfinite(dx + dy)) return false;
     double da = 0, a = 1;
     const double limite = 1 << 20;
     for (const auto &[p, d] : {std::pair{x1, dx}, std::pair{y1, dy}}) {

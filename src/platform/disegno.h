@@ -32,6 +32,7 @@ class RiquadroDisegno : public Controllo {
     // User scale: top-left and bottom-right corner. ScaleHeight is negative when y grows upwards.
     void Scale(double x1, double y1, double x2, double y2);
     double ScaleLeft = 0, ScaleTop = 0, ScaleWidth = 1, ScaleHeight = 1;
+    bool ScalaImpostata() const { return ScaleHeight < 0; } // once y has grown upwards
     // Size in whole pixels, from Width, Height and the window's DPI; at least 1.
     int LarghezzaPixel() const;
     int AltezzaPixel() const;

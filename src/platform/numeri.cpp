@@ -1,5 +1,6 @@
 #include "platform/numeri.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -9,6 +10,30 @@ namespace {
 
 bool Cifra(char c) { return c >= '0' && c <= '9'; }
 bool Vuoto(char c) { return c == ' ' || c == '\t'; }
+
+// Worth of a number that no double can hold: infinite or 0, by the place of its first digit.
+double FuoriPortata(std::string_view numero) {
+    const double segno = numero[0] == '-' ? -1.0 : 1.0;
+    const std::size_t e = std::min(numero.find_first_of("eE"), numero.size());
+    std::int64_t grandezza = 0;
+    bool punto = false, trovata = false;
+    for (const char c : numero.substr(0, e)) {
+        if (c == '.') punto = true;
+        if (!Cifra(c)) continue;
+        trovata = trovata || c != '0';
+        if (punto ? !trovata : trovata) grandezza += punto ? -1 : 1;
+    }
+    std::int64_t esponente = 0;
+    if (e < numero.size()) {
+        std::string_view cifre = numero.substr(e + 1);
+        const bool negativo = cifre.starts_with('-');
+        if (negativo || cifre.starts_with('+')) cifre.remove_prefix(1);
+        if (std::from_chars(cifre.data(), cifre.data() + cifre.size(), esponente).ec != std::errc())
+            esponente = INT32_MAX; // more digits than any exponent needs
+        if (negativo) esponente = -esponente;
+    }
+    return grandezza + esponente > 0 ? segno * std::numeric_limits<double>::infinity() : 0;
+}
 
 // Reads the longest number at the front of a text without blanks; returns its length (0 = none)
 // and, in `valore`, what it is worth.
@@ -38,15 +63,9 @@ std::size_t Prefisso(std::string_view t, double &valore) {
         copia = numero;
         copia[mantissa - inizio] = 'e';
         numero = copia;
-        if (copia[mantissa - inizio + 1] == '+') copia.erase(mantissa - inizio + 1, 1);
-        numero = copia;
     }
     const auto esito = std::from_chars(numero.data(), numero.data() + numero.size(), valore);
-    if (esito.ec == std::errc::result_out_of_range) {
-        const bool piccolo = numero.find('-', 1) != std::string_view::npos;
-        const double segno = numero[0] == '-' ? -1.0 : 1.0;
-        valore = piccolo ? 0.0 : segno * std::numeric_limits<double>::infinity();
-    }
+    if (esito.ec == std::errc::result_out_of_range) valore = FuoriPortata(numero);
     return esponente;
 }
 

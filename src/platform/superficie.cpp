@@ -196,7 +196,7 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
     raggioAnello_ = raggio;
     pennaAnello_ = larghezza;
     anello_.clear();
-    const double fuori = raggio + larghezza / 2.0;
+    const double fuori = raggio + larghezza / 2.0 - 1e-3; // or an even pen would be one too wide
     const double dentro = raggio - larghezza / 2.0;
     const int limite = static_cast<int>(std::ceil(fuori));
     for (int y = -limite; y <= limite; ++y) {
@@ -265,12 +265,6 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
         if (dy > 0 && yy >= destraDa && yy <= destraA)
             xA = std::max(xA, static_cast<std::int64_t>(
                                   std::floor(a.x + centro + nx + (yy - destraDa) * pendenza)));
-        if (dy == 0) { // a level band: the rows between the discs' middles are whole
-            const std::int64_t i = y - a.y - yDisco;
-            const Tratto &t = disco[static_cast<std::size_t>(i)];
-            xDa = std::min<std::int64_t>(xDa, std::min(a.x, b.x) + t.xDa);
-            xA = std::max<std::int64_t>(xA, std::max(a.x, b.x) + t.xA);
-        }
         Orizzontale(xDa, xA, static_cast<int>(y), colore);
     }
 }

@@ -58,14 +58,18 @@ char32_t ProssimoCarattere(std::string_view testo, std::size_t &posto) {
     };
     const char32_t c = byte(posto++);
     if (c < 0x80) return c;
-    const std::size_t quanti = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : c >= 0xC2 ? 1 : 0;
+    const std::size_t quanti = c >= 0xF5 ? 0 : c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : c >= 0xC2 ? 1 : 0;
     char32_t valore = c & (0x3Fu >> quanti);
     for (std::size_t k = 0; k < quanti; ++k) {
         if (!Seguito(testo, posto + k)) return c;
         valore = (valore << 6) | (byte(posto + k) & 0x3F);
     }
+    static constexpr char32_t kMinimo[] = {0, 0x80, 0x800, 0x10000}; // below: not the shortest form
+    if (quanti == 0 || valore < kMinimo[quanti] || valore > 0x10FFFF ||
+        (valore >= 0xD800 && valore < 0xE000))
+        return c;
     posto += quanti;
-    return quanti == 0 ? c : valore;
+    return valore;
 }
 
 void AggiungiCarattere(std::string &testo, char32_t c) {

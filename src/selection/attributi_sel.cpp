@@ -27,7 +27,7 @@ void SegnaElCont(const std::int16_t *campo, std::int16_t codice, std::int16_t og
     for (int k = 0; k < NumElCont; ++k) {
         bool tutte = ElContAttivo(k);
         for (int j = 0; tutte && codice != ogni && j < NumAsteElCont[k]; ++j)
-            tutte = campo[AsteElCont(k, j)] == codice;
+            tutte = campo[AstaElCont(k, j)] == codice;
         if (tutte) SelElCont[k] = NuovoFlag();
     }
 }

@@ -40,7 +40,7 @@ bool GuscioDentro(int s) {
 
 bool ElContDentro(int k) {
     for (int j = 0; j < NumAsteElCont[k]; ++j)
-        if (!AstaDentro(AsteElCont(k, j))) return false;
+        if (!AstaDentro(AstaElCont(k, j))) return false;
     return true;
 }
 

@@ -115,6 +115,7 @@ using Campo = std::int16_t (*)(int elemento);
 struct Campi {
     Campo nodo = nullptr, asta = nullptr, guscio = nullptr;
     bool numeroElCont = false; // continuous elements by their own number, not by their bars
+    bool elCont = true;        // continuous elements at all
 };
 
 void Segna(std::int16_t *flag, const std::int16_t *attivi, int numero, Campo campo,
@@ -130,17 +131,17 @@ void Segna(std::int16_t *flag, const std::int16_t *attivi, int numero, Campo cam
 bool ElContPreso(int k, Campo campo, const Insieme &insieme) {
     const int aste = NumAsteElCont[k];
     if (aste == 0) return true;
-    const std::int16_t numero = campo(AsteElCont(k, 0));
+    const std::int16_t numero = campo(AstaElCont(k, 0));
     if (!insieme.Contiene(numero)) return false;
     for (int j = 0; j < aste; ++j) {
-        const int b = AsteElCont(k, j);
+        const int b = AstaElCont(k, j);
         if (AttAsta[b] != 1 || campo(b) != numero) return false;
     }
     return true;
 }
 
 void SegnaElCont(const Campi &campi, const Insieme &insieme) {
-    if (!campi.asta) return;
+    if (!campi.asta || !campi.elCont) return;
     for (int k = 0; k < NumElCont; ++k) {
         const bool preso = campi.numeroElCont ? insieme.Contiene(NumeroElCont[k]) && ElContAttivo(k)
                                               : ElContPreso(k, campi.asta, insieme);
@@ -148,14 +149,16 @@ void SegnaElCont(const Campi &campi, const Insieme &insieme) {
     }
 }
 
-void Seleziona(const std::string &testo, int capacita, const Campi &campi) {
+bool Seleziona(const std::string &testo, int capacita, const Campi &campi) {
     std::vector<std::int16_t> numeri;
     switch (LeggiLista(testo, capacita, numeri)) {
-    case EsitoLista::Troppi: MostraMessaggio(Messaggi[18], Icona::Esclamazione, "ERRORE"); return;
+    case EsitoLista::Troppi:
+        MostraMessaggio(Messaggi[18], Icona::Esclamazione, "ERRORE");
+        return false;
     case EsitoLista::FuoriLimiti:
         MostraMessaggio(" Numero fuori dai limiti ammessi (da -32768 a 32767) ",
                         Icona::Esclamazione, "ERRORE");
-        return;
+        return false;
     case EsitoLista::Riuscita: break;
     }
     const Insieme insieme(numeri);
@@ -172,6 +175,7 @@ void Seleziona(const std::string &testo, int capacita, const Campi &campi) {
     }
     DisegnaStruttura();
     AggiornaSelezione();
+    return true;
 }
 
 } // namespace
@@ -209,39 +213,39 @@ void EseguiRisposta() {
         p->seleziona(std::string(FormTelva.Risposta.Text()));
 }
 
-void SelezionaPerMateriale(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede,
-              {.asta = [](int b) { return MaterialeSezione(SezioneAsta[b]); },
-               .guscio = [](int s) { return MaterialeSpessore(SpessoreGuscio[s]); }});
+bool SelezionaPerMateriale(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede,
+                     {.asta = [](int b) { return MaterialeSezione(SezioneAsta[b]); },
+                      .guscio = [](int s) { return MaterialeSpessore(SpessoreGuscio[s]); }});
 }
 
-void SelezionaElementoPerNome(const std::string &testo) {
-    Seleziona(testo, kCapacitaNomi,
-              {.nodo = [](int i) { return NomeNodo[i]; },
-               .asta = [](int b) { return NomeAsta[b]; },
-               .guscio = [](int s) { return NomeGuscio[s]; },
-               .numeroElCont = true});
+bool SelezionaElementoPerNome(const std::string &testo) {
+    return Seleziona(testo, kCapacitaNomi,
+                     {.nodo = [](int i) { return NomeNodo[i]; },
+                      .asta = [](int b) { return NomeAsta[b]; },
+                      .guscio = [](int s) { return NomeGuscio[s]; },
+                      .numeroElCont = true});
 }
 
-void SelezionaPerSezione(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return SezioneAsta[b]; }});
+bool SelezionaPerSezione(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return SezioneAsta[b]; }});
 }
 
-void SelezionaPerSpessore(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede, {.guscio = [](int s) { return SpessoreGuscio[s]; }});
+bool SelezionaPerSpessore(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede, {.guscio = [](int s) { return SpessoreGuscio[s]; }});
 }
 
-void SelezionaPerOrientamento(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return OrientAsta[b]; }});
+bool SelezionaPerOrientamento(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return OrientAsta[b]; }});
 }
 
-// Continuous elements are refused before they get here.
-void SelezionaPerSvincolo(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return SvincoloAsta[b]; }});
+bool SelezionaPerSvincolo(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede,
+                     {.asta = [](int b) { return SvincoloAsta[b]; }, .elCont = false});
 }
 
-void SelezionaPerVincolo(const std::string &testo) {
-    Seleziona(testo, kCapacitaSchede, {.nodo = [](int i) { return VincoloNodo[i]; }});
+bool SelezionaPerVincolo(const std::string &testo) {
+    return Seleziona(testo, kCapacitaSchede, {.nodo = [](int i) { return VincoloNodo[i]; }});
 }
 
 } // namespace telva

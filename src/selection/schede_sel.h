@@ -24,7 +24,7 @@ struct SchedaProprieta {
     std::uint8_t codice; // CodSottoFun
     const char *domanda;
     const char *titolo;
-    void (*seleziona)(const std::string &testo);
+    bool (*seleziona)(const std::string &testo);
     // By element kind 0..4: index of the refusal in Messaggi, or one of the two below.
     int rifiuto[5];
 };
@@ -39,13 +39,13 @@ void IniziaProprieta(std::uint8_t codice);
 void EseguiRisposta();
 
 // Each marks the active elements of the chosen kind, redraws and shows the list; a list that cannot
-// be taken shows its message and changes nothing.
-void SelezionaPerMateriale(const std::string &testo);
-void SelezionaElementoPerNome(const std::string &testo);
-void SelezionaPerSezione(const std::string &testo);
-void SelezionaPerSpessore(const std::string &testo);
-void SelezionaPerOrientamento(const std::string &testo);
-void SelezionaPerSvincolo(const std::string &testo);
-void SelezionaPerVincolo(const std::string &testo);
+// be taken shows its message and changes nothing: false.
+bool SelezionaPerMateriale(const std::string &testo);
+bool SelezionaElementoPerNome(const std::string &testo);
+bool SelezionaPerSezione(const std::string &testo);
+bool SelezionaPerSpessore(const std::string &testo);
+bool SelezionaPerOrientamento(const std::string &testo);
+bool SelezionaPerSvincolo(const std::string &testo);
+bool SelezionaPerVincolo(const std::string &testo);
 
 } // namespace telva

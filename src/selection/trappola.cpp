@@ -38,10 +38,10 @@ bool SulLato(double x, double y, double x1, double y1, double x2, double y2) {
     return std::hypot(x - x1 - t * dx, y - y1 - t * dy) < kLatoNullo;
 }
 
-// True when the side crosses the horizontal ray from (x, y) to the right. Sides with next to no
-// extent count as level or upright.
+// True when the side crosses the horizontal ray from (x, y) to the right. A side with next to no
+// extent in x counts as upright; a level one has both ends on the same side of the ray.
 bool AttraversaRaggio(double x, double y, double x1, double y1, double x2, double y2) {
-    if (std::abs(y2 - y1) < kLatoNullo || (y1 > y) == (y2 > y)) return false;
+    if ((y1 > y) == (y2 > y)) return false;
     if (std::abs(x2 - x1) < kLatoNullo) return x1 > x;
     return x1 + (y - y1) / (y2 - y1) * (x2 - x1) > x;
 }
@@ -94,7 +94,7 @@ std::int16_t UltimoElCont(double x, double y) {
     double d = 0;
     for (int k = 0; k < NumElCont; ++k)
         for (int j = 0; j < NumAsteElCont[k]; ++j) {
-            if (!AstaSotto(AsteElCont(k, j), x, y, d)) continue;
+            if (!AstaSotto(AstaElCont(k, j), x, y, d)) continue;
             ultimo = k;
             if (++trovati == kCandidati) return NumeroElCont[ultimo];
         }
@@ -164,6 +164,7 @@ std::int16_t ScegliCandidato(std::vector<Candidato> candidati, int tipo) {
 
 std::int16_t SelezioneDiretta(double x, double y) {
     CalcolaTrappola();
+    if (TrappolaDis == 0) return 0; // shells too: without an aperture there is no pick
     const int tipo = FormTelva.TipoElemento();
     std::vector<Candidato> candidati;
     switch (tipo) {

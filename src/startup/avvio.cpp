@@ -31,6 +31,7 @@ void MostraProblema(const std::string &testo) {
 
 // Sets the view up and draws, or applies what the caller wants selected.
 void PrimaVista(const std::string &ingresso) {
+    FormTelva.Disegno.Scale(0, 0, 1, 1); // none yet
     ConvertiAsteElCont();
     ProiettaNodi();
     AggiornaIntervalli(4);
@@ -43,8 +44,8 @@ void PrimaVista(const std::string &ingresso) {
     CalcolaAttivi();
     if (Rifila(ingresso) == "0")
         SelezionaPerColore(kOgniColore);
-    else
-        SelezionaElementoPerNome(ingresso);
+    else if (!SelezionaElementoPerNome(ingresso))
+        DisegnaStruttura(); // a list that cannot be taken: the job is shown all the same
     CodFunAttiva = kNessunaFunzione;
 }
 
@@ -63,9 +64,9 @@ void Avvia() {
     AzzeraVista();
     FormTelva.FunAttiva.Caption = "";
     AzzeraPuntatore();
-    FormTelva.MousePointer = Puntatore::Clessidra;
     FormTelva.PreparaDpi();
     Form_Resize(); // gives the drawing its size; there is nothing to see yet
+    FormTelva.MousePointer = Puntatore::Clessidra;
     Direttori();
     LavoroDaArgomento();
     LeggiOpzioni();

@@ -38,7 +38,8 @@ bool CodiceAmmesso(std::string_view codice) {
         if (static_cast<unsigned char>(c) < ' ' ||
             std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos)
             return false;
-    return codice.find("..") == std::string_view::npos;
+    // Nor the jobs folder itself or the one above it.
+    return codice.find("..") == std::string_view::npos && codice != ".";
 }
 
 [[noreturn]] void Termina(const std::string &testo, Icona icona = Icona::Esclamazione) {
@@ -104,8 +105,7 @@ void LavoroDaArgomento() {
     const std::string_view valore =
         Rifila(std::string_view(ArgomentoAvvio).substr(chiave + kChiave.size()));
     const std::string codice(valore.substr(0, ByteDiCaratteri(valore, kCaratteriLavoro)));
-    if (!CodiceAmmesso(codice.substr(0, codice.find('|'))))
-        Termina("Errore: codice di lavoro non ammesso: " + codice);
+    if (!CodiceAmmesso(codice)) Termina("Errore: codice di lavoro non ammesso: " + codice);
     DirLavoro.resize(DirLavoro.size() - NomeLavoro.size());
     NomeLavoro = codice;
     DirLavoro += NomeLavoro;

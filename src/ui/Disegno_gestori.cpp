@@ -120,16 +120,21 @@ void Scegli(int button, int shift, float x, float y) {
     FormTelva.MousePointer = Puntatore::Predefinito;
 }
 
-void SelezionaRettangolo(const Rettangolo &r) {
-    FormTelva.MousePointer = Puntatore::Clessidra;
-    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height);
-    FormTelva.MousePointer = Puntatore::Predefinito;
+// After an automatic window direct pick goes on.
+void RiprendiDiretta() {
     if (FinestraAutomatica != 1) return;
     FinestraAutomatica = 0;
     CodSottoFun = kDiretta;
     AbilitaComandi();
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta";
     Disegno().MousePointer = Puntatore::Predefinito;
+}
+
+void SelezionaRettangolo(const Rettangolo &r) {
+    FormTelva.MousePointer = Puntatore::Clessidra;
+    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height);
+    FormTelva.MousePointer = Puntatore::Predefinito;
+    RiprendiDiretta();
 }
 
 void ZoomRettangolo(const Rettangolo &r) {
@@ -199,6 +204,7 @@ void MostraCoordinate(double x, double y) {
 } // namespace
 
 void ZoomIn_Click() {
+    ChiudiFinestraInCorso();
     AnnullaElastici();
     ModoZoom = 1;
     FormTelva.SottoFunAttiva.Caption = "Zoom";
@@ -206,6 +212,7 @@ void ZoomIn_Click() {
 }
 
 void Sposta_Click() {
+    ChiudiFinestraInCorso();
     AnnullaElastici();
     ModoSposta = 1;
     FormTelva.SottoFunAttiva.Caption = "Sposta";
@@ -223,7 +230,13 @@ void Disegno_MouseDown(int button, int shift, float x, float y) {
 }
 
 void Disegno_MouseMove(int button, int, float x, float y) {
-    if (button == kCentrale) Trascina(x, y);
+    if (button == kCentrale) {
+        const double sinistra = Disegno().ScaleLeft, alto = Disegno().ScaleTop;
+        Trascina(x, y);
+        // The same pixel, in the scale that the drag has moved.
+        x += static_cast<float>(Disegno().ScaleLeft - sinistra);
+        y += static_cast<float>(Disegno().ScaleTop - alto);
+    }
     if (ModoSposta == 1 && SpostaInCorso == 1) {
         Disegno().LineSposta.X2 = x;
         Disegno().LineSposta.Y2 = y;
@@ -253,6 +266,13 @@ void AnnullaElastici() {
     trascina.attivo = false;
     Disegno().Shape.Visible = false;
     Disegno().LineSposta.Visible = false;
+}
+
+void ChiudiFinestraInCorso() {
+    if (PrimoAngolo != 1 || ModoZoom == 1) return;
+    PrimoAngolo = 0;
+    Disegno().Shape.Visible = false;
+    RiprendiDiretta();
 }
 
 void AzzeraPuntatore() {

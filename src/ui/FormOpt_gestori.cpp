@@ -14,6 +14,9 @@ namespace {
 
 constexpr int kTastoEsc = 27;
 
+constexpr const char *kNomiColori[] = {"Nero",   "Bianco",      "Blu",     "Rosso",   "Verde",
+                                       "Giallo", "Verde scuro", "Magenta", "Azzurro", "Arancione"};
+
 int coloreTesto = 0;
 bool applicate = false; // "Salva" has run since the dialog opened
 
@@ -141,6 +144,7 @@ void ChiudiFormOpt() { FormOpt.Chiudi(); }
 void CollegaFormOpt() {
     ModuloOpt &f = FormOpt;
     for (int k = 0; k < f.LabelCol.Numero(); ++k) {
+        f.LabelCol[k].didascalia = kNomiColori[k];
         f.LabelCol[k].BackColor = ColoreRGB(k);
         f.LabelCol[k].Click = [k] { LabelCol_Click(k); };
     }

@@ -55,8 +55,12 @@ void RidisegnaAllaMisura() {
     DisegnaStruttura();
 }
 
-double LarghezzaDisegno() {
-    return FormTelva.Width - (FormTelva.FrameSel.Visible ? 3024.0 : 124.0);
+// The drawing's width with or without the side bar, which stands to its right.
+void AllargaDisegno() {
+    ModuloTelva &f = FormTelva;
+    f.Disegno.Width = f.Width - (f.FrameSel.Visible ? 3024.0 : 124.0);
+    f.FrameSel.Left = f.Disegno.Left + f.Disegno.Width + 50;
+    f.FrameAtt.Left = f.FrameSel.Left();
 }
 
 } // namespace
@@ -69,8 +73,8 @@ void Salva_Click() {
 void Esci_Click() { FineProgramma(); }
 
 void Ottimizza_Click() {
+    if (!ProiettaNodi()) return; // a wrong angle leaves the view as it was
     FinestraZoom = {};
-    ProiettaNodi();
     Adatta();
     DisegnaStruttura();
 }
@@ -92,7 +96,7 @@ void RimTutto_Click() {
     SelezionaPerColore(kOgniColore);
     CodFunAttiva = funzione;
     CodSottoFun = sottoFunzione;
-    AbilitaComandi();
+    if (CodFunAttiva != kNessunaFunzione) AbilitaComandi();
     FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta"; // whatever the sub-function is
 }
@@ -106,6 +110,7 @@ void Inverti_Click() {
 void Interrompi_Click() {
     CodFunAttiva = kNessunaFunzione;
     AnnullaElastici();
+    FinestraAutomatica = 0;
     AzzeraInput();
     DisabilitaComandi();
     FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
@@ -149,7 +154,7 @@ void BarraLat_Click() {
     FormTelva.Toolbar1.Suggerimento("AggiungiBarraLat", mostra ? "Toglie la barra laterale"
                                                                : "Aggiunge la barra laterale");
     FormTelva.BarraLat.Checked = mostra;
-    FormTelva.Disegno.Width = LarghezzaDisegno();
+    AllargaDisegno();
     RidisegnaAllaMisura();
 }
 
@@ -161,13 +166,10 @@ void BarraIcone_Click() {
     RidisegnaAllaMisura();
 }
 
-void Trappola_Click() {
-    AnnullaElastici();
-    ApriFormOptInt();
-}
+void Trappola_Click() { ApriFormOptInt(); }
 
 void Rappresentazione_Click() {
-    AnnullaElastici();
+    ChiudiFinestraInCorso();
     ApriFormOpt();
 }
 
@@ -186,13 +188,11 @@ void Form_Resize() {
         return; // the resize that this causes lays the window out
     }
     f.FrameInput.Width = w - 180;
-    f.Disegno.Width = LarghezzaDisegno();
+    AllargaDisegno();
     f.StringaSel.Width = w - 4464;
     f.FrameCoord.Width = w - 5550;
     f.Risposta.Left = f.FrameInput.Width - 2600;
     f.LabCoord.Left = f.FrameCoord.Width - 1000;
-    f.FrameSel.Left = f.Disegno.Left + f.Disegno.Width + 50;
-    f.FrameAtt.Left = f.FrameSel.Left();
     // Without the tool bar the drawing keeps the room it has gained.
     f.Disegno.Height = h - 2700 + (f.Toolbar1.Visible ? 0 : kAltezzaBarra);
     f.StringaSel.Top = f.Disegno.Top + f.Disegno.Height + 80;
@@ -210,7 +210,7 @@ void Form_Resize() {
     }
     f.Toolbar1.Width = w;
     f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;
-    f.Label6.Left = f.LabCoord.Left - f.Label6.Width;
+    f.Label6.Left = f.LabCoord.Left - f.Label6.Width - 45;
     RidisegnaAllaMisura();
 }
 

@@ -47,6 +47,8 @@ void Disegno_CatturaPersa();
 void WheelCatcher1_Rotella(int passi);
 // Hides the rubber bands and forgets a begun rectangle, zoom or pan.
 void AnnullaElastici();
+// Gives up a begun selection rectangle; an automatic one goes back to direct pick.
+void ChiudiFinestraInCorso();
 void AzzeraPuntatore();
 
 } // namespace telva

@@ -61,8 +61,7 @@ std::vector<bool> AsteEvidenziate() {
     for (int k = 0; k < NumElCont; ++k) {
         if (SelElCont[k] != 1) continue;
         for (int j = 0; j < NumAsteElCont[k]; ++j)
-            if (const int b = AsteElCont(k, j); static_cast<unsigned>(b) < kAste)
-                aste[static_cast<std::size_t>(b)] = true;
+            aste[static_cast<std::size_t>(AstaElCont(k, j))] = true;
     }
     return aste;
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace telva {
 namespace {
@@ -21,8 +22,11 @@ void DisegnaAssi() {
     const double unita = d.UnitaPerPixel();
     const double lunghezza = std::abs(OpzInt[2] * unita);
     const double lettera = std::abs(OpzInt[3] * unita);
-    if (lunghezza == 0) return;
     const Direzione *assi[3] = {&DirAsseX, &DirAsseY, &DirAsseZ};
+    const bool proiettati = std::any_of(std::begin(assi), std::end(assi), [](const Direzione *a) {
+        return a->x != 0 || a->y != 0; // nothing to show before the first projection
+    });
+    if (lunghezza == 0 || !proiettati) return;
     double sinistra = 0, basso = 0;
     for (const Direzione *a : assi) {
         sinistra = std::min(sinistra, a->x * lunghezza * kStaccoLettera);

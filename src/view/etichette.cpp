@@ -38,7 +38,7 @@ struct Scrittura {
     // Room that a text of n characters may take up around (x, y), in any direction.
     bool InVista(double x, double y, std::size_t n) const {
         const double raggio =
-            std::abs(base) * static_cast<double>(n) + std::abs(altezza) + std::abs(distanza);
+            std::abs(base) * static_cast<double>(n) + std::abs(altezza) + 1.5 * std::abs(distanza);
         return x + raggio >= d.ScaleLeft && x - raggio <= d.ScaleLeft + d.ScaleWidth &&
                y - raggio <= d.ScaleTop && y + raggio >= d.ScaleTop + d.ScaleHeight;
     }
@@ -49,9 +49,9 @@ struct Scrittura {
 
 // Longest label there can be, for rejecting before the text is made.
 constexpr std::size_t kCaratteriEtichetta = 40;
-constexpr double kCaratteriNodo = 4;    // of a node's label, usually
-constexpr double kQuasiRitta = 0.02;    // sine of the lean up to which a bar counts as upright
-constexpr double kPendenzaRipida = 0.3; // sine beyond which it is neither flat nor upright
+constexpr double kCaratteriNodo = 4; // of a node's label, usually
+constexpr double kQuasiRitta = 0.02; // sine of the lean up to which a bar counts as upright
+constexpr double kPendenza = 0.3;    // sine beyond which it is neither level nor upright
 
 double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
     std::size_t caratteri = 0;
@@ -60,8 +60,8 @@ double LarghezzaTesto(const Scrittura &s, const std::string &testo) {
 }
 
 // The middle of a bar on the screen and the unit normal to the side of its label: above a flat bar,
-// to the right of an upright one, below one that falls steeply, so that the labels of two crossing
-// braces keep apart. The name of a continuous element stands on the other side.
+// to the right of an upright one. Of two braces that cross, the falling one has it below, or the
+// rising one to the left. The name of a continuous element stands on the other side.
 struct MezzoAsta {
     double x, y, nx = 0, ny = 0;
     bool diPunta; // seen from its end
@@ -76,21 +76,25 @@ struct MezzoAsta {
         if (diPunta) return;
         nx = -dy / lunghezza;
         ny = dx / lunghezza;
-        if (ny < -kQuasiRitta || (ny < kQuasiRitta && nx < 0)) nx = -nx, ny = -ny;
-        if (nx > kPendenzaRipida && ny > kPendenzaRipida) nx = -nx, ny = -ny;
+        if (Piatta() ? ny < 0 : nx < 0) nx = -nx, ny = -ny;
+        if (Piatta() ? nx > kPendenza : ny < -kPendenza) nx = -nx, ny = -ny;
     }
+    bool Piatta() const { return std::abs(ny) >= std::abs(nx); }
 };
 
+// Straight above, below or beside the middle, as far out as the whole text box needs to stand clear
+// of the bar: right in the opening between two braces that cross.
 void ScriviAsta(const Scrittura &s, const MezzoAsta &m, const std::string &testo) {
     const double larghezza = LarghezzaTesto(s, testo);
-    if (m.diPunta) { // to the left, for the nodes' labels stand to the right
-        s.Scrivi(testo, m.x - s.distanza - larghezza, m.y + s.distanza);
-        return;
-    }
-    // Centre of the text box, moved out until the whole box stands clear of the line.
-    const double scarto =
+    const double x = m.x - larghezza / 2, y = m.y - s.altezza / 2;
+    const double ingombro =
         s.distanza + (std::abs(m.nx) * larghezza + std::abs(m.ny) * s.altezza) / 2;
-    s.Scrivi(testo, m.x + m.nx * scarto - larghezza / 2, m.y + m.ny * scarto - s.altezza / 2);
+    if (m.diPunta) // to the left, for the nodes' labels stand to the right
+        s.Scrivi(testo, m.x - s.distanza - larghezza, m.y + s.distanza);
+    else if (m.Piatta())
+        s.Scrivi(testo, x, y + ingombro / m.ny);
+    else
+        s.Scrivi(testo, x + ingombro / m.nx, y);
 }
 
 // Names are long: they run along the bar, to be read from below or from the right.

@@ -90,6 +90,17 @@ FinestraDisegno EstensioneMostrata() {
     return e.Finestra();
 }
 
+// What is shown first has no area (a single column seen from the front): there is no old scale to
+// keep, so its length has to do.
+void PrimaScala(const FinestraDisegno &f) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    const double l = d.LarghezzaPixel(), a = d.AltezzaPixel();
+    const double lunghezza = std::max({f.primaX - f.secondaX, f.primaY - f.secondaY, 1.0});
+    const double unita = 1.5 * lunghezza / std::min(l, a);
+    const double cx = (f.primaX + f.secondaX) / 2, cy = (f.primaY + f.secondaY) / 2;
+    d.Scale(cx - unita * l / 2, cy + unita * a / 2, cx + unita * l / 2, cy - unita * a / 2);
+}
+
 // The second margin is a tenth of the width already widened by the first: the pictures of a job
 // have always stood a little to one side, and zoom windows are compared with them.
 void Allarga(double &prima, double &seconda) {
@@ -152,6 +163,7 @@ void Adatta() {
     FinestraDisegno f = FinestraVista;
     if (std::abs((f.primaY - f.secondaY) * (f.primaX - f.secondaX)) < kAreaNulla) {
         FormTelva.MousePointer = Puntatore::Predefinito;
+        if (!FormTelva.Disegno.ScalaImpostata()) PrimaScala(f);
         return;
     }
     Allarga(f.primaX, f.secondaX);

@@ -16,6 +16,24 @@ Direzione DirAsseX, DirAsseY, DirAsseZ;
 
 namespace {
 
+std::string angoliValidi[3]; // texts of the boxes at the last projection
+
+// The three angles in degrees; false when one of the texts is no number.
+bool LeggiAngoli(double (&angoli)[3]) {
+    for (int k = 0; k < 3; ++k) {
+        const std::string testo = FormTelva.Angolo[k].Text;
+        if (const auto angolo = NumeroStretto(testo)) {
+            angoli[k] = *angolo;
+            continue;
+        }
+        if (!angoliValidi[k].empty()) FormTelva.Angolo[k].Text = angoliValidi[k];
+        MostraMessaggio("Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE");
+        return false;
+    }
+    for (int k = 0; k < 3; ++k) angoliValidi[k] = FormTelva.Angolo[k].Text;
+    return true;
+}
+
 // The twelve digits of pi that every picture of a job has been made with.
 constexpr double kPiGreco = 3.14159265359;
 
@@ -80,17 +98,9 @@ double ProiettaY(double x, double y, double z) {
     return MatRot[3][1] * x + MatRot[3][2] * y + MatRot[3][3] * z;
 }
 
-void ProiettaNodi() {
+bool ProiettaNodi() {
     double angoli[3];
-    for (int k = 0; k < 3; ++k) {
-        const std::string &testo = FormTelva.Angolo[k].Text;
-        const auto angolo = NumeroStretto(testo);
-        if (!angolo) {
-            MostraMessaggio("Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE");
-            return;
-        }
-        angoli[k] = *angolo;
-    }
+    if (!LeggiAngoli(angoli)) return false;
     CalcolaMatrice(angoli[0], -angoli[1], angoli[2]); // the second angle turns the other way
     for (int p = 0; p < NumPunti; ++p) {
         XDis[p] = ProiettaX(PuntoX[p], PuntoY[p], PuntoZ[p]);
@@ -99,6 +109,7 @@ void ProiettaNodi() {
     DirAsseX = {ProiettaX(1, 0, 0), ProiettaY(1, 0, 0)};
     DirAsseY = {ProiettaX(0, 1, 0), ProiettaY(0, 1, 0)};
     DirAsseZ = {ProiettaX(0, 0, 1), ProiettaY(0, 0, 1)};
+    return true;
 }
 
 void AggiornaIntervalli(unsigned char k) {
@@ -118,6 +129,7 @@ void AzzeraProiezione() {
     XDis.Azzera();
     YDis.Azzera();
     DirAsseX = DirAsseY = DirAsseZ = {};
+    for (std::string &testo : angoliValidi) testo.clear();
 }
 
 } // namespace telva

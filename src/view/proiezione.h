@@ -18,9 +18,9 @@ void CalcolaMatrice(double a, double b, double c);
 double ProiettaX(double x, double y, double z);
 double ProiettaY(double x, double y, double z);
 
-// Reads the Angolo boxes and projects everything. When an angle is no number its message is shown
-// and the view stays as it was.
-void ProiettaNodi();
+// Reads the Angolo boxes and projects everything. When an angle is no number its message is shown,
+// the box gets the angle of the view back, and the view stays as it was: false.
+bool ProiettaNodi();
 
 // Writes the extents of the model, in whole units, into the interval boxes: 1 = X, 2 = Y, 3 = Z,
 // 4 = all three; any other value does nothing.

@@ -12,11 +12,11 @@
 namespace telva {
 namespace {
 
-// A family of parallel lines a*x + b*y = n*passo + avanzo, in whole pixels of the picture: shells
+// A family of parallel lines a*x + b*y = n*passo, in whole pixels of the picture: shells
 // of one type join up, and stacked ones (the floors of a building) do not add up to a solid colour.
 // `punti` > 0 draws dots that far apart instead, every second row shifted by half.
 struct Famiglia {
-    int a, b, passo, avanzo = 0, punti = 0;
+    int a, b, passo, punti = 0;
 };
 
 struct Retino {
@@ -27,33 +27,17 @@ struct Retino {
 // Wide steps: bars and labels have to stay readable through several shells.
 constexpr std::array<Retino, 9> kRetini = {{
     {0, {}},
-    {1, {{0, 1, 16}}},                // horizontal
-    {1, {{1, 0, 16}}},                // vertical
-    {1, {{1, 1, 24}}},                // diagonal upwards to the right
-    {1, {{1, -1, 24}}},               // diagonal downwards to the right
-    {2, {{0, 1, 24}, {1, 0, 24}}},    // upright cross
-    {2, {{1, 1, 36}, {1, -1, 36}}},   // diagonal cross
-    {2, {{0, 1, 24}, {0, 1, 24, 3}}}, // horizontal pairs
-    {1, {{0, 1, 8, 0, 12}}},          // dotted
+    {1, {{0, 1, 16}}},              // horizontal
+    {1, {{1, 0, 16}}},              // vertical
+    {1, {{1, 1, 24}}},              // diagonal upwards to the right
+    {1, {{1, -1, 24}}},             // diagonal downwards to the right
+    {2, {{0, 1, 24}, {1, 0, 24}}},  // upright cross
+    {2, {{1, 1, 36}, {1, -1, 36}}}, // diagonal cross
+    {1, {{0, 1, 6}}},               // dense
+    {1, {{0, 1, 8, 12}}},           // dotted
 }};
 
 constexpr int kLatoMinimo = 12; // pixels; below this a hatch would only fill the shell
-constexpr int kForza = 120;     // strongest channel of hatch lines
-
-// The shell's colour drawn back towards the background, so that outlines and labels stand out.
-std::uint32_t Attenua(std::uint32_t colore, std::uint32_t sfondo) {
-    int massimo = 1;
-    for (int bit = 0; bit < 24; bit += 8)
-        massimo =
-            std::max(massimo, std::abs(int(colore >> bit & 0xFF) - int(sfondo >> bit & 0xFF)));
-    const int forza = std::min(kForza, massimo * 5 / 8);
-    std::uint32_t esito = 0;
-    for (int bit = 0; bit < 24; bit += 8) {
-        const int da = int(sfondo >> bit & 0xFF), a = int(colore >> bit & 0xFF);
-        esito |= static_cast<std::uint32_t>(da + (a - da) * forza / massimo) << bit;
-    }
-    return esito;
-}
 
 struct Poligono {
     std::array<Pixel, 4> vertici;
@@ -111,7 +95,7 @@ void DisegnaFamiglia(Superficie &s, const Poligono &p, const Famiglia &f, std::u
     const int l = s.Larghezza(), h = s.Altezza();
     minimo = std::max<std::int64_t>(minimo, std::min(0, f.b * h));
     massimo = std::min<std::int64_t>(massimo, f.a * l + std::max(0, f.b * h));
-    const std::int64_t resto = ((minimo - f.avanzo) % f.passo + f.passo) % f.passo;
+    const std::int64_t resto = (minimo % f.passo + f.passo) % f.passo;
     std::array<double, 4> posti{};
     for (std::int64_t c = resto == 0 ? minimo : minimo + f.passo - resto; c <= massimo;
          c += f.passo) {
@@ -147,12 +131,9 @@ void DisegnaRetino(int guscio, std::uint32_t colore) {
     if (fuori || std::min(maxX - minX, maxY - minY) < kLatoMinimo || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
-    const std::uint32_t rgb = APixelRGB(colore), tenue = Attenua(rgb, APixelRGB(d.BackColor));
     const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
-    for (int k = 0; k < retino.numero; ++k) {
-        const Famiglia &f = retino.famiglie[k];
-        DisegnaFamiglia(s, p, f, f.punti > 0 ? rgb : tenue); // single dots are quiet enough
-    }
+    for (int k = 0; k < retino.numero; ++k)
+        DisegnaFamiglia(s, p, retino.famiglie[k], APixelRGB(colore));
 }
 
 } // namespace telva

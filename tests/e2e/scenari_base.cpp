@@ -1,30 +1,10 @@
 // Start, a selection by name, and the two ways out, as a caller and an engineer see them.
-#include "Prove.h"
-
-#include <array>
+#include "LavoriProva.h"
 
 using namespace telva::prove;
 namespace fs = std::filesystem;
 
 namespace {
-
-// A frame of our own beside the sample's tables: names with gaps, every coordinate whole, so that
-// each element lies inside the rounded coordinate intervals. Bars are 7, 8, 9, 12; nodes 1 to
-// 4, 20.
-fs::path LavoroPiccolo(const Ambiente &amb, const std::string &codice) {
-    const auto cartella = amb.Lavori() / codice;
-    fs::remove_all(cartella);
-    fs::copy(amb.Lavori() / "dimo01", cartella);
-    ScriviFile(cartella / "STRUTTUR.STR",
-               "Release 4.0\n"
-               "5\n0,0,0\n400,0,0\n0,0,300\n400,0,300\n200,0,450\n"
-               "5\n0 0 1\n1 1\n1 0 1\n2 1\n2 0 1\n3 0\n3 0 1\n4 0\n4 0 1\n20 0\n"
-               "4\n0,2,0,1\n7 1 0 0 0 0\n1,3,0,1\n8 1 0 0 0 0\n"
-               "2,4,0,1\n9 1 0 0 0 0\n3,4,0,1\n12 1 0 0 0 0\n"
-               "0\n0\n0\n0\n0\n");
-    fs::remove(cartella / "Ingombri.tmp");
-    return cartella;
-}
 
 std::string TitoloAtteso(const std::string &titolo, const fs::path &lavoro) {
     return titolo + " - " + Utf8(lavoro.wstring());

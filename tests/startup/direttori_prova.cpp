@@ -1,75 +1,42 @@
-#include "startup/direttori_cond.h"
-
 #include "platform/testo.h"
 #include "sostegno/Banco.h"
-
+#include "startup/direttori_cond.h"
 namespace telva::prove {
-
-struct Dir : Banco {
-    // "@" stands for the installation root.
-    std::string R(std::string testo) const {
-        for (std::size_t p = 0; (p = testo.find('@', p)) != std::string::npos; p += Radice().size()) testo.replace(p, 1, Radice());
-        return testo;
-    }
-    bool Risolvi(const std::string &argomento) {
-        ArgomentoAvvio = R(argomento);
+TEST_F(Banco, GliArgomentiELeImpostazioniDannoIlLavoroOFermanoIlProgramma) {
+    const std::string R = "|diroot=" + Radice(), K = R + "|", L = Radice() + "\\lavori";
+    const std::string file = "! Errore: file " + Radice() + "\\impostazioni\\", J = "ab12cd";
+    const std::string D = file + "dirlav errato o mancante", N = file + "lavoro errato o mancante";
+    const std::string manca = "X Avvio del programma: argomento non presente";
+    const std::string fine = "! Errore: il direttorio dei lavori deve terminare con < \\lavori >";
+    const std::string codice = "! Errore: codice di lavoro non ammesso: ", bene = L + "\\ab12cd";
+    // clang-format off
+    const std::array<std::string, 4> casi[] = { // argument, dirlav, lavoro, job folder or message
+        {K, L, J + " \r\n", bene}, {"a " + Maiuscole(K), L + "\\\r\n", " ab12cd\nx", bene},
+        {"|diroot=  " + Radice() + " |", " " + L + " ,x", J, bene},
+        {R + "\\|", '"' + Maiuscole(L) + "\" , x", J, bene}, {"", L, J, manca},
+        {"|LAVORO=ab12cd|", L, J, manca}, {R, L, J, manca},
+        {"|diroot=ab|", L, J, "! Errore: file ab\\impostazioni\\dirlav errato o mancante"},
+        {K, "", J, D}, {K, "\r\nc:\\x\\lavori", J, D}, {K, "\\lavori\\", J, D},
+        {K, "c:\\x\\lavoro\\", J, fine}, {K, L, "", N}, {R + "\\|", L, "ab12c", N},
+        {K, L, "ab12cde", N}, {K, L, "..\\..\\", N},
+        {K, L, "a/b/cd", N}, {K + "|LAVORO=xy34zw|", L, J, L + "\\xy34zw"},
+        {R + "|lavoro=  Xy34zWaltro|LAVORO=un", L, J, L + "\\Xy34zW"},
+        {K + "|LAVORO=abc", L, "citt\xE0" "5", L + "\\abc"},
+        {K + "|LAVORO=CITTÀ1|", L, J, L + "\\CITTÀ1"},
+        {K + "|LAVORO=..\\..\\", L, J, codice + "..\\..\\"},
+        {K + "|LAVORO=a|\\..\\", L, J, codice + "a|\\..\\"}};
+    // clang-format on
+    for (const auto &[argomento, cartella, nome, atteso] : casi) {
+        Scrivi("impostazioni/dirlav", cartella);
+        Scrivi("impostazioni/lavoro", nome);
+        ArgomentoAvvio = argomento;
         messaggi.clear();
-        return Esegui([] { Direttori(); LavoroDaArgomento(); });
+        const bool va = Esegui([] { Direttori(), LavoroDaArgomento(); });
+        const Messaggio m = va ? Messaggio{DirLavoro, {}, NomeLavoro} : messaggi.at(0);
+        const char *icona = va ? "" : m.icona == Icona::Critica ? "X " : "! ";
+        EXPECT_EQ(icona + m.testo, atteso) << argomento;
+        EXPECT_TRUE(va ? atteso.ends_with(m.titolo) : m.titolo == "ERRORE" && codiceFine == 0);
     }
-    void Rifiuta(const std::string &argomento, const Messaggio &atteso) {
-        EXPECT_FALSE(Risolvi(argomento)) << argomento;
-        EXPECT_EQ(codiceFine, 0);
-        ASSERT_EQ(messaggi.size(), 1u);
-        EXPECT_EQ(messaggi[0], atteso);
-    }
-};
-
-TEST_F(Dir, SiRisolvonoDaArgomentoEImpostazioni) {
-    struct {
-        const char *argomento, *dirlav, *lavoro, *codice = "ab12cd";
-    } casi[] = {{"|diroot=@|", "@\\lavori\r\n", "ab12cd \r\n"}, {"prima |DiRoot=   @ |dopo|", "@\\lavori\\\r\n", "  ab12cd\naltro\n"},
-                {"|diroot=@\\|", "\"@\\LAVORI\" , x", "ab12cd"}, {"|diroot=@|", " @\\lavori ,x", "citt\xE0" "5", "città5"}};
-    for (const auto &c : casi) {
-        Scrivi("impostazioni/dirlav", R(c.dirlav));
-        Scrivi("impostazioni/lavoro", c.lavoro);
-        EXPECT_TRUE(Risolvi(c.argomento)) << c.argomento;
-        EXPECT_EQ(DirRoot + "|" + DirLavoro + "|" + NomeLavoro, R("@|@\\lavori\\") + c.codice + "|" + c.codice) << c.dirlav;
-    }
-    EXPECT_TRUE(Risolvi(Maiuscole(R("|diroot=@|"))));
-    EXPECT_EQ(DirProgra + DirDriver + DirCustom, R("@\\progra@\\driver@\\custom"));
+    EXPECT_TRUE(DirProgra == DirRoot + "\\progra" && DirCustom == DirRoot + "\\custom");
 }
-
-TEST_F(Dir, UnArgomentoOUnFileErratoFermaIlProgramma) {
-    Installa();
-    for (const char *argomento : {"", "  ", "@", "|LAVORO=ab12cd|", "diroot=@|", "|diroot=@"})
-        Rifiuta(argomento, {"Avvio del programma: argomento non presente", Icona::Critica, "ERRORE"});
-    for (const char *radice : {"", "ab", "@\\manca"})
-        Rifiuta(std::string("|diroot=") + radice + "|", {R(std::string("Errore: file ") + radice + "\\impostazioni\\dirlav errato o mancante"), Icona::Esclamazione, "ERRORE"});
-    for (const char *dirlav : {"", "\r\nc:\\x\\lavori", "\\lavori\\", "lavoro", ",c:\\x\\lavori"}) {
-        Scrivi("impostazioni/dirlav", dirlav);
-        Rifiuta("|diroot=@|", {R("Errore: file @\\impostazioni\\dirlav errato o mancante"), Icona::Esclamazione, "ERRORE"});
-    }
-    for (const char *dirlav : {"c:\\x\\lavoro\\", "c:\\x\\lavori2", "c:\\lavori\\\\"}) {
-        Scrivi("impostazioni/dirlav", dirlav);
-        Rifiuta("|diroot=@|", {"Errore: il direttorio dei lavori deve terminare con < \\lavori >", Icona::Esclamazione, "ERRORE"});
-    }
-    Installa();
-    for (const char *lavoro : {"", "ab12c", "ab12cde", "\nab12cd", "..\\..\\", "a/b/cd", "ab:cde", "ab..cd", nullptr}) {
-        if (lavoro) Scrivi("impostazioni/lavoro", lavoro);
-        else Cancella("impostazioni/lavoro");
-        Rifiuta("|diroot=@\\|", {R("Errore: file @\\impostazioni\\lavoro errato o mancante"), Icona::Esclamazione, "ERRORE"});
-    }
-}
-
-TEST_F(Dir, IlLavoroDellArgomentoVincePerSeiCaratteri) {
-    Installa();
-    const std::pair<const char *, const char *> casi[] = {{"|LAVORO=xy34zw|", "xy34zw"}, {"|lavoro=  Xy34zW", "Xy34zW"}, {"|Lavoro=xy34zwaltro|LAVORO=un", "xy34zw"},
-        {"|LAVORO=abc", "abc"}, {"|LAVORO=ÀCITTÀ|", "ÀCITTÀ"}, {"LAVORO=xy34zw", "prova1"}, {"|LAVORO=..\\..\\", nullptr}, {"|LAVORO=c:\\abc", nullptr}, {"|LAVORO=a|\\..\\", nullptr}};
-    for (const auto &[coda, codice] : casi) {
-        EXPECT_EQ(Risolvi(std::string("|diroot=@|") + coda), codice != nullptr) << coda;
-        if (codice) EXPECT_EQ(NomeLavoro + "|" + DirLavoro, codice + R("|@\\lavori\\") + codice) << coda;
-        else EXPECT_EQ(messaggi.size(), 1u) << coda;
-    }
-}
-
 } // namespace telva::prove

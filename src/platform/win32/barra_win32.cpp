@@ -71,7 +71,7 @@ void BarraWin32::ImpostaDpi(UINT dpi) {
         "ImageList_Create");
     for (const BottoneBarra &b : barra_.Bottoni) {
         const HBITMAP bitmap = Immagine(barra_.Icona(b.chiave, lato), lato);
-        ImageList_Add(nuove, bitmap, nullptr);
+        if (ImageList_Add(nuove, bitmap, nullptr) < 0) GuastoWindows("ImageList_Add");
         DeleteObject(bitmap);
     }
     SendMessageW(hwnd_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(nuove));

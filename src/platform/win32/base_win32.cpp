@@ -3,6 +3,8 @@
 #include "platform/guasto.h"
 #include "platform/numeri.h"
 
+#include <algorithm>
+
 namespace telva {
 namespace {
 
@@ -84,6 +86,24 @@ void AssegnaNome(HWND finestra, const std::string &nome) {
     const ATOM atomo = GlobalAddAtomW(ALargo(nome).c_str());
     if (atomo)
         SetPropW(finestra, L"TelvaNome", reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(atomo)));
+}
+
+void TogliNome(HWND finestra) {
+    const HANDLE atomo = RemovePropW(finestra, L"TelvaNome");
+    if (atomo) GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(atomo)));
+}
+
+void PortaNelloSchermo(RECT &r) {
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    if (!GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info)) return;
+    const RECT &area = info.rcWork;
+    const LONG l = std::min(r.right - r.left, area.right - area.left);
+    const LONG a = std::min(r.bottom - r.top, area.bottom - area.top);
+    r.left = std::clamp(r.left, area.left, area.right - l);
+    r.top = std::clamp(r.top, area.top, area.bottom - a);
+    r.right = r.left + l;
+    r.bottom = r.top + a;
 }
 
 } // namespace telva

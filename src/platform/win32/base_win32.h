@@ -41,5 +41,9 @@ RECT RettangoloVisibile(HWND finestra);
 
 // A control's name, on its native window, for tools that look at the program from outside.
 void AssegnaNome(HWND finestra, const std::string &nome);
+void TogliNome(HWND finestra);
+
+// Brings a rectangle into the work area of its nearest monitor: moved first, then made smaller.
+void PortaNelloSchermo(RECT &r);
 
 } // namespace telva

@@ -52,7 +52,7 @@ void Mouse(const RiquadroDisegno &d, const GestoreMouse &gestore, int tasti, WPA
     if (!gestore) return;
     const auto x = static_cast<float>(d.XDaPixel(GET_X_LPARAM(l)));
     const auto y = static_cast<float>(d.YDaPixel(GET_Y_LPARAM(l)));
-    EseguiProtetto([&] { gestore(tasti, Maiuscoli(w), x, y); });
+    gestore(tasti, Maiuscoli(w), x, y);
 }
 
 void TastoPremuto(HWND hwnd, const RiquadroDisegno &d, int tasto, WPARAM w, LPARAM l) {
@@ -61,7 +61,7 @@ void TastoPremuto(HWND hwnd, const RiquadroDisegno &d, int tasto, WPARAM w, LPAR
     Mouse(d, d.MouseDown, tasto, w, l);
 }
 
-LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+LRESULT Tratta(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
     auto *d = reinterpret_cast<RiquadroDisegno *>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
     if (!d) return DefWindowProcW(hwnd, messaggio, w, l);
     switch (messaggio) {
@@ -80,13 +80,19 @@ LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK:
-        if (d->DblClick) EseguiProtetto(d->DblClick);
+        if (d->DblClick) d->DblClick();
         return 0;
     case WM_CAPTURECHANGED:
-        if (d->CatturaPersa) EseguiProtetto(d->CatturaPersa);
+        if (d->CatturaPersa) d->CatturaPersa();
         return 0;
     default: return DefWindowProcW(hwnd, messaggio, w, l);
     }
+}
+
+LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+    LRESULT esito = 0;
+    EseguiProtetto([&] { esito = Tratta(hwnd, messaggio, w, l); });
+    return esito;
 }
 
 } // namespace
@@ -97,6 +103,7 @@ void RegistraDisegno() {
     classe.style = CS_DBLCLKS;
     classe.lpfnWndProc = Procedura;
     classe.hInstance = GetModuleHandleW(nullptr);
+    classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     classe.lpszClassName = kClasse;
     Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
 }

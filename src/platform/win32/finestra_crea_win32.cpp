@@ -25,9 +25,10 @@ bool InizioGruppo(const Controllo &c, const Controllo *precedente) {
 }
 
 DWORD StileEtichettaNativo(const Etichetta &e) {
-    const DWORD righe = e.stile == StileEtichetta::SuPiuRighe ? SS_LEFT : SS_LEFTNOWORDWRAP;
-    return SS_NOPREFIX | SS_NOTIFY | (e.stile == StileEtichetta::SuPiuRighe ? SS_LEFT : righe) |
-           (e.stile == StileEtichetta::Semplice ? SS_CENTERIMAGE | SS_ENDELLIPSIS : 0);
+    const bool unaRiga = e.stile == StileEtichetta::Semplice;
+    return SS_NOPREFIX | SS_NOTIFY |
+           (e.stile == StileEtichetta::SuPiuRighe ? SS_LEFT : SS_LEFTNOWORDWRAP) |
+           (unaRiga ? SS_CENTERIMAGE | SS_ENDELLIPSIS : 0);
 }
 
 } // namespace
@@ -148,7 +149,7 @@ void FinestraWin32::CreaControlli() {
         const HWND h = CreaControllo(*c, id++);
         if (!h) continue;
         nativi_[c] = h;
-        SetPropW(h, L"TelvaControllo", c);
+        Richiesto(SetPropW(h, L"TelvaControllo", c), "SetProp");
         AssegnaNome(h, c->NomeControllo());
         if (InizioGruppo(*c, precedente))
             SetWindowLongPtrW(h, GWL_STYLE, GetWindowLongPtrW(h, GWL_STYLE) | WS_GROUP);

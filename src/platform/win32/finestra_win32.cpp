@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace telva {
 namespace {
@@ -76,6 +77,7 @@ FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria) : modulo_(modulo
     CreaControlli();
     creata_ = true;
     ApplicaMisuraFinestra();
+    if (principale) RientraNelloSchermo();
     if (modulo.dpi != dpiPrima) Ridimensionata(SIZE_RESTORED, true);
 }
 
@@ -83,11 +85,17 @@ FinestraWin32::~FinestraWin32() {
     for (Controllo *c : modulo_.controlli) c->pari = nullptr;
     for (VoceMenu *voce : modulo_.voci) voce->pari = nullptr;
     modulo_.pari = nullptr;
+    TogliNomi();
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
     DestroyWindow(hwnd_);
     barra_.reset();
     if (font_) DeleteObject(font_);
     if (fontPiccolo_) DeleteObject(fontPiccolo_);
+}
+
+void FinestraWin32::TogliNomi() const {
+    for (const auto &[c, h] : nativi_) TogliNome(h);
+    TogliNome(hwnd_);
 }
 
 FinestraWin32 *FinestraWin32::Di(HWND finestra) {
@@ -119,8 +127,10 @@ Controllo *FinestraWin32::DaNativo(HWND h) const {
 }
 
 void FinestraWin32::Evento(const std::function<void()> &evento) {
-    EseguiProtetto(evento);
-    ApplicaPosizioni();
+    EseguiProtetto([&] {
+        evento();
+        ApplicaPosizioni();
+    });
 }
 
 // ---- changes of properties -------------------------------------------------------------------
@@ -268,19 +278,29 @@ RECT FinestraWin32::RettangoloPixel(const Controllo &c) const {
 
 void FinestraWin32::ApplicaPosizioni() {
     if (daPosizionare_.empty()) return;
+    // Pixels copied from the old place may carry what a neighbour has painted there since.
+    constexpr UINT kModo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
     HDWP gruppo = BeginDeferWindowPos(static_cast<int>(daPosizionare_.size()));
-    for (Controllo *c : daPosizionare_) {
+    for (const Controllo *c : daPosizionare_) {
         const HWND h = Nativo(*c);
         const RECT r = RettangoloPixel(*c);
-        constexpr UINT kModo = SWP_NOZORDER | SWP_NOACTIVATE;
         if (h && gruppo)
             gruppo = DeferWindowPos(gruppo, h, nullptr, r.left, r.top, r.right - r.left,
                                     r.bottom - r.top, kModo);
-        if (h && !gruppo)
-            SetWindowPos(h, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top, kModo);
     }
-    daPosizionare_.clear();
-    if (gruppo) EndDeferWindowPos(gruppo);
+    if (!gruppo || !EndDeferWindowPos(gruppo)) { // all at once failed: one by one
+        for (const Controllo *c : daPosizionare_) {
+            const RECT r = RettangoloPixel(*c);
+            if (const HWND h = Nativo(*c))
+                SetWindowPos(h, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top, kModo);
+        }
+    }
+    // What fitted into the summary field before may not fit now.
+    const auto spostati = std::exchange(daPosizionare_, {});
+    for (Controllo *c : spostati)
+        if (c->TipoControllo() == Tipo::Etichetta &&
+            static_cast<Etichetta *>(c)->stile == StileEtichetta::Riassunto)
+            CambiaSuggerimento(*c);
 }
 
 void FinestraWin32::ApplicaMisuraFinestra() {
@@ -293,9 +313,11 @@ void FinestraWin32::ApplicaMisuraFinestra() {
         RECT p{0, 0, 0, 0};
         const HWND proprietaria = GetWindow(hwnd_, GW_OWNER);
         if (proprietaria) GetWindowRect(proprietaria, &p);
-        SetWindowPos(hwnd_, nullptr, p.left + std::max<LONG>((p.right - p.left - s.cx) / 2, 0),
-                     p.top + std::max<LONG>((p.bottom - p.top - s.cy) / 2, 0), s.cx, s.cy,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        RECT r{p.left + (p.right - p.left - s.cx) / 2, p.top + (p.bottom - p.top - s.cy) / 2, 0, 0};
+        r.right = r.left + s.cx;
+        r.bottom = r.top + s.cy;
+        PortaNelloSchermo(r);
+        SetWindowPos(hwnd_, nullptr, r.left, r.top, s.cx, s.cy, SWP_NOZORDER | SWP_NOACTIVATE);
         return;
     }
     RECT intera{};
@@ -312,12 +334,23 @@ void FinestraWin32::ApplicaMisuraFinestra() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// A first window must not reach below the taskbar of a small screen.
+void FinestraWin32::RientraNelloSchermo() {
+    RECT r{};
+    if (!GetWindowRect(hwnd_, &r)) return;
+    PortaNelloSchermo(r);
+    SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 // ---- events -----------------------------------------------------------------------------------
 
 LRESULT CALLBACK FinestraWin32::Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
     auto *f = reinterpret_cast<FinestraWin32 *>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
     if (!f || f->hwnd_ != hwnd) return DefWindowProcW(hwnd, messaggio, w, l);
-    return f->Messaggio(messaggio, w, l);
+    LRESULT esito = 0;
+    EseguiProtetto([&] { esito = f->Messaggio(messaggio, w, l); });
+    return esito;
 }
 
 LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
@@ -521,7 +554,9 @@ bool FinestraWin32::Rotella(const MSG &m) {
     if (!modulo_.Rotella) return false;
     const POINT p{static_cast<short>(LOWORD(m.lParam)), static_cast<short>(HIWORD(m.lParam))};
     const HWND sotto = WindowFromPoint(p);
-    const Controllo *c = sotto ? DaNativo(sotto) : nullptr;
+    // The property of another process's window would be a pointer into that process.
+    const bool nostra = sotto && GetAncestor(sotto, GA_ROOT) == hwnd_;
+    const Controllo *c = nostra ? DaNativo(sotto) : nullptr;
     if (!c || c->TipoControllo() != Tipo::Disegno) return false;
     const int passi = rotella_.Aggiungi(static_cast<short>(HIWORD(m.wParam)));
     for (int n = std::abs(passi); n > 0; --n) Evento([&] { modulo_.Rotella(passi > 0 ? 1 : -1); });

@@ -22,6 +22,8 @@ class FinestraWin32 : public Pari {
     FinestraWin32(const FinestraWin32 &) = delete;
 
     void Mostra(int comando);
+    // Gives back what AssegnaNome has taken from the system.
+    void TogliNomi() const;
     HWND Maniglia() const { return hwnd_; }
     Modulo &DelModulo() const { return modulo_; }
     void MostraPopup(VoceMenu &menu);
@@ -63,6 +65,7 @@ class FinestraWin32 : public Pari {
     void LasciaFuoco(HWND h);
     void ApplicaPosizioni();
     void ApplicaMisuraFinestra();
+    void RientraNelloSchermo();
     RECT RettangoloPixel(const Controllo &c) const;
     std::vector<Controllo *> ConFigli(Controllo &c) const;
 

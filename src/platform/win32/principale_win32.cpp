@@ -59,6 +59,12 @@ class Sistema : public SistemaFinestre {
         DispatchMessageW(&m);
     }
 
+    // What outlives a process that ends at once.
+    void Congeda() const {
+        for (const FinestraWin32 *dialogo : dialoghi_) dialogo->TogliNomi();
+        if (principale_) principale_->TogliNomi();
+    }
+
     bool HaFinestra() const { return principale_ != nullptr; }
 
   private:
@@ -100,11 +106,15 @@ int Esegui() {
     const INITCOMMONCONTROLSEX classi{sizeof classi, ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&classi);
     ImpostaMessaggi([](const std::string &testo, Icona icona, const std::string &titolo) {
+        ReleaseCapture(); // a drag ends where a box begins
         MessageBoxW(IlSistema().Attiva(), ALargo(testo).c_str(), ALargo(titolo).c_str(),
                     MB_OK | MB_SETFOREGROUND | IconaDiSistema(icona));
     });
     // At once: nothing of what is still on the way may run any more.
-    ImpostaFine([](int codice) { ExitProcess(static_cast<UINT>(codice)); });
+    ImpostaFine([](int codice) {
+        IlSistema().Congeda();
+        ExitProcess(static_cast<UINT>(codice));
+    });
     ImpostaSistemaFinestre(&IlSistema());
     EseguiProtetto(FinestraWin32::RegistraClassi);
     Principale(Argomento());

@@ -42,11 +42,14 @@ void DisponiParti(ModuloOpt &f) {
         capo.Caption = testo;
         capo.Posiziona(180, top, 1850, 270);
     };
+    static constexpr double kColonne[] = {2070, 3150, 4920, 6600, 9000};
     const auto parti = [](auto &caselle, std::initializer_list<const char *> testi, double top) {
         int k = 0;
         for (const char *testo : testi) {
+            const int colonna = k < 4 ? k : k - 3; // the first column is a narrow one
             caselle[k].Caption = testo;
-            caselle[k].Posiziona(2070 + (k % 4) * 1710, top + (k / 4) * 280, 1690, 270);
+            caselle[k].Posiziona(kColonne[colonna], top + (k / 4) * 280,
+                                 kColonne[colonna + 1] - kColonne[colonna] - 60, 270);
             ++k;
         }
     };
@@ -59,7 +62,7 @@ void DisponiParti(ModuloOpt &f) {
     parti(f.TxtGusci, {"Nome", "Materiale (M)", "Spessore (S)"}, 1260);
     gruppo(f.CheckTxtElCont, "Elementi continui", 1600);
     f.TxtElCont.Caption = "Nome";
-    f.TxtElCont.Posiziona(2070, 1600, 1690, 270);
+    f.TxtElCont.Posiziona(kColonne[0], 1600, 1000, 270);
 }
 
 void DisponiTesti(ModuloOpt &f) {

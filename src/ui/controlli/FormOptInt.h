@@ -11,7 +11,7 @@ struct ModuloOptInt : Modulo {
     Cornice Frame1{this, "Frame1"};
     CasellaTesto TextTrappola{this, "TextTrappola", &Frame1};
     Etichetta Label1{this, "Label1", &Frame1};
-    Pulsante Command1{this, "Command1"};
+    Pulsante Command1{this, "Command1", &Frame1};
 };
 
 extern ModuloOptInt FormOptInt;

@@ -33,8 +33,8 @@ void Disponi(ModuloTelva &f) {
     f.Height = 11400;
     f.Toolbar1.Posiziona(0, 0, 0, 400);
     f.FrameInput.Posiziona(30, 430, 0, 450);
-    f.Domanda.Posiziona(60, 0, 0, 450);
-    f.Risposta.Posiziona(0, 75, 2570, 300);
+    f.Domanda.Posiziona(60, 95, 0, 385);
+    f.Risposta.Posiziona(0, 60, 2570, 300);
     f.Disegno.Posiziona(30, 910, 0, 0);
     f.FrameSel.Posiziona(0, 910, 2790, 1640);
     for (int k = 0; k < 5; ++k) f.OptElem[k].Posiziona(120, 255 + k * 265, 2550, 255);
@@ -62,12 +62,12 @@ void Disponi(ModuloTelva &f) {
         f.Label2[k].Posiziona(0, 0, 105, 200);
         f.Angolo[k].Posiziona(0, 0, 390, 300);
     }
-    f.Frame2.Posiziona(30, 0, 2520, 480);
-    f.FunAttiva.Posiziona(30, 0, 2490, 235);
-    f.SottoFunAttiva.Posiziona(30, 240, 2490, 235);
+    f.Frame2.Posiziona(30, 0, 2610, 480);
+    f.FunAttiva.Posiziona(30, 0, 2580, 235);
+    f.SottoFunAttiva.Posiziona(30, 240, 2580, 235);
     // Its labels reach out of this frame on both sides: it has no width at the smallest size.
     f.FrameCoord.Posiziona(4700, 0, 0, 480);
-    f.Label6.Posiziona(0, 15, 1130, 235);
+    f.Label6.Posiziona(0, 15, 1000, 235);
     f.LabCoord.Posiziona(0, 15, 1690, 460);
 }
 
@@ -78,6 +78,7 @@ void ModuloTelva::Inizio() {
     Caption = "Telva";
     MousePointer = Puntatore::Predefinito;
     Disegno.MousePointer = Puntatore::Predefinito;
+    Disegno.Scale(0, 0, 1, 1);
     Disegno.Shape.Visible = false;
     Disegno.LineSposta.Visible = false;
     FrameSel.Caption = "Elementi da selezionare";

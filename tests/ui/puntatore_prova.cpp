@@ -1,0 +1,148 @@
+// The pointer on the drawing: its states, told in scripts, and its agreement with the pixels.
+#include "model/opzioni_cond.h"
+#include "selection/selezione.h"
+#include "selection/trappola.h"
+#include "sostegno/Banco.h"
+#include "startup/basCommon_cond.h"
+#include "ui/FormTelva_gestori.h"
+#include "ui/controlli/FormTelva.h"
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <sstream>
+
+namespace telva::prove {
+// Plays a script: commands by their names; kN element kind; s, d, c: left, right, middle button at
+// "x,y"; m move, t the same with the middle button, u its release, b double click, p capture lost;
+// = answer, x and z end of an interval, with Enter; w width of the window; a number is a character
+// typed. The rest are checks, blanks as "_": > list, # function, sub-function, flags and rubber
+// bands, " sub-function shown, % menu Selezioni, [ coordinates, @ zoom window, ! messages by
+// number.
+void Recita(std::vector<Messaggio> &messaggi, const std::string &copione) {
+    ModuloTelva &f = FormTelva;
+    const FinestraDisegno &z = FinestraZoom;
+    std::istringstream s(copione);
+    for (std::string t; s >> t;) {
+        const char c = t[0];
+        float x = 0, y = 0;
+        std::sscanf(t.c_str() + 1, "%f,%f", &x, &y);
+        for (const VoceMenu *v : f.voci)
+            if (v->NomeControllo() == t) v->Click();
+        if (c == 'm' || c == 't' || c == 's') f.Disegno.MouseMove(c == 't' ? 4 : 0, 0, x, y);
+        if (c == 's' || c == 'd' || c == 'c')
+            f.Disegno.MouseDown(c == 's' ? 1 : 2 * ('e' - c), 0, x, y);
+        if (c == 'u') f.Disegno.MouseUp(4, 0, x, y);
+        if (c == 'b') f.Disegno.DblClick();
+        if (c == 'p') f.Disegno.CatturaPersa();
+        if (c == 'k') f.OptElem[static_cast<int>(x)].Seleziona();
+        if (c == 'w') f.Width = x, f.Resize();
+        if (c == '=') f.Risposta.Text = t.substr(1), f.Risposta.KeyDown(13);
+        if (c == 'x') f.IntX[1].Text = t.substr(1), f.IntX[1].KeyDown(13);
+        if (c == 'z') f.IntZ[0].Text = t.substr(1), f.IntZ[0].KeyDown(13);
+        if (std::isdigit(c)) f.KeyPress(std::stoi(t));
+        if (std::isalnum(c) || c == '=') continue;
+        std::ostringstream v;
+        if (c == '>') v << f.StringaSel.Caption();
+        if (c == '"') v << f.SottoFunAttiva.Caption();
+        if (c == '[') v << f.LabCoord.Caption();
+        if (c == '@') v << z.primaX << "," << z.secondaX << "," << z.primaY << "," << z.secondaY;
+        if (c == '#')
+            v << +CodFunAttiva << +CodSottoFun << PrimoAngolo << SpostaInCorso << ModoZoom
+              << ModoSposta << FinestraAutomatica << (f.Disegno.Shape.Visible ? "r" : "")
+              << (f.Disegno.LineSposta.Visible ? "l" : "");
+        for (const VoceMenu *voce : f.Selezioni.voci)
+            if (c == '%') v << "-x"[voce->Enabled];
+        for (; c == '!' && !messaggi.empty(); messaggi.erase(messaggi.begin())) {
+            int k = 0;
+            while (k < 23 && Messaggi[k] != messaggi[0].testo) ++k;
+            v << messaggi[0].titolo[0] << (k < 23 ? std::to_string(k) : messaggi[0].testo);
+        }
+        std::string visto = c + v.str();
+        std::ranges::replace(visto, ' ', '_');
+        EXPECT_EQ(visto, t) << copione << "\nat " << s.tellg();
+    }
+}
+
+struct PuntatoreProva : Banco {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    PuntatoreProva() {
+        LavoroProva lavoro = Telaio();
+        lavoro.nodi.push_back({4, 10}); // where node 5 stands
+        lavoro.punti[8] = {200.7, -0.2, 200};
+        Apri(lavoro);
+        FormTelva.VisAssi.Click();
+        Opzioni[kOpzTestiElCont] = 0.0;
+    }
+    ~PuntatoreProva() override { FormTelva.dpi = 96; }
+    float X(int px) { return static_cast<float>(d.XDaPixel(px)); }
+    float Y(int py) { return static_cast<float>(d.YDaPixel(py)); }
+};
+
+TEST_F(PuntatoreProva, OgniStatoEOgniTasto) {
+    // What brings the state, how it looks, how after a left click where nothing is.
+    std::istringstream casi(R"(|#0000000 >|#0000000
+        Aggiungi|#1400000 "Selezione_diretta|#1110001r
+        Aggiungi s0,0 Rimuovi s0,0|#2400000 >|#2110001r
+        Aggiungi s100,100 >5 s100,100|#1400000 >5,10|#1110001r
+        Aggiungi s50,50|#1110001r "Seleziona_per_finestra|#1400000 "Selezione_diretta >5,10
+        Aggiungi s50,50 w9000|#1110001r|#1400000 >5,10
+        Aggiungi s50,50 s50,90|#1100001 "Seleziona_per_finestra|#1110001r
+        Aggiungi s50,50 27|#0000000 "|#0000000
+        Aggiungi Finestra s-9,-9|#1110000r|#1100000 >1,1-2,4-5,10
+        Aggiungi Tutto Rimuovi s50,50|#2110001r|#2400000 >1,1-4,6-9
+        Aggiungi ZoomIn|#1400100 "Zoom|#1410100r
+        Aggiungi ZoomIn Trappola|#1400100 "Zoom|#1410100r
+        Aggiungi ZoomIn s50,50|#1410100r|#1400000 "Selezione_diretta @150,50,150,50
+        Aggiungi ZoomIn s50,50 s90,50|#1400100 "Zoom|#1410100r
+        Aggiungi SchSezione ZoomIn s50,50|#1510100r "Zoom|#1500000 "Zoom
+        ZoomIn s50,50|#0010100r|#0000000 "
+        ZoomIn s50,50 27|#0000000 "|#0000000
+        Aggiungi Sposta|#1400010 "Sposta|#1401010l
+        Aggiungi Sposta s140,120|#1401010l|#1400000 @190.7,-10,170,-30 "Selezione_diretta
+        Aggiungi Sposta s0,0 s0,0|#1401010l >1,1|#1400000 >1,1
+        Sposta s50,50 27|#0000000 "|#0000000)");
+    for (std::string riga; std::getline(casi >> std::ws, riga);) {
+        const auto a = riga.find('|'), b = riga.find('|', a + 1);
+        const std::string stato = " " + riga.substr(a + 1, b - a - 1) + " ";
+        Recita(messaggi,
+               "RimTutto 27 Ottimizza w15000 " + riga.substr(0, a) + stato + "d10,10" + stato);
+        if (!d.LineSposta.Visible) Recita(messaggi, "c20,20 u" + stato);
+        Recita(messaggi, "s150,150 " + riga.substr(b + 1));
+    }
+    Recita(messaggi, R"(ZoomIn s-9,110 s110,-9 @110,-9,110,-9 s50,50 b @110,-9,110,-9
+        c0,0 p t40,40 @110,-9,110,-9 c0,0 u t40,40 @110,-9,110,-9 c0,0 b t40,40 @0,0,0,0
+        m100,100 [100,_0,_100_[N5] m200.7,200 [200,_-1,_200_[N9] m50,50 [
+        VisCoord m100,100 [ )");
+}
+
+TEST_F(PuntatoreProva, AlPixel) {
+    FormTelva.GusciAtt.Premi(); // hatches stand still in the picture
+    for (int k = 0; k < 72; ++k) {
+        const bool zoom = k % 2, dueClic = k / 2 % 2, nodi = k / 4 % 2;
+        FormTelva.dpi = 96 + k / 8 % 3 * 48;
+        FormTelva.Angolo[0].Text = FormTelva.Angolo[2].Text = std::array{"0", "30", "-75"}[k / 24];
+        FormTelva.NodiAtt.Value = nodi, FormTelva.AsteAtt.Value = !nodi;
+        FormTelva.OptElem[nodi ? kNodiTipo : kAsteTipo].Seleziona();
+        OpzInt[1] = nodi ? OpzioneNumero(kOpzRaggioNodo) + 1.5 : 1.5;
+        Recita(messaggi, zoom ? "Ottimizza ZoomIn s41,-9 s210,193" : "Ottimizza");
+        for (int py = 0; py < d.AltezzaPixel(); py += 5) // what is drawn can be picked there
+            for (int px = 0; px < d.LarghezzaPixel(); ++px) {
+                bool fuori = false;
+                if (d.Immagine().Leggi(px, py) == 0) continue;
+                ASSERT_GE(SelezioneDiretta(X(px), Y(py)), 1) << k << ": " << px << " " << py;
+                ASSERT_EQ(d.InPixel(X(px), Y(py), fuori), (Pixel{px, py}));
+            }
+        const Superficie prima = d.Immagine();
+        if (dueClic) FormTelva.Sposta.Click();
+        d.MouseDown(dueClic ? 1 : 4, 0, X(300), Y(200));
+        for (const auto &[px, py] : {std::pair{293, 240}, {300, 200}, {331, 183}})
+            d.MouseMove(dueClic ? 0 : 4, 0, X(px), Y(py));
+        dueClic ? d.MouseDown(1, 0, X(331), Y(183)) : d.MouseUp(4, 0, X(331), Y(183));
+        int diversi = 0;
+        for (int py = 17; py < d.AltezzaPixel(); ++py)
+            for (int px = 0; px + 31 < d.LarghezzaPixel(); ++px)
+                diversi += prima.Leggi(px, py) != d.Immagine().Leggi(px + 31, py - 17);
+        EXPECT_EQ(diversi, 0) << k;
+    }
+}
+} // namespace telva::prove
