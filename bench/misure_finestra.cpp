@@ -1,5 +1,5 @@
-// The same operations in the real program, measured from outside: each message is sent to its window
-// and counted until it has been handled, picture on the screen included.
+// The same operations in the real program, measured from outside: each message is sent to its
+// window and counted until it has been handled, picture on the screen included.
 //   misure_finestra --telva EXE --vuota EXE --argomento STRING
 // Prints one line "name milliseconds" for each row, and the peak memory in MiB.
 #include "Pilota.h"
@@ -29,7 +29,8 @@ double Mediana(std::vector<double> v) {
 
 void Riga(const char *nome, double valore) { std::printf("%s %.2f\n", nome, valore); }
 
-template <class Prepara, class Fai> double Misura(Prepara prepara, Fai fai, int volte = 15) {
+template <class Prepara, class Fai>
+double Misura(Prepara prepara, Fai fai, int volte = 15) {
     std::vector<double> tempi;
     for (int n = 0; n < volte; ++n) {
         prepara();

@@ -133,9 +133,9 @@ Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
     return *this;
 }
 
-// One text in the window. Centrata and SuPiuRighe say how it stands in its rectangle; the caption
-// of a `Riassunto` is data (shown in a sunken field, with an ellipsis and the whole in a tip).
-enum class StileEtichetta { Semplice, SuPiuRighe, Riassunto, Pedice };
+// One text in the window: on one line; on several; on several with its middle at half height; as
+// data in a sunken field, with an ellipsis and the whole in a tip; as an index.
+enum class StileEtichetta { Semplice, SuPiuRighe, Centrata, Riassunto, Pedice };
 
 class Etichetta : public Controllo {
   public:

@@ -208,7 +208,7 @@ void Form_Resize() {
         f.Label2[k].Left = left + 125;
         f.Angolo[k].Left = left + 230;
     }
-    f.Toolbar1.Width = w;
+    f.Toolbar1.Width = w - 180;
     f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;
     f.Label6.Left = f.LabCoord.Left - f.Label6.Width - 45;
     RidisegnaAllaMisura();

@@ -73,12 +73,13 @@ TEST_F(Banco, SegnaComeUnaPassataPerNumero) {
         }
         const int codice = "\2\3\5\6\7\10\11"[giro % 7], tipo = giro / 7 % 5, da = tira(5);
         const bool continuo = tipo == kElContTipo, perNumero = continuo && codice == kNome;
-        const int t = continuo ? 1 : tipo, a = continuo && codice == kSvincolo ? -1 : da + tira(3);
-        const std::string lista = std::to_string(da) + "-" + std::to_string(std::max(a, da));
+        const int t = continuo ? 1 : tipo, a = std::max(0, da + tira(4) - 1);
+        const std::string lista = std::to_string(da) + "-" + std::to_string(a);
+        const bool mai = !v.count({codice, t, 0}) || (continuo && codice == kSvincolo);
         CodFunAttiva = static_cast<std::uint8_t>(tira(3));
         FormTelva.OptElem[tipo].Seleziona();
         std::vector<int> atteso(flag[tipo], flag[tipo] + kNumero);
-        for (int n = da; n <= a && v.count({codice, t, 0}); ++n)
+        for (int n = da; n <= a && !mai; ++n)
             for (int k = 0; k < kNumero; ++k) {
                 bool preso = !perNumero || NumeroElCont[k] == n;
                 for (int j = 0; preso && j < (continuo ? NumAsteElCont[k] : 1); ++j) {

@@ -25,6 +25,7 @@ bool InizioGruppo(const Controllo &c, const Controllo *precedente) {
 }
 
 DWORD StileEtichettaNativo(const Etichetta &e) {
+    if (e.stile == StileEtichetta::Centrata) return SS_OWNERDRAW;
     const bool unaRiga = e.stile == StileEtichetta::Semplice;
     return SS_NOPREFIX | SS_NOTIFY |
            (e.stile == StileEtichetta::SuPiuRighe ? SS_LEFT : SS_LEFTNOWORDWRAP) |

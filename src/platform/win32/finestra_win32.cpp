@@ -295,6 +295,8 @@ void FinestraWin32::ApplicaPosizioni() {
                 SetWindowPos(h, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top, kModo);
         }
     }
+    // The frames let what is under them show through, so what has moved leaves its traces there.
+    RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     // What fitted into the summary field before may not fit now.
     const auto spostati = std::exchange(daPosizionare_, {});
     for (Controllo *c : spostati)
@@ -486,8 +488,24 @@ LRESULT FinestraWin32::ColoreControllo(HDC dc, HWND nativo) {
     return reinterpret_cast<LRESULT>(GetSysColorBrush(sfondo));
 }
 
+void FinestraWin32::DisegnaCentrata(const DRAWITEMSTRUCT &d) const {
+    constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX;
+    const std::wstring testo = ALargo(TestoFinestra(d.hwndItem));
+    const int lunghezza = static_cast<int>(testo.size());
+    const HGDIOBJ prima = SelectObject(d.hDC, font_);
+    RECT r = d.rcItem, dentro = r;
+    FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
+    SetBkMode(d.hDC, TRANSPARENT);
+    SetTextColor(d.hDC, GetSysColor(COLOR_BTNTEXT));
+    DrawTextW(d.hDC, testo.c_str(), lunghezza, &dentro, kModo | DT_CALCRECT);
+    r.top += std::max<LONG>((r.bottom - r.top - (dentro.bottom - dentro.top)) / 2, 0);
+    DrawTextW(d.hDC, testo.c_str(), lunghezza, &r, kModo);
+    SelectObject(d.hDC, prima);
+}
+
 void FinestraWin32::DisegnaCampione(const DRAWITEMSTRUCT &d) {
     const Controllo *c = DaNativo(d.hwndItem);
+    if (c && c->TipoControllo() == Tipo::Etichetta) DisegnaCentrata(d);
     if (!c || c->TipoControllo() != Tipo::Campione) return;
     const auto &campione = static_cast<const Campione &>(*c);
     RECT r = d.rcItem;

@@ -75,6 +75,7 @@ class FinestraWin32 : public Pari {
     void DpiCambiato(UINT dpi, const RECT &proposto);
     void Comando(HWND nativo, WORD codice, WORD id);
     LRESULT ColoreControllo(HDC dc, HWND nativo);
+    void DisegnaCentrata(const DRAWITEMSTRUCT &d) const;
     void DisegnaCampione(const DRAWITEMSTRUCT &d);
     void CancellaSfondo(HDC dc) const;
     bool Tasto(MSG &messaggio);

@@ -11,7 +11,7 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     Frame2.bordo = false;
     FrameInput.bordo = false;
     FrameCoord.bordo = false;
-    Domanda.stile = StileEtichetta::SuPiuRighe;
+    Domanda.stile = StileEtichetta::Centrata;
     LabCoord.stile = StileEtichetta::SuPiuRighe;
     Label6.stile = StileEtichetta::SuPiuRighe;
     StringaSel.stile = StileEtichetta::Riassunto;
@@ -32,17 +32,17 @@ void Disponi(ModuloTelva &f) {
     f.Width = 15000;
     f.Height = 11400;
     f.Toolbar1.Posiziona(0, 0, 0, 400);
-    f.FrameInput.Posiziona(30, 430, 0, 450);
-    f.Domanda.Posiziona(60, 95, 0, 385);
-    f.Risposta.Posiziona(0, 60, 2570, 300);
-    f.Disegno.Posiziona(30, 910, 0, 0);
-    f.FrameSel.Posiziona(0, 910, 2790, 1640);
-    for (int k = 0; k < 5; ++k) f.OptElem[k].Posiziona(120, 255 + k * 265, 2550, 255);
-    f.FrameAtt.Posiziona(0, 2610, 2790, 2720);
+    f.FrameInput.Posiziona(30, 405, 0, 600);
+    f.Domanda.Posiziona(60, 0, 0, 600);
+    f.Risposta.Posiziona(0, 150, 2570, 300);
+    f.Disegno.Posiziona(0, 1010, 0, 0);
+    f.FrameSel.Posiziona(0, 1010, 2790, 1640);
+    for (int k = 0; k < 5; ++k) f.OptElem[k].Posiziona(120, 255 + k * 265, 2550, 245);
+    f.FrameAtt.Posiziona(0, 2690, 2790, 2720);
     CasellaSpunta *caselle[] = {&f.NodiAtt, &f.AsteAtt, &f.GusciAtt, &f.ElSelez, &f.ElNonSelez};
     double top = 245;
     for (CasellaSpunta *c : caselle) {
-        c->Posiziona(120, top, 2550, 250);
+        c->Posiziona(120, top, 2550, 235);
         top += 252;
     }
     f.LabelInt.Posiziona(120, 1525, 2550, 225);
@@ -56,17 +56,17 @@ void Disponi(ModuloTelva &f) {
         tutto[k]->Posiziona(1960, riga - 5, 740, 300);
     }
     f.Label5.Posiziona(60, 0, 2320, 285);
-    f.StringaSel.Posiziona(2400, 0, 0, 300);
+    f.StringaSel.Posiziona(2400, 0, 0, 290);
     for (int k = 0; k < 3; ++k) {
-        f.Label1[k].Posiziona(0, 0, 130, 285);
+        f.Label1[k].Posiziona(0, 0, 115, 285);
         f.Label2[k].Posiziona(0, 0, 105, 200);
         f.Angolo[k].Posiziona(0, 0, 390, 300);
     }
-    f.Frame2.Posiziona(30, 0, 2610, 480);
-    f.FunAttiva.Posiziona(30, 0, 2580, 235);
-    f.SottoFunAttiva.Posiziona(30, 240, 2580, 235);
+    f.Frame2.Posiziona(30, 0, 2610, 465);
+    f.FunAttiva.Posiziona(30, 0, 2580, 225);
+    f.SottoFunAttiva.Posiziona(30, 230, 2580, 235);
     // Its labels reach out of this frame on both sides: it has no width at the smallest size.
-    f.FrameCoord.Posiziona(4700, 0, 0, 480);
+    f.FrameCoord.Posiziona(4700, 0, 0, 465);
     f.Label6.Posiziona(0, 15, 1000, 235);
     f.LabCoord.Posiziona(0, 15, 1690, 460);
 }
