@@ -95,8 +95,16 @@ POINT Pulsante(S s, T indice) {
 void Suggerisce(S s, T r) {
     s.p.Punta(s.disegno, {5, 5});
     DIVENTA(s.p, s.p.Suggerimento(), "");
-    s.p.Punta(s.p.Controllo("Toolbar1"), Pulsante(s, r));
-    DIVENTA(s.p, s.p.Suggerimento(), r.substr(r.find(' ') + 1));
+    const HWND barra = s.p.Controllo("Toolbar1");
+    const POINT qui = Pulsante(s, r);
+    s.p.Punta(barra, qui);
+    // A move that the bar has missed shows no tip: then the hand moves a little, now and again.
+    int sondaggi = 0;
+    const auto suggerimento = [&] {
+        if (++sondaggi % 200 == 0) s.p.Punta(barra, {qui.x + sondaggi / 200 % 2, qui.y});
+        return s.p.Suggerimento();
+    };
+    DIVENTA(s.p, suggerimento(), r.substr(r.find(' ') + 1));
 }
 
 // To within two pixels: the view is kept in drawing units.
