@@ -70,8 +70,7 @@ bool SecondoPuntoSposta(double x, double y) {
     const double dx = linea.X2 - linea.X1, dy = linea.Y2 - linea.Y1;
     if (!(std::abs(dx) > kSoglia || std::abs(dy) > kSoglia)) return false;
     AggiornaFinestraVista(); // the zoom window, or the whole structure when there is none
-    const double unita = Disegno().UnitaPerPixel(); // by whole pixels: the same picture, moved
-    SpostaVista(FinestraVista, std::round(dx / unita) * unita, std::round(dy / unita) * unita);
+    SpostaVista(FinestraVista, dx, dy);
     ModoSposta = SpostaInCorso = 0;
     linea.Visible = false;
     Ridis_Click();

@@ -53,8 +53,7 @@ std::string LavoroProva::Struttura() const {
     s << aste.size() << "\r\n";
     for (const Asta &a : aste)
         s << a.i << " " << a.j << " " << a.tipo << " " << a.colore << "\r\n"
-          << a.nome << " " << a.sezione << " " << a.svincolo << " " << a.orientamento
-          << " 0 0\r\n";
+          << a.nome << " " << a.sezione << " " << a.svincolo << " " << a.orientamento << " 0 0\r\n";
     s << gusci.size() << "\r\n";
     for (const Guscio &g : gusci)
         s << g.nodi[0] << " " << g.nodi[1] << " " << g.nodi[2] << " " << g.nodi[3] << "\r\n"
@@ -143,7 +142,8 @@ void Banco::ScriviLavoro(const LavoroProva &l, const std::string &lavoro) const 
     for (const auto &a : l.aste)
         if (a.nome > 0) ingombri << "0 0 0\r\n1 1 1\r\n";
     spessori << l.spessori.size() << "\r\n";
-    for (const auto &s : l.spessori) spessori << "1 " << s.materiale << " 0 " << s.valore << " 0\r\n";
+    for (const auto &s : l.spessori)
+        spessori << "1 " << s.materiale << " 0 " << s.valore << " 0\r\n";
     sezioni << l.sezioni.size() << "\r\n";
     for (int m : l.sezioni) sezioni << "1 0 " << m << " 0 0 0 0 0 0 0 0 0 0 0 0\r\n";
     elementi << l.elementi.size() << "\r\n";
