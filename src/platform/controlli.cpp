@@ -89,8 +89,8 @@ Modulo::Modulo(std::string nome)
     : Controllo(nullptr, std::move(nome), Tipo::Modulo), Caption(*this, Campo::Didascalia),
       MousePointer(*this, Campo::Puntatore, telva::Puntatore::Predefinito) {}
 
-void Modulo::PreparaDpi() {
-    if (Sistema()) dpi = Sistema()->DpiIniziale();
+void Modulo::Prepara() {
+    if (Sistema()) Sistema()->Prepara(*this);
 }
 
 void Modulo::Mostra() {

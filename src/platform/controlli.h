@@ -284,8 +284,9 @@ class Modulo : public Controllo {
     std::function<void()> Unload;      // the window is about to go
     std::function<void(int)> Rotella;  // mouse wheel, one step at a time: +1 or -1
 
-    // The DPI that the window will have when it is shown, as far as the system can tell.
-    void PreparaDpi();
+    // The DPI and the size that the window will have when it is shown, as far as the system can
+    // tell.
+    void Prepara();
     void Mostra();
     // Shows the window and returns when it is gone.
     void MostraModale();
@@ -301,7 +302,7 @@ class Modulo : public Controllo {
 class SistemaFinestre {
   public:
     virtual ~SistemaFinestre() = default;
-    virtual double DpiIniziale() = 0;
+    virtual void Prepara(Modulo &modulo) = 0;
     virtual void Mostra(Modulo &modulo) = 0;
     virtual void MostraModale(Modulo &modulo) = 0;
     virtual void Chiudi(Modulo &modulo) = 0;

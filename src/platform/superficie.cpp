@@ -32,7 +32,9 @@ std::uint32_t *Superficie::Riga(int y) {
 void Superficie::Ridimensiona(int larghezza, int altezza) {
     larghezza_ = std::max(larghezza, 1);
     altezza_ = std::max(altezza, 1);
-    pixel_.resize(static_cast<std::size_t>(larghezza_) * static_cast<std::size_t>(altezza_));
+    const auto pixel = static_cast<std::size_t>(larghezza_) * static_cast<std::size_t>(altezza_);
+    if (pixel > pixel_.capacity()) std::vector<std::uint32_t>().swap(pixel_); // never two at a time
+    pixel_.resize(pixel);
 }
 
 void Superficie::Riempi(std::uint32_t colore) { std::fill(pixel_.begin(), pixel_.end(), colore); }

@@ -64,7 +64,7 @@ void Avvia() {
     AzzeraVista();
     FormTelva.FunAttiva.Caption = "";
     AzzeraPuntatore();
-    FormTelva.PreparaDpi();
+    FormTelva.Prepara();
     Form_Resize(); // gives the drawing its size; there is nothing to see yet
     FormTelva.MousePointer = Puntatore::Clessidra;
     Direttori();

@@ -83,6 +83,37 @@ SCENARIO(altro_lavoro) {
     UGUALE(LeggiByte(altro / "TelvaOut.txt").value_or("(no file)"), avvii[1].uscita);
 }
 
+// Every run begins where the one before ended; a place on no monitor is mended.
+SCENARIO(posto_ricordato) {
+    RECT prima{}, ora{};
+    const auto stessa = [&] { return EqualRect(&prima, &ora) != 0; };
+    for (int giro = 0; giro < 4; ++giro) {
+        if (giro == 3) {
+            const LONG lontano[] = {30000, -20000, 9000, 8000, 0};
+            RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, lontano,
+                            sizeof lontano);
+        }
+        Programma p(amb.telva, amb.Argomento(), giro > 0);
+        const HWND f = p.Principale();
+        if (giro == 0) {
+            p.Dimensiona(f, 930, 720);
+            SetWindowPos(f, nullptr, 61, 47, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+            GetWindowRect(f, &prima);
+        }
+        UGUALE(IsZoomed(f) != 0, giro == 2);
+        if (giro == 1) ShowWindow(f, SW_MAXIMIZE);
+        if (giro == 2) ShowWindow(f, SW_RESTORE);
+        GetWindowRect(f, &ora);
+        if (giro == 2) VERIFICA(stessa());
+        if (giro == 3) {
+            VERIFICA(ora.left >= 0 && ora.top >= 0 && ora.right <= GetSystemMetrics(SM_CXSCREEN));
+            VERIFICA(ora.bottom <= GetSystemMetrics(SM_CYSCREEN) && !stessa());
+        }
+        p.Premi("Ctrl+E");
+        UGUALE(p.AttendiFine(), 0U);
+    }
+}
+
 SCENARIO(avvio_sbagliato) {
     const auto radice = fs::temp_directory_path() / "telva_avvio";
     std::wstring minuscola = radice.wstring();

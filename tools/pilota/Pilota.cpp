@@ -238,7 +238,8 @@ std::wstring Largo(std::string_view utf8) {
     return r;
 }
 
-Programma::Programma(const std::wstring &eseguibile, const std::wstring &argomenti) {
+Programma::Programma(const std::wstring &eseguibile, const std::wstring &argomenti, bool ricorda) {
+    if (!ricorda) RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Telva");
     std::wstring riga = L"\"" + eseguibile + L"\" " + argomenti;
     STARTUPINFOW avvio{};
     avvio.cb = sizeof avvio;

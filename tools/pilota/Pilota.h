@@ -43,8 +43,9 @@ struct Risorse {
 /// A program under test. The destructor ends it if it still runs.
 class Programma {
   public:
-    /// Starts `eseguibile`; `argomenti` follows its quoted path and a blank, untouched.
-    Programma(const std::wstring &eseguibile, const std::wstring &argomenti);
+    /// Starts `eseguibile`; `argomenti` follows its quoted path and a blank, untouched. Where the
+    /// user left its window is forgotten before, unless `ricorda`.
+    Programma(const std::wstring &eseguibile, const std::wstring &argomenti, bool ricorda = false);
     ~Programma();
     Programma(const Programma &) = delete;
     Programma &operator=(const Programma &) = delete;

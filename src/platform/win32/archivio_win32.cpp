@@ -32,6 +32,11 @@ class File {
         }
         return true;
     }
+    // While set, the file goes with its handle, even when the process is killed.
+    void Passeggero(bool si) const {
+        FILE_DISPOSITION_INFO info{si};
+        SetFileInformationByHandle(file_, FileDispositionInfo, &info, sizeof info);
+    }
     bool Inizio() const {
         return SetFilePointerEx(file_, LARGE_INTEGER{}, nullptr, FILE_BEGIN) != 0;
     }
@@ -79,10 +84,12 @@ bool ScriviFile(const std::string &percorso, std::string_view contenuto) {
     if (attributi != INVALID_FILE_ATTRIBUTES &&
         (attributi & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
         return false;
-    const std::wstring provvisorio = destinazione + L".~" + std::to_wstring(GetCurrentProcessId());
-    File file(provvisorio, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    const std::wstring provvisorio = destinazione + L".~";
+    File file(provvisorio, GENERIC_WRITE | DELETE, 0, CREATE_ALWAYS);
     if (!file.Aperto()) return ScriviSulPosto(percorso, contenuto);
+    file.Passeggero(true);
     bool ok = file.Scrivi(contenuto) && FlushFileBuffers(file.Maniglia()) != 0;
+    if (ok) file.Passeggero(false);
     ok = file.Chiudi() && ok;
     ok = ok && MoveFileExW(provvisorio.c_str(), destinazione.c_str(),
                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;

@@ -31,14 +31,10 @@ HBITMAP Immagine(const std::vector<std::uint32_t> &pixel, int lato) {
 
 } // namespace
 
-BarraWin32::BarraWin32(BarraStrumenti &barra, HWND genitore, int id, UINT dpi) : barra_(barra) {
-    hwnd_ = Richiesto(CreateWindowExW(0, TOOLBARCLASSNAMEW, L"Barra degli strumenti",
-                                      WS_CHILD | WS_CLIPSIBLINGS | TBSTYLE_FLAT | TBSTYLE_TOOLTIPS |
-                                          CCS_NORESIZE | CCS_NODIVIDER | CCS_NOPARENTALIGN,
-                                      0, 0, 0, 0, genitore,
-                                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                      GetModuleHandleW(nullptr), nullptr),
-                      "CreateWindowEx(ToolbarWindow32)");
+BarraWin32::BarraWin32(BarraStrumenti &barra, const Nascita &nascita, UINT dpi) : barra_(barra) {
+    hwnd_ = nascita.Crea(TOOLBARCLASSNAMEW, L"Barra degli strumenti",
+                         TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_NORESIZE | CCS_NODIVIDER |
+                             CCS_NOPARENTALIGN);
     SendMessageW(hwnd_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     ImpostaDpi(dpi);
     std::vector<TBBUTTON> bottoni;

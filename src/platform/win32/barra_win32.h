@@ -8,7 +8,7 @@ namespace telva {
 
 class BarraWin32 {
   public:
-    BarraWin32(BarraStrumenti &barra, HWND genitore, int id, UINT dpi);
+    BarraWin32(BarraStrumenti &barra, const Nascita &nascita, UINT dpi);
     ~BarraWin32();
     BarraWin32(const BarraWin32 &) = delete;
 

@@ -55,6 +55,16 @@ void GuastoWindows(const char *chiamata) {
                  std::to_string(GetLastError()) + ")");
 }
 
+HWND Nascita::Crea(const wchar_t *classe, const std::wstring &testo, DWORD altroStile,
+                   DWORD esteso) const {
+    return Richiesto(CreateWindowExW(esteso, classe, testo.c_str(),
+                                     WS_CHILD | WS_CLIPSIBLINGS | stile | altroStile, dove.left,
+                                     dove.top, dove.right - dove.left, dove.bottom - dove.top,
+                                     genitore, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                     GetModuleHandleW(nullptr), nullptr),
+                     "CreateWindowEx");
+}
+
 UINT DpiDi(HWND finestra) {
     using Funzione = UINT(WINAPI *)(HWND);
     static const auto dpiFinestra = Cerca<Funzione>(L"user32.dll", "GetDpiForWindow");

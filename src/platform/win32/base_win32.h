@@ -31,6 +31,16 @@ T Richiesto(T risultato, const char *chiamata) {
     return risultato;
 }
 
+// What a child window is born with. Made as it is to be, it needs no further call.
+struct Nascita {
+    HWND genitore;
+    RECT dove;
+    DWORD stile; // shown, disabled, first of a group
+    int id;
+    HWND Crea(const wchar_t *classe, const std::wstring &testo, DWORD altroStile,
+              DWORD esteso = 0) const;
+};
+
 // DPI of the monitor a window stands on; of the system before there is a window.
 UINT DpiDi(HWND finestra);
 // Outer size of a window with this inner size.

@@ -108,12 +108,8 @@ void RegistraDisegno() {
     Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
 }
 
-HWND CreaDisegno(RiquadroDisegno &disegno, HWND genitore, int id) {
-    const HWND hwnd = Richiesto(CreateWindowExW(0, kClasse, L"Disegno della struttura",
-                                                WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, genitore,
-                                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                                GetModuleHandleW(nullptr), nullptr),
-                                "CreateWindowEx(TelvaDisegno)");
+HWND CreaDisegno(RiquadroDisegno &disegno, const Nascita &nascita) {
+    const HWND hwnd = nascita.Crea(kClasse, L"Disegno della struttura", 0);
     SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&disegno));
     return hwnd;
 }

@@ -7,7 +7,7 @@
 namespace telva {
 
 void RegistraDisegno();
-HWND CreaDisegno(RiquadroDisegno &disegno, HWND genitore, int id);
+HWND CreaDisegno(RiquadroDisegno &disegno, const Nascita &nascita);
 // Shows a new picture at once; MostraElastici at the next painting.
 void MostraImmagine(HWND disegno);
 void MostraElastici(HWND disegno);

@@ -79,7 +79,7 @@ void FinestraWin32::CreaFont() {
 void FinestraWin32::AggiornaFont(Controllo &c, HWND h) {
     const bool piccolo = c.TipoControllo() == Tipo::Etichetta &&
                          static_cast<Etichetta &>(c).stile == StileEtichetta::Pedice;
-    SendMessageW(h, WM_SETFONT, reinterpret_cast<WPARAM>(piccolo ? fontPiccolo_ : font_), TRUE);
+    SendMessageW(h, WM_SETFONT, reinterpret_cast<WPARAM>(piccolo ? fontPiccolo_ : font_), creata_);
 }
 
 void FinestraWin32::CreaSuggerimenti() {
@@ -91,51 +91,36 @@ void FinestraWin32::CreaSuggerimenti() {
                  MulDiv(600, static_cast<int>(modulo_.dpi), 96));
 }
 
-HWND FinestraWin32::CreaNativo(const wchar_t *classe, const std::string &testo, DWORD stile,
-                               DWORD esteso, int id) {
-    return Richiesto(CreateWindowExW(esteso, classe, ALargo(testo).c_str(),
-                                     WS_CHILD | WS_CLIPSIBLINGS | stile, 0, 0, 0, 0, hwnd_,
-                                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                     GetModuleHandleW(nullptr), nullptr),
-                     "CreateWindowEx");
-}
-
-HWND FinestraWin32::CreaControllo(Controllo &c, int id) {
+HWND FinestraWin32::CreaControllo(Controllo &c, const Nascita &nascita) {
+    const std::wstring testo = ALargo(TestoDi(c));
     switch (c.TipoControllo()) {
     case Tipo::Etichetta: {
-        auto &e = static_cast<Etichetta &>(c);
-        if (e.stile == StileEtichetta::Riassunto)
-            return CreaRiassunto(hwnd_, id, ALargo(e.Caption()));
-        return CreaNativo(L"STATIC", e.Caption, StileEtichettaNativo(e), 0, id);
+        const auto &e = static_cast<Etichetta &>(c);
+        if (e.stile == StileEtichetta::Riassunto) return CreaRiassunto(nascita, testo);
+        return nascita.Crea(L"STATIC", testo, StileEtichettaNativo(e));
     }
     case Tipo::Cornice: {
-        auto &f = static_cast<Cornice &>(c);
-        if (!f.bordo) return CreaNativo(kClasseCornice, "", 0, WS_EX_TRANSPARENT, id);
-        return CreaNativo(L"BUTTON", f.Caption, BS_GROUPBOX, WS_EX_TRANSPARENT, id);
+        if (!static_cast<Cornice &>(c).bordo)
+            return nascita.Crea(kClasseCornice, L"", 0, WS_EX_TRANSPARENT);
+        return nascita.Crea(L"BUTTON", testo, BS_GROUPBOX, WS_EX_TRANSPARENT);
     }
     case Tipo::CasellaTesto: {
-        const HWND h = CreaNativo(L"EDIT", static_cast<CasellaTesto &>(c).Text,
-                                  WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE, id);
+        const HWND h = nascita.Crea(L"EDIT", testo, WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE);
         SendMessageW(h, EM_SETLIMITTEXT, 0, 0);
         return h;
     }
-    case Tipo::CasellaSpunta:
-        return CreaNativo(L"BUTTON", static_cast<CasellaSpunta &>(c).Caption,
-                          WS_TABSTOP | BS_AUTOCHECKBOX, 0, id);
+    case Tipo::CasellaSpunta: return nascita.Crea(L"BUTTON", testo, WS_TABSTOP | BS_AUTOCHECKBOX);
     case Tipo::BottoneOpzione:
-        return CreaNativo(L"BUTTON", static_cast<BottoneOpzione &>(c).Caption,
-                          WS_TABSTOP | BS_AUTORADIOBUTTON, 0, id);
-    case Tipo::Pulsante:
-        return CreaNativo(L"BUTTON", static_cast<Pulsante &>(c).Caption, WS_TABSTOP | BS_PUSHBUTTON,
-                          0, id);
+        return nascita.Crea(L"BUTTON", testo, BS_AUTORADIOBUTTON); // Tab enters at the chosen one
+    case Tipo::Pulsante: return nascita.Crea(L"BUTTON", testo, WS_TABSTOP | BS_PUSHBUTTON);
     case Tipo::Campione: {
         auto &campione = static_cast<Campione &>(c);
-        if (!campione.Click) return CreaNativo(L"STATIC", "", SS_OWNERDRAW, 0, id);
-        return CreaNativo(L"BUTTON", campione.didascalia, WS_TABSTOP | BS_OWNERDRAW, 0, id);
+        if (!campione.Click) return nascita.Crea(L"STATIC", L"", SS_OWNERDRAW);
+        return nascita.Crea(L"BUTTON", ALargo(campione.didascalia), WS_TABSTOP | BS_OWNERDRAW);
     }
-    case Tipo::Disegno: return CreaDisegno(static_cast<RiquadroDisegno &>(c), hwnd_, id);
+    case Tipo::Disegno: return CreaDisegno(static_cast<RiquadroDisegno &>(c), nascita);
     case Tipo::BarraStrumenti:
-        barra_ = std::make_unique<BarraWin32>(static_cast<BarraStrumenti &>(c), hwnd_, id,
+        barra_ = std::make_unique<BarraWin32>(static_cast<BarraStrumenti &>(c), nascita,
                                               static_cast<UINT>(modulo_.dpi));
         return barra_->Maniglia();
     default: return nullptr;
@@ -144,26 +129,26 @@ HWND FinestraWin32::CreaControllo(Controllo &c, int id) {
 
 void FinestraWin32::CreaControlli() {
     CreaSuggerimenti();
+    CreaFont();
     const Controllo *precedente = nullptr;
     int id = 100;
     for (Controllo *c : modulo_.controlli) {
-        const HWND h = CreaControllo(*c, id++);
+        const DWORD stile = (c->VisibileDavvero() ? WS_VISIBLE : 0) |
+                            (c->AbilitatoDavvero() ? 0 : WS_DISABLED) |
+                            (InizioGruppo(*c, precedente) ? WS_GROUP : 0);
+        const HWND h = CreaControllo(*c, {hwnd_, RettangoloPixel(*c), stile, id++});
         if (!h) continue;
         nativi_[c] = h;
         Richiesto(SetPropW(h, L"TelvaControllo", c), "SetProp");
         AssegnaNome(h, c->NomeControllo());
-        if (InizioGruppo(*c, precedente))
-            SetWindowLongPtrW(h, GWL_STYLE, GetWindowLongPtrW(h, GWL_STYLE) | WS_GROUP);
+        AggiornaFont(*c, h);
         precedente = c;
         c->pari = this;
-        for (const Campo campo : {Campo::Posizione, Campo::Visibile, Campo::Abilitato,
-                                  Campo::Spunta, Campo::Suggerimento})
-            Cambia(*c, campo);
+        CambiaSpunta(*c);
+        CambiaSuggerimento(*c);
     }
     for (VoceMenu *voce : modulo_.voci) voce->pari = this;
     modulo_.pari = this;
-    CreaFont();
-    ApplicaPosizioni();
 }
 
 } // namespace telva

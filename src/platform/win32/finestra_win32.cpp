@@ -35,6 +35,8 @@ void Imposta(HWND h, LONG_PTR stile, bool mostra) {
     SetWindowLongPtrW(h, GWL_STYLE, mostra ? attuale | stile : attuale & ~stile);
 }
 
+} // namespace
+
 std::string TestoDi(const Controllo &c) {
     switch (c.TipoControllo()) {
     case Tipo::Etichetta: return static_cast<const Etichetta &>(c).Caption;
@@ -47,8 +49,6 @@ std::string TestoDi(const Controllo &c) {
     default: return {};
     }
 }
-
-} // namespace
 
 HCURSOR Cursore(Puntatore puntatore) {
     const wchar_t *nome = puntatore == Puntatore::Croce          ? IDC_CROSS
@@ -77,7 +77,8 @@ FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria) : modulo_(modulo
     CreaControlli();
     creata_ = true;
     ApplicaMisuraFinestra();
-    if (principale) RientraNelloSchermo();
+    RECT r{};
+    if (principale && GetWindowRect(hwnd_, &r)) Sposta(r.left, r.top);
     if (modulo.dpi != dpiPrima) Ridimensionata(SIZE_RESTORED, true);
 }
 
@@ -207,6 +208,7 @@ void FinestraWin32::CambiaSpunta(Controllo &c) {
         spunta = static_cast<BottoneOpzione &>(c).Value;
     else
         return;
+    if (!creata_ && !spunta) return; // it is born so
     SendMessageW(Nativo(c), BM_SETCHECK, spunta ? BST_CHECKED : BST_UNCHECKED, 0);
     // Tab enters a group at the chosen button.
     if (c.TipoControllo() == Tipo::BottoneOpzione) Imposta(Nativo(c), WS_TABSTOP, spunta);
@@ -336,13 +338,26 @@ void FinestraWin32::ApplicaMisuraFinestra() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// A first window must not reach below the taskbar of a small screen.
-void FinestraWin32::RientraNelloSchermo() {
+// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone.
+void FinestraWin32::Sposta(LONG left, LONG top) {
     RECT r{};
     if (!GetWindowRect(hwnd_, &r)) return;
+    OffsetRect(&r, left - r.left, top - r.top);
     PortaNelloSchermo(r);
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+PostoFinestra FinestraWin32::Posto() const {
+    WINDOWPLACEMENT p{};
+    p.length = sizeof p;
+    GetWindowPlacement(hwnd_, &p);
+    RECT r = p.rcNormalPosition;
+    const bool ridotta = IsIconic(hwnd_) != 0;
+    bool grande = IsZoomed(hwnd_) != 0;
+    if (!ridotta && !grande) GetWindowRect(hwnd_, &r);
+    if (ridotta) grande = (p.flags & WPF_RESTORETOMAXIMIZED) != 0;
+    return {r.left, r.top, larghezzaNormale_, altezzaNormale_, grande};
 }
 
 // ---- events -----------------------------------------------------------------------------------
@@ -400,6 +415,10 @@ void FinestraWin32::Ridimensionata(WPARAM modo, bool forza) {
     const RECT r = RettangoloVisibile(hwnd_);
     const double larghezza = ATwip(r.right - r.left, modulo_.dpi);
     const double altezza = ATwip(r.bottom - r.top, modulo_.dpi);
+    if (modo == SIZE_RESTORED && !IsZoomed(hwnd_)) {
+        larghezzaNormale_ = larghezza;
+        altezzaNormale_ = altezza;
+    }
     // Shown or restored at the size it had: everything stands where it is.
     if (!forza && modulo_.Width == larghezza && modulo_.Height == altezza) return;
     modulo_.Width.Accogli(larghezza);

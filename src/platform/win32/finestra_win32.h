@@ -6,6 +6,7 @@
 #include "platform/win32/barra_win32.h"
 #include "platform/win32/base_win32.h"
 #include "platform/win32/menu_win32.h"
+#include "platform/win32/posto_win32.h"
 
 #include <functional>
 #include <memory>
@@ -22,6 +23,10 @@ class FinestraWin32 : public Pari {
     FinestraWin32(const FinestraWin32 &) = delete;
 
     void Mostra(int comando);
+    // Brings the outer corner there, or as near as the screen allows.
+    void Sposta(LONG left, LONG top);
+    // Where the window stands, or will stand once it is neither minimised nor maximised.
+    PostoFinestra Posto() const;
     // Gives back what AssegnaNome has taken from the system.
     void TogliNomi() const;
     HWND Maniglia() const { return hwnd_; }
@@ -45,9 +50,7 @@ class FinestraWin32 : public Pari {
 
     // Making (finestra_crea_win32.cpp)
     void CreaControlli();
-    HWND CreaControllo(Controllo &c, int id);
-    HWND CreaNativo(const wchar_t *classe, const std::string &testo, DWORD stile, DWORD esteso,
-                    int id);
+    HWND CreaControllo(Controllo &c, const Nascita &nascita);
     void CreaFont();
     void CreaSuggerimenti();
     void AggiornaFont(Controllo &c, HWND h);
@@ -65,7 +68,6 @@ class FinestraWin32 : public Pari {
     void LasciaFuoco(HWND h);
     void ApplicaPosizioni();
     void ApplicaMisuraFinestra();
-    void RientraNelloSchermo();
     RECT RettangoloPixel(const Controllo &c) const;
     std::vector<Controllo *> ConFigli(Controllo &c) const;
 
@@ -93,10 +95,13 @@ class FinestraWin32 : public Pari {
     std::unique_ptr<BarraWin32> barra_;
     RaccoltaRotella rotella_;
     HWND ultimoFuoco_ = nullptr;
+    double larghezzaNormale_ = 0, altezzaNormale_ = 0; // neither minimised nor maximised, twips
     bool escPremuto_ = false;
     bool creata_ = false;
 };
 
+// What stands in the window for a control: its caption or its text.
+std::string TestoDi(const Controllo &c);
 // Pointer shape of the window system.
 HCURSOR Cursore(Puntatore puntatore);
 

@@ -2,7 +2,9 @@
 #include "main.h"
 #include "platform/messaggi.h"
 #include "platform/win32/finestra_win32.h"
+#include "platform/win32/posto_win32.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -12,11 +14,17 @@ namespace {
 
 class Sistema : public SistemaFinestre {
   public:
-    double DpiIniziale() override { return DpiDi(nullptr); }
+    void Prepara(Modulo &modulo) override {
+        modulo.dpi = DpiDi(nullptr);
+        if (!(posto_ = LeggiPosto())) return;
+        modulo.Width = std::max(posto_->larghezza, modulo.larghezzaMinima);
+        modulo.Height = std::max(posto_->altezza, modulo.altezzaMinima);
+    }
 
     void Mostra(Modulo &modulo) override {
         principale_ = std::make_unique<FinestraWin32>(modulo, nullptr);
-        principale_->Mostra(SW_SHOWDEFAULT);
+        if (posto_) principale_->Sposta(posto_->left, posto_->top);
+        principale_->Mostra(posto_ && posto_->massimizzata ? SW_SHOWMAXIMIZED : SW_SHOWDEFAULT);
     }
 
     void MostraModale(Modulo &modulo) override {
@@ -62,12 +70,15 @@ class Sistema : public SistemaFinestre {
     // What outlives a process that ends at once.
     void Congeda() const {
         for (const FinestraWin32 *dialogo : dialoghi_) dialogo->TogliNomi();
-        if (principale_) principale_->TogliNomi();
+        if (!principale_) return;
+        principale_->TogliNomi();
+        ScriviPosto(principale_->Posto());
     }
 
     bool HaFinestra() const { return principale_ != nullptr; }
 
   private:
+    std::optional<PostoFinestra> posto_;
     std::unique_ptr<FinestraWin32> principale_;
     std::vector<FinestraWin32 *> dialoghi_;
 };

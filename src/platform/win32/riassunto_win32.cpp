@@ -82,12 +82,8 @@ void RegistraRiassunto() {
     Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
 }
 
-HWND CreaRiassunto(HWND genitore, int id, const std::wstring &testo) {
-    return Richiesto(CreateWindowExW(WS_EX_STATICEDGE, kClasse, testo.c_str(),
-                                     WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP, 0, 0, 0, 0, genitore,
-                                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                     GetModuleHandleW(nullptr), nullptr),
-                     "CreateWindowEx(TelvaRiassunto)");
+HWND CreaRiassunto(const Nascita &nascita, const std::wstring &testo) {
+    return nascita.Crea(kClasse, testo, WS_TABSTOP, WS_EX_STATICEDGE);
 }
 
 bool RiassuntoTagliato(HWND hwnd) {

@@ -6,7 +6,7 @@
 namespace telva {
 
 void RegistraRiassunto();
-HWND CreaRiassunto(HWND genitore, int id, const std::wstring &testo);
+HWND CreaRiassunto(const Nascita &nascita, const std::wstring &testo);
 // True when the whole text does not fit into the field.
 bool RiassuntoTagliato(HWND riassunto);
 
