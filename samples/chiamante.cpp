@@ -15,13 +15,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The jobs folder named by the installation; quotes around it are allowed.
+// The jobs folder named by the installation, in Windows-1252; quotes around it are allowed.
 fs::path CartellaLavori(const fs::path &radice) {
     std::ifstream file(radice / "impostazioni" / "dirlav");
     std::string riga;
     std::getline(file, riga);
     std::erase_if(riga, [](char c) { return c == '"' || c == '\r'; });
-    return fs::path(riga);
+    std::wstring largo(riga.size(), L'\0');
+    const int byte = static_cast<int>(riga.size());
+    MultiByteToWideChar(1252, 0, riga.data(), byte, largo.data(), byte);
+    return largo;
 }
 
 // 1,1-3,7 means 1 2 3 7: ranges are opened, repeated numbers count once.

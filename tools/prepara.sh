@@ -1,12 +1,13 @@
 #!/bin/bash
-# Installs the packages of pacchetti.txt that this machine lacks. Silent when there is nothing to do.
+# Installs the packages of pacchetti.txt (or of the lists named) that this machine lacks. Silent when
+# there is nothing to do.
 set -eu
 cd "$(dirname "$0")"
 mancano=()
 while read -r pacchetto; do
     case $pacchetto in '' | '#'*) continue ;; esac
     dpkg-query -W -f '${Status}' "$pacchetto" 2>/dev/null | grep -q 'ok installed' || mancano+=("$pacchetto")
-done <pacchetti.txt
+done < <(cat "${@:-pacchetti.txt}")
 [ ${#mancano[@]} -gt 0 ] || exit 0
 echo "Installing: ${mancano[*]}"
 sudo=''

@@ -11,6 +11,11 @@
 #include "ui/controlli/FormTelva.h"
 
 namespace telva {
+namespace {
+
+std::string FileUscita() { return DirLavoro + "\\TelvaOut.txt"; }
+
+} // namespace
 
 std::string StrSelNodi, StrSelAste, StrSelGusci, StrSelElCont, StrSelPareti;
 
@@ -26,6 +31,7 @@ std::string &StrSel(int tipo) {
 }
 
 void LeggiIngresso(std::string &sel) {
+    TogliProvvisorio(FileUscita());
     FileTesto file;
     TitoloIn.clear();
     if (!file.Apri(DirLavoro + "\\TelvaIn.txt")) {
@@ -45,8 +51,7 @@ void LeggiIngresso(std::string &sel) {
 
 void ScriviUscita() {
     const std::string testo(Rifila(FormTelva.StringaSel.Caption()));
-    if (!ScriviFile(DirLavoro + "\\TelvaOut.txt",
-                    AWindows1252(testo.empty() ? " " : testo) + "\r\n"))
+    if (!ScriviFile(FileUscita(), AWindows1252(testo.empty() ? " " : testo) + "\r\n"))
         MostraMessaggio(Messaggi[6], Icona::Critica, "Problema");
 }
 

@@ -16,6 +16,9 @@ bool LeggiFile(const std::string &percorso, std::string &contenuto);
 // stood in the file before is then still there, and no temporary stays behind.
 bool ScriviFile(const std::string &percorso, std::string_view contenuto);
 
+// Removes the temporary of a ScriviFile that was killed in its last moment, if there is one.
+void TogliProvvisorio(const std::string &percorso);
+
 // True when the path names an existing file (not a folder).
 bool EsisteFile(const std::string &percorso);
 

@@ -1,5 +1,8 @@
 #pragma once
-// Faults of the file system on demand, for the native tests.
+// Faults of the file system on demand, and files in memory, for the native tests.
+
+#include <map>
+#include <string>
 
 namespace telva {
 
@@ -9,5 +12,9 @@ struct GuastiScrittura {
 };
 
 GuastiScrittura &GuastoScrittura();
+
+// Content by whole path. While there are such files, the disk is neither read nor written.
+using FileInMemoria = std::map<std::string, std::string>;
+FileInMemoria *&FileFinti();
 
 } // namespace telva

@@ -23,7 +23,7 @@ double FuoriPortata(std::string_view numero) {
         trovata = trovata || c != '0';
         if (punto ? !trovata : trovata) grandezza += punto ? -1 : 1;
     }
-    std::int64_t esponente = 0;
+    std::int32_t esponente = 0;
     if (e < numero.size()) {
         std::string_view cifre = numero.substr(e + 1);
         const bool negativo = cifre.starts_with('-');

@@ -24,18 +24,16 @@ struct Riquadro {
     }
 };
 
-std::array<bool, kNodi> nodoDentro;
+Tabella<bool, kNodi> nodoDentro{"NomeNodo"};
 
-bool Dentro(int nodo) {
-    if (nodo < 0 || nodo >= kNodi) GuastoIndice("NomeNodo", nodo, kNodi - 1);
-    return nodoDentro[static_cast<std::size_t>(nodo)];
+bool AstaDentro(int b) {
+    return AttAsta[b] == 1 && nodoDentro[NodoIAsta[b]] && nodoDentro[NodoJAsta[b]];
 }
-bool AstaDentro(int b) { return AttAsta[b] == 1 && Dentro(NodoIAsta[b]) && Dentro(NodoJAsta[b]); }
 
 bool GuscioDentro(int s) {
     const auto &n = NodiGuscio[s];
-    return AttGuscio[s] == 1 && Dentro(n[0]) && Dentro(n[1]) && Dentro(n[2]) &&
-           (n[3] < 0 || Dentro(n[3]));
+    return AttGuscio[s] == 1 && nodoDentro[n[0]] && nodoDentro[n[1]] && nodoDentro[n[2]] &&
+           (n[3] < 0 || nodoDentro[n[3]]);
 }
 
 bool ElContDentro(int k) {
@@ -55,11 +53,10 @@ void Segna(std::int16_t *flag, int numero, Prova prova) {
 
 void SelezionaFinestra(double left, double top, double width, double height) {
     const Riquadro r{left, top, left + width, top - height, std::abs(width), std::abs(height)};
-    for (int i = 0; i < kNodi; ++i)
-        nodoDentro[static_cast<std::size_t>(i)] = r.Contiene(XNodo(i), YNodo(i));
+    for (int i = 0; i < kNodi; ++i) nodoDentro[i] = r.Contiene(XNodo(i), YNodo(i));
     switch (FormTelva.TipoElemento()) {
     case kNodiTipo:
-        Segna(SelNodo.Dati(), NumNodi, [](int i) { return AttNodo[i] == 1 && Dentro(i); });
+        Segna(SelNodo.Dati(), NumNodi, [](int i) { return AttNodo[i] == 1 && nodoDentro[i]; });
         break;
     case kAsteTipo: Segna(SelAsta.Dati(), NumAste, AstaDentro); break;
     case kGusciTipo: Segna(SelGuscio.Dati(), NumGusci, GuscioDentro); break;

@@ -179,10 +179,11 @@ void InizioTrascina(double x, double y) {
 void Trascina(double x, double y) {
     if (!trascina.attivo) return;
     const Segmento &linea = Disegno().LineSposta;
-    const double unita = Disegno().UnitaPerPixel();
+    // Whole pixels, each way by its own scale: they differ while an old scale stays in a new box.
+    const auto intero = [](double d, double scala) { return std::round(d * scala) / scala; };
     const double dx = x - linea.X1 - (Disegno().ScaleLeft - trascina.scalaSinistra);
     const double dy = y - linea.Y1 - (Disegno().ScaleTop - trascina.scalaAlto);
-    const double px = std::round(dx / unita) * unita, py = std::round(dy / unita) * unita;
+    const double px = intero(dx, Disegno().ScalaX()), py = intero(dy, Disegno().ScalaY());
     const FinestraDisegno prima = FinestraZoom;
     if (std::abs(px) > kSoglia || std::abs(py) > kSoglia || ZoomImpostato())
         SpostaVista(trascina.finestra, px, py);

@@ -41,6 +41,12 @@ void Ridisegna_SuInvio(int tasto) {
     if (tasto == kTastoInvio) Ridis_Click();
 }
 
+// "Tutto": like every other command of the view it is seen at once.
+void IntervalloIntero(std::uint8_t asse) {
+    AggiornaIntervalli(asse);
+    Ridis_Click();
+}
+
 void SpostaIn(double scarto) {
     for (Controllo *c : {static_cast<Controllo *>(&FormTelva.Disegno),
                          static_cast<Controllo *>(&FormTelva.FrameInput),
@@ -205,8 +211,8 @@ void Form_Resize() {
         f.Label2[k].Top = f.StringaSel.Top + 100;
         const double left = w - 2035 + k * 632;
         f.Label1[k].Left = left;
-        f.Label2[k].Left = left + 125;
-        f.Angolo[k].Left = left + 230;
+        f.Label2[k].Left = left + 117;
+        f.Angolo[k].Left = left + 212;
     }
     f.Toolbar1.Width = w - 180;
     f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;
@@ -223,9 +229,9 @@ void CollegaFormTelva() {
     for (auto *campi : {&f.IntX, &f.IntY, &f.IntZ})
         for (CasellaTesto &casella : *campi) casella.KeyDown = Ridisegna_SuInvio;
     for (CasellaTesto &casella : f.Angolo) casella.KeyDown = Ridisegna_SuInvio;
-    f.TuttoX.Click = [] { AggiornaIntervalli(1); };
-    f.TuttoY.Click = [] { AggiornaIntervalli(2); };
-    f.TuttoZ.Click = [] { AggiornaIntervalli(3); };
+    f.TuttoX.Click = [] { IntervalloIntero(1); };
+    f.TuttoY.Click = [] { IntervalloIntero(2); };
+    f.TuttoZ.Click = [] { IntervalloIntero(3); };
     f.Risposta.KeyDown = [](int tasto) {
         if (tasto == kTastoInvio) EseguiRisposta();
     };

@@ -33,21 +33,15 @@ struct Intervallo {
     bool Comprende(double valore) const { return valore >= minimo && valore <= massimo; }
 };
 
-std::array<bool, kNodi> nodoDentro;
+Tabella<bool, kNodi> nodoDentro{"NomeNodo"};
 
 void CalcolaNodiDentro() {
     const Intervallo x(FormTelva.IntX), y(FormTelva.IntY), z(FormTelva.IntZ);
     // Bars may name a node that the file does not hold: it stands at point 0, as everywhere.
     for (int i = 0; i < kNodi; ++i) {
         const int p = PuntoNodo[i];
-        nodoDentro[static_cast<std::size_t>(i)] =
-            x.Comprende(PuntoX[p]) && y.Comprende(PuntoY[p]) && z.Comprende(PuntoZ[p]);
+        nodoDentro[i] = x.Comprende(PuntoX[p]) && y.Comprende(PuntoY[p]) && z.Comprende(PuntoZ[p]);
     }
-}
-
-bool Dentro(int nodo) {
-    if (nodo < 0 || nodo >= kNodi) GuastoIndice("NomeNodo", nodo, kNodi - 1);
-    return nodoDentro[static_cast<std::size_t>(nodo)];
 }
 
 struct Filtri {
@@ -146,13 +140,14 @@ void CalcolaAttivi() {
     const Filtri filtri;
     const bool nodi = FormTelva.NodiAtt.Value, aste = FormTelva.AsteAtt.Value,
                gusci = FormTelva.GusciAtt.Value;
-    for (int i = 0; i < NumNodi; ++i) AttNodo[i] = filtri.Flag(Dentro(i), nodi, SelNodo[i]);
+    for (int i = 0; i < NumNodi; ++i) AttNodo[i] = filtri.Flag(nodoDentro[i], nodi, SelNodo[i]);
     for (int b = 0; b < NumAste; ++b)
-        AttAsta[b] = filtri.Flag(Dentro(NodoIAsta[b]) && Dentro(NodoJAsta[b]), aste, SelAsta[b]);
+        AttAsta[b] =
+            filtri.Flag(nodoDentro[NodoIAsta[b]] && nodoDentro[NodoJAsta[b]], aste, SelAsta[b]);
     for (int s = 0; s < NumGusci; ++s) {
         bool dentro = true;
         for (int c = 0; c < NumeroAngoli(s); ++c)
-            dentro = dentro && Dentro(NodiGuscio[s][static_cast<std::size_t>(c)]);
+            dentro = dentro && nodoDentro[NodiGuscio[s][static_cast<std::size_t>(c)]];
         AttGuscio[s] = filtri.Flag(dentro, gusci, SelGuscio[s]);
     }
 }

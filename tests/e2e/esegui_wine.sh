@@ -28,7 +28,7 @@ xvfb='' comando='' appoggio=$(mktemp -d) || muori 'no temporary folder'
 exec 9>"$prefisso.lock" || muori "cannot write $prefisso.lock"
 flock 9 || muori "cannot lock $prefisso.lock"
 
-export WINEPREFIX=$prefisso WINEARCH=win64 WINEDEBUG=-all
+export WINEPREFIX=$prefisso WINEARCH=${WINEARCH:-win64} WINEDEBUG=-all
 # No .NET, no browser, and no menu entries in the home folder of whoever runs the tests.
 export WINEDLLOVERRIDES='mscoree,mshtml=d;winemenubuilder.exe=d'
 

@@ -139,7 +139,7 @@ SCENARIO(spunte_invio_ed_esc) {
                                       "clic ElSelez", "clic ElNonSelez", "/Z a"})
         s.Fai(comando + "; diversa; " + comando + "; uguale");
     s.Fai("Angolo(2):=45; Invio; diversa; Angolo(2):=0; Invio; uguale");
-    s.Fai("IntZ(1):=299; Invio; vede !20; clic TuttoZ; IntZ(1)=450; Ctrl+R; uguale");
+    s.Fai("IntZ(1):=299; Invio; vede !20; clic TuttoZ; IntZ(1)=450; uguale");
     s.Fai("/Z v; mostra !LabCoord; punta 20; Ctrl+Z; s=Zoom; Esc; s=; LabCoord=;"
           "/Z v; mostra LabCoord; punta 1; LabCoord=0, 0, 0 [N1]");
     for (const std::string dove : {"Risposta", "Angolo(0)", "IntX(1)", "NodiAtt", "OptElem(1)",

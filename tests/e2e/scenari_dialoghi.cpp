@@ -19,6 +19,30 @@ Ambiente Copia(Ambiente amb) {
     return amb;
 }
 
+// What keeps a file from being opened: it is gone, a folder, in another program's hands, or may
+// only be read.
+enum Ostacolo { kManca, kCartella, kChiuso, kSolaLettura };
+class Impedito {
+  public:
+    Impedito(fs::path file, Ostacolo modo) : file_(std::move(file)) {
+        if (modo == kManca || modo == kCartella) fs::remove(file_);
+        if (modo == kCartella) fs::create_directory(file_);
+        if (modo == kChiuso)
+            preso_ =
+                CreateFileW(file_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        if (modo == kSolaLettura) SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+    void Libera() const {
+        if (preso_) CloseHandle(preso_);
+        SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (fs::is_directory(file_)) fs::remove(file_);
+    }
+
+  private:
+    fs::path file_;
+    HANDLE preso_ = nullptr;
+};
+
 HWND Apri(Sessione &s, bool trappola) {
     s.Fai(trappola ? "/Z 4" : "/Z p");
     return s.p.Dialogo(trappola ? "Opzioni" : "Opzioni di rappresentazione");
@@ -164,17 +188,43 @@ SCENARIO(riquadri_di_avvio) {
          "Versione 3.8\n",
          {"Attenzione|Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'|"
           "errore"}}};
-    for (const auto &c : casi) {
+    for (std::size_t n = 0; n < 3 * std::size(casi); ++n) {
+        auto c = casi[n / 3];
+        const auto modo = static_cast<Ostacolo>(n % 3);
+        if (modo != kManca && !c.contenuto.empty()) continue;
         ScriviIngresso(LavoroPiccolo(mio), "Prova", "", 0);
         const fs::path file = lavoro / fs::path(Largo(c.file)), salvo = file.wstring() + L".salvo";
-        fs::rename(file, salvo);
+        fs::copy_file(file, salvo);
+        Impedito impedito(file, modo);
+        if (modo == kChiuso && c.file == Utf8(font))
+            c.riquadri = {"Problema|Errore in lettura del file " + Utf8(font) + " !|errore"};
         if (!c.contenuto.empty()) ScriviFile(file, c.contenuto);
         Programma p(mio.telva, mio.Argomento("LAVORO=prova1|"));
         for (const auto &atteso : c.riquadri) UGUALE(Riquadri(p), atteso);
         if (!c.contenuto.starts_with("Versione")) p.Principale(), p.Premi("Ctrl+E");
         UGUALE(p.AttendiFine(), 0U);
         VERIFICA(!LeggiByte(lavoro / "TelvaOut.txt"));
+        impedito.Libera();
         fs::rename(salvo, file);
+    }
+}
+
+SCENARIO(uscita_impossibile) {
+    for (const Ostacolo modo : {kManca, kCartella, kChiuso, kSolaLettura}) {
+        Sessione s(amb, 1, "9,14");
+        const auto file = s.lavoro / "TelvaOut.txt";
+        ScriviFile(file, "8\n");
+        Impedito impedito(file, modo);
+        s.Fai("/F a");
+        if (modo != kManca)
+            UGUALE(Riquadri(s.p), "Problema| Non è possibile scrivere il file di uscita |errore");
+        UGUALE(s.p.AttendiFine(), 0U);
+        impedito.Libera();
+        UGUALE(LeggiByte(file).value_or("-"), modo == kManca      ? "9,14\r\n"
+                                              : modo == kCartella ? "-"
+                                                                  : "8\r\n");
+        for (const auto &voce : fs::directory_iterator(s.lavoro))
+            VERIFICA(voce.path().wstring().find(L".~") == std::wstring::npos);
     }
 }
 

@@ -1,13 +1,6 @@
 // Typed lists: the parser, what is refused, which elements a list marks.
-#include "model/struttura.h"
-#include "model/tabelle_cond.h"
 #include "selection/schede_sel.h"
-#include "selection/selezione.h"
 #include "sostegno/Banco.h"
-#include "startup/basCommon_cond.h"
-#include "ui/controlli/FormTelva.h"
-#include <map>
-#include <random>
 #include <sstream>
 
 namespace telva::prove {
@@ -45,53 +38,5 @@ TEST_F(Banco, RispostaPerProprietaETipo) {
         k4 =1-101 ! k0 =1-101 !E18 #0900000 k1 Aggiungi Nome =2,5-6 =1-20001 >2,5-6 !E18 =1,32768
         !E_Numero_fuori_dai_limiti_ammessi_(da_-32768_a_32767)_ >2,5-6 27 =9 >2,5-6 !)";
     Recita(messaggi, copione);
-}
-
-// One number of the list after the other against every element, as it is told.
-TEST_F(Banco, SegnaComeUnaPassataPerNumero) {
-    constexpr int kNumero = 12;
-    std::mt19937 caso(11);
-    const auto tira = [&](unsigned n) { return static_cast<std::int16_t>(caso() % n); };
-    std::int16_t *const flag[] = {SelNodo.Dati(), SelAsta.Dati(), SelGuscio.Dati(),
-                                  SelElCont.Dati(), SelGuscio.Dati()};
-    std::int16_t *const attivi[] = {AttNodo.Dati(), AttAsta.Dati(), AttGuscio.Dati()};
-    NumNodi = NumAste = NumGusci = NumElCont = kNumero;
-    NumSezioni = NumSpessori = 3; // card 4 has no material
-    for (int giro = 0; giro < 2000; ++giro) {
-        std::map<std::array<int, 3>, int> v; // by property, kind and element
-        for (int i = 0; i < kNumero; ++i) {
-            v[{3, 0, i}] = NomeNodo[i] = tira(5), v[{9, 0, i}] = VincoloNodo[i] = tira(5);
-            v[{3, 1, i}] = NomeAsta[i] = tira(5), v[{5, 1, i}] = SezioneAsta[i] = tira(5);
-            v[{7, 1, i}] = OrientAsta[i] = tira(5), v[{8, 1, i}] = SvincoloAsta[i] = tira(5);
-            v[{3, 2, i}] = NomeGuscio[i] = tira(5), v[{6, 2, i}] = SpessoreGuscio[i] = tira(5);
-            v[{2, 1, i}] = SezioneAsta[i] % 4 ? MatSezione[SezioneAsta[i] - 1] : 0;
-            v[{2, 2, i}] = SpessoreGuscio[i] % 4 ? MatSpessore[SpessoreGuscio[i] - 1] : 0;
-            NumeroElCont[i] = tira(5), NumAsteElCont[i] = tira(5);
-            for (int j = 0; j < 4; ++j) AsteElCont(i, j) = tira(kNumero);
-            for (auto *t : flag) t[i] = tira(2);
-            for (auto *t : attivi) t[i] = tira(8) > 0;
-        }
-        const int codice = "\2\3\5\6\7\10\11"[giro % 7], tipo = giro / 7 % 5, da = tira(5);
-        const bool continuo = tipo == kElContTipo, perNumero = continuo && codice == kNome;
-        const int t = continuo ? 1 : tipo, a = std::max(0, da + tira(4) - 1);
-        const std::string lista = std::to_string(da) + "-" + std::to_string(a);
-        const bool mai = !v.count({codice, t, 0}) || (continuo && codice == kSvincolo);
-        CodFunAttiva = static_cast<std::uint8_t>(tira(3));
-        FormTelva.OptElem[tipo].Seleziona();
-        std::vector<int> atteso(flag[tipo], flag[tipo] + kNumero);
-        for (int n = da; n <= a && !mai; ++n)
-            for (int k = 0; k < kNumero; ++k) {
-                bool preso = !perNumero || NumeroElCont[k] == n;
-                for (int j = 0; preso && j < (continuo ? NumAsteElCont[k] : 1); ++j) {
-                    const int i = continuo ? AsteElCont(k, j) : k;
-                    preso = attivi[t][i] == 1 && (perNumero || v[{codice, t, i}] == n);
-                }
-                if (preso) atteso[static_cast<std::size_t>(k)] = CodFunAttiva == kAggiungi;
-            }
-        ProprietaDi(static_cast<std::uint8_t>(codice))->seleziona(lista);
-        ASSERT_EQ(std::vector<int>(flag[tipo], flag[tipo] + kNumero), atteso)
-            << "property " << codice << " kind " << tipo << " list " << lista;
-        MatSezione[giro % 3] = tira(4), MatSpessore[giro % 3] = tira(4);
-    }
 }
 } // namespace telva::prove

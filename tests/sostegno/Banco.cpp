@@ -1,6 +1,7 @@
 #include "sostegno/Banco.h"
 
 #include "platform/archivio_prova.h"
+#include "platform/testo.h"
 #include "selection/schede_sel.h"
 #include "startup/avvio.h"
 #include "startup/direttori_cond.h"
@@ -29,8 +30,9 @@ std::string Barre(std::string percorso) {
 
 std::string CartellaNuova() {
     static std::atomic<int> numero{0};
-    const std::string nome =
-        "/tmp/telva_prova_" + std::to_string(::getpid()) + "_" + std::to_string(++numero);
+    std::string nome = Barre(fs::temp_directory_path().string()) + "/telva_prova_" +
+                       std::to_string(::getpid()) + "_" + std::to_string(++numero);
+    nome = Minuscole(nome); // as the program sees it
     fs::remove_all(nome);
     fs::create_directories(nome);
     return nome;

@@ -78,43 +78,6 @@ struct PuntatoreProva : Banco {
     float Y(int py) { return static_cast<float>(d.YDaPixel(py)); }
 };
 
-TEST_F(PuntatoreProva, OgniStatoEOgniTasto) {
-    // What brings the state, how it looks, how after a left click where nothing is.
-    std::istringstream casi(R"(|#0000000 >|#0000000
-        Aggiungi|#1400000 "Selezione_diretta|#1110001r
-        Aggiungi s0,0 Rimuovi s0,0|#2400000 >|#2110001r
-        Aggiungi s100,100 >5 s100,100|#1400000 >5,10|#1110001r
-        Aggiungi s50,50|#1110001r "Seleziona_per_finestra|#1400000 "Selezione_diretta >5,10
-        Aggiungi s50,50 w9000|#1110001r|#1400000 >5,10
-        Aggiungi s50,50 s50,90|#1100001 "Seleziona_per_finestra|#1110001r
-        Aggiungi s50,50 27|#0000000 "|#0000000
-        Aggiungi Finestra s-9,-9|#1110000r|#1100000 >1,1-2,4-5,10
-        Aggiungi Tutto Rimuovi s50,50|#2110001r|#2400000 >1,1-4,6-9
-        Aggiungi ZoomIn|#1400100 "Zoom|#1410100r
-        Aggiungi ZoomIn Trappola|#1400100 "Zoom|#1410100r
-        Aggiungi ZoomIn s50,50|#1410100r|#1400000 "Selezione_diretta @150,50,150,50
-        Aggiungi ZoomIn s50,50 s90,50|#1400100 "Zoom|#1410100r
-        Aggiungi SchSezione ZoomIn s50,50|#1510100r "Zoom|#1500000 "Zoom
-        ZoomIn s50,50|#0010100r|#0000000 "
-        ZoomIn s50,50 27|#0000000 "|#0000000
-        Aggiungi Sposta|#1400010 "Sposta|#1401010l
-        Aggiungi Sposta s140,120|#1401010l|#1400000 @190.7,-10,170,-30 "Selezione_diretta
-        Aggiungi Sposta s0,0 s0,0|#1401010l >1,1|#1400000 >1,1
-        Sposta s50,50 27|#0000000 "|#0000000)");
-    for (std::string riga; std::getline(casi >> std::ws, riga);) {
-        const auto a = riga.find('|'), b = riga.find('|', a + 1);
-        const std::string stato = " " + riga.substr(a + 1, b - a - 1) + " ";
-        Recita(messaggi,
-               "RimTutto 27 Ottimizza w15000 " + riga.substr(0, a) + stato + "d10,10" + stato);
-        if (!d.LineSposta.Visible) Recita(messaggi, "c20,20 u" + stato);
-        Recita(messaggi, "s150,150 " + riga.substr(b + 1));
-    }
-    Recita(messaggi, R"(ZoomIn s-9,110 s110,-9 @110,-9,110,-9 s50,50 b @110,-9,110,-9
-        c0,0 p t40,40 @110,-9,110,-9 c0,0 u t40,40 @110,-9,110,-9 c0,0 b t40,40 @0,0,0,0
-        m100,100 [100,_0,_100_[N5] m200.7,200 [200,_-1,_200_[N9] m50,50 [
-        VisCoord m100,100 [ )");
-}
-
 TEST_F(PuntatoreProva, AlPixel) {
     FormTelva.GusciAtt.Premi(); // hatches stand still in the picture
     for (int k = 0; k < 72; ++k) {

@@ -11,6 +11,8 @@
 namespace telva {
 namespace {
 
+constexpr const char *kProvvisorio = ".~"; // behind the name of the file
+
 std::string Locale(std::string percorso) {
     std::replace(percorso.begin(), percorso.end(), '\\', '/');
     return percorso;
@@ -55,13 +57,23 @@ GuastiScrittura &GuastoScrittura() {
     return guasti;
 }
 
+FileInMemoria *&FileFinti() {
+    static FileInMemoria *file = nullptr;
+    return file;
+}
+
 bool EsisteFile(const std::string &percorso) {
+    if (FileFinti()) return FileFinti()->contains(percorso);
     struct stat s {};
     return ::stat(Locale(percorso).c_str(), &s) == 0 && S_ISREG(s.st_mode);
 }
 
 bool LeggiFile(const std::string &percorso, std::string &contenuto) {
     contenuto.clear();
+    if (FileFinti()) {
+        if (EsisteFile(percorso)) contenuto = FileFinti()->at(percorso);
+        return EsisteFile(percorso);
+    }
     const int f = ::open(Locale(percorso).c_str(), O_RDONLY | O_CLOEXEC);
     if (f < 0) return false;
     struct stat s {};
@@ -80,9 +92,17 @@ bool LeggiFile(const std::string &percorso, std::string &contenuto) {
     return ok;
 }
 
+void TogliProvvisorio(const std::string &percorso) {
+    if (!FileFinti()) ::unlink((Locale(percorso) + kProvvisorio).c_str());
+}
+
 bool ScriviFile(const std::string &percorso, std::string_view contenuto) {
+    if (FileFinti()) {
+        FileFinti()->insert_or_assign(percorso, contenuto);
+        return true;
+    }
     const std::string file = Locale(percorso);
-    const std::string provvisorio = file + ".~" + std::to_string(::getpid());
+    const std::string provvisorio = file + kProvvisorio;
     if (EsisteFile(percorso) && ::access(file.c_str(), W_OK) != 0) return false;
     const int f = GuastoScrittura().nessunFileNuovo
                       ? -1

@@ -2,10 +2,32 @@
 #include "platform/archivio.h"
 #include "platform/win32/base_win32.h"
 
+#ifdef TELVA_PROVE
+#include "platform/archivio_prova.h"
+#endif
+
 #include <algorithm>
 
 namespace telva {
+
+#ifdef TELVA_PROVE
+GuastiScrittura &GuastoScrittura() {
+    static GuastiScrittura guasti;
+    return guasti;
+}
+#endif
+
 namespace {
+
+#ifdef TELVA_PROVE
+bool DiscoPieno() { return GuastoScrittura().scritturaPiena; }
+bool NessunFileNuovo() { return GuastoScrittura().nessunFileNuovo; }
+#else
+constexpr bool DiscoPieno() { return false; }
+constexpr bool NessunFileNuovo() { return false; }
+#endif
+
+constexpr const wchar_t *kProvvisorio = L".~"; // behind the name of the file
 
 class File {
   public:
@@ -26,7 +48,8 @@ class File {
         while (!byte.empty()) {
             const auto tratto = static_cast<DWORD>(std::min<std::size_t>(byte.size(), 1u << 20));
             DWORD scritti = 0;
-            if (!WriteFile(file_, byte.data(), tratto, &scritti, nullptr) || scritti == 0)
+            if (DiscoPieno() || !WriteFile(file_, byte.data(), tratto, &scritti, nullptr) ||
+                scritti == 0)
                 return false;
             byte.remove_prefix(scritti);
         }
@@ -78,14 +101,19 @@ bool LeggiFile(const std::string &percorso, std::string &contenuto) {
     return ok;
 }
 
+void TogliProvvisorio(const std::string &percorso) {
+    DeleteFileW((ALargo(percorso) + kProvvisorio).c_str());
+}
+
 bool ScriviFile(const std::string &percorso, std::string_view contenuto) {
     const std::wstring destinazione = ALargo(percorso);
     const DWORD attributi = GetFileAttributesW(destinazione.c_str());
     if (attributi != INVALID_FILE_ATTRIBUTES &&
         (attributi & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
         return false;
-    const std::wstring provvisorio = destinazione + L".~";
-    File file(provvisorio, GENERIC_WRITE | DELETE, 0, CREATE_ALWAYS);
+    const std::wstring provvisorio = destinazione + kProvvisorio;
+    File file(provvisorio, GENERIC_WRITE | DELETE, 0,
+              NessunFileNuovo() ? OPEN_EXISTING : CREATE_ALWAYS);
     if (!file.Aperto()) return ScriviSulPosto(percorso, contenuto);
     file.Passeggero(true);
     bool ok = file.Scrivi(contenuto) && FlushFileBuffers(file.Maniglia()) != 0;

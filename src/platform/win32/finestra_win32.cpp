@@ -529,7 +529,8 @@ void FinestraWin32::DisegnaCampione(const DRAWITEMSTRUCT &d) {
     const auto &campione = static_cast<const Campione &>(*c);
     RECT r = d.rcItem;
     if (!campione.Click) { // the frame around a swatch
-        FillRect(d.hDC, &r, GetSysColorBrush(campione.Marcato ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+        const int marcato = c->Enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT;
+        FillRect(d.hDC, &r, GetSysColorBrush(campione.Marcato ? marcato : COLOR_BTNFACE));
         return;
     }
     const bool spento = !c->Enabled;

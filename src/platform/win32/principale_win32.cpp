@@ -114,6 +114,7 @@ std::string Argomento() {
 
 int Esegui() {
     SetErrorMode(SEM_FAILCRITICALERRORS); // a missing disk is an error to report, not a system box
+    SetDllDirectoryW(L""); // no library out of the folder that a caller happens to stand in
     const INITCOMMONCONTROLSEX classi{sizeof classi, ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&classi);
     ImpostaMessaggi([](const std::string &testo, Icona icona, const std::string &titolo) {

@@ -8,29 +8,25 @@ namespace {
 
 constexpr double kRiga = 330;
 
-// A label and its box on one row of a frame `larghezza` wide.
+// A label and its box on one row of a frame; the boxes stand in one column.
 void Riga(Etichetta &etichetta, const char *testo, CasellaTesto &casella, double top,
-          double larghezza) {
+          double left = 180) {
+    constexpr double kColonna = 5340;
     etichetta.Caption = testo;
-    etichetta.Posiziona(180, top + 40, larghezza - 1300, 225);
-    casella.Posiziona(larghezza - 1080, top, 900, 300);
+    etichetta.Posiziona(left, top + 40, kColonna - left - 90, 225);
+    casella.Posiziona(kColonna, top, 900, 300);
 }
 
 void DisponiElementi(ModuloOpt &f) {
-    constexpr double kLarghezza = 9000;
     f.FrameElementi.Caption = "Elementi";
-    f.FrameElementi.Posiziona(120, 60, kLarghezza, 2400);
+    f.FrameElementi.Posiziona(120, 60, 9000, 2400);
     f.CheckSpGus.Caption = "Non disegnare i gusci sottili";
-    f.CheckSpGus.Posiziona(180, 285, 3300, 270);
-    f.LabelSpMinGus.Caption = "Spessore minimo [cm]:";
-    f.LabelSpMinGus.Posiziona(4600, 310, 2300, 225);
-    f.SpMinGus.Posiziona(kLarghezza - 1080, 270, 900, 300);
+    f.CheckSpGus.Posiziona(180, 285, 2900, 270);
+    Riga(f.LabelSpMinGus, "Spessore minimo [cm]:", f.SpMinGus, 270, 3150);
     Riga(f.LabelSpNonSel, "Spessore degli elementi non selezionati [pixel]:", f.SpNonSel,
-         270 + kRiga, kLarghezza);
-    Riga(f.LabelSpSel, "Spessore degli elementi selezionati [pixel]:", f.SpSel, 270 + 2 * kRiga,
-         kLarghezza);
-    Riga(f.LabelRaggio, "Raggio di rappresentazione del nodo [pixel]:", f.Raggio, 270 + 3 * kRiga,
-         kLarghezza);
+         270 + kRiga);
+    Riga(f.LabelSpSel, "Spessore degli elementi selezionati [pixel]:", f.SpSel, 270 + 2 * kRiga);
+    Riga(f.LabelRaggio, "Raggio di rappresentazione del nodo [pixel]:", f.Raggio, 270 + 3 * kRiga);
     f.EvColSel.Caption = "Cambia colore agli elementi selezionati";
     f.EvColSel.Posiziona(180, 1680, 8000, 270);
     f.EvColNonSel.Caption = "Cambia colore agli elementi non selezionati";
@@ -66,12 +62,10 @@ void DisponiParti(ModuloOpt &f) {
 }
 
 void DisponiTesti(ModuloOpt &f) {
-    constexpr double kLarghezza = 9000;
-    Riga(f.LabelBaseTxt, "Base testo [unità disegno]:", f.BaseTxt, 2010, kLarghezza);
-    Riga(f.LabelAltezzaTxt, "Altezza testo [unità disegno]:", f.AltezzaTxt, 2010 + kRiga,
-         kLarghezza);
+    Riga(f.LabelBaseTxt, "Base testo [unità disegno]:", f.BaseTxt, 2010);
+    Riga(f.LabelAltezzaTxt, "Altezza testo [unità disegno]:", f.AltezzaTxt, 2010 + kRiga);
     Riga(f.LabelDistTxt, "Distanza tra testo ed elemento [unità disegno]:", f.DistTxt,
-         2010 + 2 * kRiga, kLarghezza);
+         2010 + 2 * kRiga);
     f.LabelColoreTxt.Caption = "Colore testo:";
     f.LabelColoreTxt.Posiziona(180, 3090, 1600, 225);
     for (int k = 0; k < f.LabelCol.Numero(); ++k) {

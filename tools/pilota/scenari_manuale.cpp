@@ -64,7 +64,7 @@ void Selezioni(Fotografo &f) {
 
 void Viste(Fotografo &f) {
     f.Riempi("IntZ(0)", "420"), f.Riempi("IntZ(1)", "760"), f.p.Clic("GusciAtt"), f.Cambia();
-    f.p.Premi("Ctrl+O"), f.Cambia("filtri"), f.p.Clic("TuttoZ");
+    f.p.Premi("Ctrl+O"), f.Cambia("filtri"), f.p.Clic("TuttoZ"), f.Cambia();
     for (const char *k : {"IntY(0)", "IntY(1)", "Angolo(0)", "Angolo(1)"}) f.Riempi(k, "0");
     f.p.Clic("GusciAtt"), f.Cambia("vista"), f.p.Menu("Alt+Z", "p");
     f.p.Dialogo("Opzioni di rappresentazione");

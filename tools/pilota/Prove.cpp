@@ -48,7 +48,7 @@ bool Esegui(const std::string &nome, void (*corpo)(const Ambiente &), const Ambi
 int EseguiTutti(const Ambiente &amb, const std::string &solo) {
     int eseguiti = 0, falliti = 0;
     for (const auto &[nome, corpo] : Elenco())
-        if (solo.empty() || solo == nome) {
+        if (solo.empty() ? !nome.starts_with("lungo_") : solo == nome) {
             ++eseguiti;
             if (!Esegui(nome, corpo, amb)) ++falliti;
         }
