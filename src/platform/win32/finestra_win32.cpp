@@ -338,28 +338,6 @@ void FinestraWin32::ApplicaMisuraFinestra() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone.
-void FinestraWin32::Sposta(LONG left, LONG top) {
-    RECT r{};
-    if (!GetWindowRect(hwnd_, &r)) return;
-    OffsetRect(&r, left - r.left, top - r.top);
-    PortaNelloSchermo(r);
-    SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-PostoFinestra FinestraWin32::Posto() const {
-    WINDOWPLACEMENT p{};
-    p.length = sizeof p;
-    GetWindowPlacement(hwnd_, &p);
-    RECT r = p.rcNormalPosition;
-    const bool ridotta = IsIconic(hwnd_) != 0;
-    bool grande = IsZoomed(hwnd_) != 0;
-    if (!ridotta && !grande) GetWindowRect(hwnd_, &r);
-    if (ridotta) grande = (p.flags & WPF_RESTORETOMAXIMIZED) != 0;
-    return {r.left, r.top, larghezzaNormale_, altezzaNormale_, grande};
-}
-
 // ---- events -----------------------------------------------------------------------------------
 
 LRESULT CALLBACK FinestraWin32::Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {

@@ -1,5 +1,7 @@
 #include "platform/win32/posto_win32.h"
 
+#include "platform/win32/finestra_win32.h"
+
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -32,6 +34,28 @@ void ScriviPosto(const PostoFinestra &posto) {
                       static_cast<std::int32_t>(std::lround(posto.larghezza)),
                       static_cast<std::int32_t>(std::lround(posto.altezza)), posto.massimizzata};
     RegSetKeyValueW(HKEY_CURRENT_USER, kChiave, kValore, REG_BINARY, n.data(), sizeof n);
+}
+
+// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone.
+void FinestraWin32::Sposta(LONG left, LONG top) {
+    RECT r{};
+    if (!GetWindowRect(hwnd_, &r)) return;
+    OffsetRect(&r, left - r.left, top - r.top);
+    PortaNelloSchermo(r);
+    SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+PostoFinestra FinestraWin32::Posto() const {
+    WINDOWPLACEMENT p{};
+    p.length = sizeof p;
+    GetWindowPlacement(hwnd_, &p);
+    RECT r = p.rcNormalPosition;
+    const bool ridotta = IsIconic(hwnd_) != 0;
+    bool grande = IsZoomed(hwnd_) != 0;
+    if (!ridotta && !grande) GetWindowRect(hwnd_, &r);
+    if (ridotta) grande = (p.flags & WPF_RESTORETOMAXIMIZED) != 0;
+    return {r.left, r.top, larghezzaNormale_, altezzaNormale_, grande};
 }
 
 } // namespace telva
