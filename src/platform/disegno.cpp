@@ -91,10 +91,12 @@ bool RiquadroDisegno::RitagliaLontano(double &x1, double &y1, double &x2, double
         }
     }
     if (!(da <= a)) return false;
-    x2 = x1 + a * dx;
-    y2 = y1 + a * dy;
-    x1 += da * dx;
-    y1 += da * dy;
+    // Between numbers of forty digits the cut itself is rounded away.
+    const auto punto = [limite](double v) { return std::clamp(v, -limite, limite); };
+    x2 = punto(x1 + a * dx);
+    y2 = punto(y1 + a * dy);
+    x1 = punto(x1 + da * dx);
+    y1 = punto(y1 + da * dy);
     return true;
 }
 

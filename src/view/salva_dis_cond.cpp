@@ -165,8 +165,9 @@ class CaratteriInScala {
             c.tratti.Aggiungi(x1 * chiave_.scalaX, y1 * chiave_.scalaY, x2 * chiave_.scalaX,
                               y2 * chiave_.scalaY);
         }
-        c.piccolo =
-            c.tratti.maxX - c.tratti.minX < kGrande && c.tratti.maxY - c.tratti.minY < kGrande;
+        const Tratti &t = c.tratti; // small, and not far from its origin
+        c.piccolo = t.maxX - t.minX < kGrande && t.maxY - t.minY < kGrande &&
+                    std::max({-t.minX, t.maxX, -t.minY, t.maxY}) < 2 * kGrande;
         return c;
     }
 
