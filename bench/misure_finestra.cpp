@@ -85,7 +85,10 @@ class Telva {
         while (SendMessageW(riassunto, WM_GETTEXTLENGTH, 0, 0) == 0)
             if (Adesso() > limite) throw Fallito("the list has not come");
     }
-    void Voce(const char *menu, const char *tasti) { p_.Menu(menu, tasti); }
+    void PerNome() {
+        p_.Menu("Alt+S", "o");
+        p_.Aspetta("the answer box", [&] { return p_.Abilitato("Risposta"); });
+    }
     void Mouse(UINT messaggio, int x, int y) const {
         SendMessageW(disegno_, messaggio, messaggio == WM_LBUTTONDOWN ? MK_LBUTTON : 0,
                      MAKELPARAM(x, y));
@@ -144,7 +147,7 @@ void Operazioni(Telva &t) {
         Riga((std::string("Lista/") + nomi[k]).c_str(), Misura(
                                                             [&] {
                                                                 t.Bottone(kRimuoviTutto);
-                                                                t.Voce("Alt+S", "o");
+                                                                t.PerNome();
                                                             },
                                                             [&] { t.Lista("1-20000"); }, 9));
     }

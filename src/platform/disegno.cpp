@@ -151,23 +151,25 @@ void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t co
                         APixelRGB(colore));
 }
 
-const Superficie &RiquadroDisegno::ComponiElastici(Superficie &composta) const {
-    if (!Shape.Visible && !LineSposta.Visible) return superficie_;
-    composta.CopiaPixel(superficie_);
+void RiquadroDisegno::ComponiElastici(Superficie &striscia, int daRiga, int righe) const {
+    striscia.CopiaRighe(superficie_, daRiga, righe);
     const int spessore = std::max(1, Vicino(Proprietario()->dpi / 96));
-    bool fuori = false;
+    const auto punto = [&](double x, double y) {
+        bool fuori = false;
+        const Pixel p = InPixel(x, y, fuori);
+        return Pixel{p.x, p.y - daRiga};
+    };
     if (Shape.Visible) {
-        const Pixel a = InPixel(Shape.Left, Shape.Top, fuori);
-        const Pixel b = InPixel(Shape.Left + Shape.Width, Shape.Top - Shape.Height, fuori);
-        Elastico(composta, a, {b.x, a.y}, spessore);
-        Elastico(composta, {b.x, a.y}, b, spessore);
-        Elastico(composta, b, {a.x, b.y}, spessore);
-        Elastico(composta, {a.x, b.y}, a, spessore);
+        const Pixel a = punto(Shape.Left, Shape.Top);
+        const Pixel b = punto(Shape.Left + Shape.Width, Shape.Top - Shape.Height);
+        Elastico(striscia, a, {b.x, a.y}, spessore);
+        Elastico(striscia, {b.x, a.y}, b, spessore);
+        Elastico(striscia, b, {a.x, b.y}, spessore);
+        Elastico(striscia, {a.x, b.y}, a, spessore);
     }
     if (LineSposta.Visible)
-        Elastico(composta, InPixel(LineSposta.X1, LineSposta.Y1, fuori),
-                 InPixel(LineSposta.X2, LineSposta.Y2, fuori), spessore);
-    return composta;
+        Elastico(striscia, punto(LineSposta.X1, LineSposta.Y1), punto(LineSposta.X2, LineSposta.Y2),
+                 spessore);
 }
 
 } // namespace telva

@@ -70,8 +70,9 @@ class RiquadroDisegno : public Controllo {
 
     Rettangolo Shape;
     Segmento LineSposta;
-    // The picture with the rubber bands over it, as it is shown; `composta` is reused.
-    const Superficie &ComponiElastici(Superficie &composta) const;
+    bool ElasticiVisibili() const { return Shape.Visible || LineSposta.Visible; }
+    // Rows of the picture with the rubber bands over them, as they are shown.
+    void ComponiElastici(Superficie &striscia, int daRiga, int righe) const;
 
   private:
     void AggiornaScala();

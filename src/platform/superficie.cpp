@@ -39,10 +39,10 @@ void Superficie::Ridimensiona(int larghezza, int altezza) {
 
 void Superficie::Riempi(std::uint32_t colore) { std::fill(pixel_.begin(), pixel_.end(), colore); }
 
-void Superficie::CopiaPixel(const Superficie &altra) {
+void Superficie::CopiaRighe(const Superficie &altra, int daRiga, int righe) {
     larghezza_ = altra.larghezza_;
-    altezza_ = altra.altezza_;
-    pixel_ = altra.pixel_;
+    altezza_ = righe;
+    pixel_.assign(altra.Riga(daRiga), altra.Riga(daRiga + righe));
 }
 
 void Superficie::Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint32_t colore) {

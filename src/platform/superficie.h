@@ -56,8 +56,8 @@ class Superficie {
     // New size (at least 1 x 1); the content is undefined until the next Riempi.
     void Ridimensiona(int larghezza, int altezza);
     void Riempi(std::uint32_t colore);
-    // Takes over size and pixels of another surface.
-    void CopiaPixel(const Superficie &altra);
+    // Takes over `righe` rows of another surface, from `daRiga` on.
+    void CopiaRighe(const Superficie &altra, int daRiga, int righe);
 
     // Ends included. Coordinates may lie anywhere within +-2^28.
     void Linea(Pixel a, Pixel b, std::uint32_t colore);

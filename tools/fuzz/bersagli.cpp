@@ -168,7 +168,7 @@ void Comanda(const std::string &righe) {
                 riga.substr(std::min<std::size_t>(riga.size(), 2)));
         }
         static Superficie mostrata;
-        d.ComponiElastici(mostrata);
+        d.ComponiElastici(mostrata, 0, d.Immagine().Altezza());
     }
 }
 

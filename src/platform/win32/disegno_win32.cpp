@@ -5,27 +5,35 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+
 namespace telva {
 namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaDisegno";
 
-Superficie &Composta() {
-    static Superficie composta;
-    return composta;
+void Copia(HDC dc, const Superficie &s, int y) {
+    const int l = s.Larghezza(), a = s.Altezza();
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), l, -a, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    SetDIBitsToDevice(dc, 0, y, static_cast<DWORD>(l), static_cast<DWORD>(a), 0, 0, 0,
+                      static_cast<UINT>(a), s.Riga(0), &info, DIB_RGB_COLORS);
 }
 
 void Dipingi(HWND hwnd, const RiquadroDisegno &disegno) {
     PAINTSTRUCT p{};
     const HDC dc = BeginPaint(hwnd, &p);
     if (!dc) return;
-    const Superficie &s = disegno.ComponiElastici(Composta());
+    const Superficie &s = disegno.Immagine();
     const int l = s.Larghezza(), a = s.Altezza();
-    if (l > 0 && a > 0) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), l, -a, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        SetDIBitsToDevice(dc, 0, 0, static_cast<DWORD>(l), static_cast<DWORD>(a), 0, 0, 0,
-                          static_cast<UINT>(a), s.Riga(0), &info, DIB_RGB_COLORS);
+    if (l > 0 && !disegno.ElasticiVisibili()) Copia(dc, s, 0);
+    if (l > 0 && disegno.ElasticiVisibili()) {
+        constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
+        static Superficie striscia;
+        for (int y = 0; y < a; y += kRighe) {
+            disegno.ComponiElastici(striscia, y, std::min(kRighe, a - y));
+            Copia(dc, striscia, y);
+        }
     }
     RECT client{};
     GetClientRect(hwnd, &client);
