@@ -211,8 +211,8 @@ void Form_Resize() {
         f.Label2[k].Top = f.StringaSel.Top + 100;
         const double left = w - 2035 + k * 632;
         f.Label1[k].Left = left;
-        f.Label2[k].Left = left + 117;
-        f.Angolo[k].Left = left + 212;
+        f.Label2[k].Left = left + 120;
+        f.Angolo[k].Left = left + 210;
     }
     f.Toolbar1.Width = w - 180;
     f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;

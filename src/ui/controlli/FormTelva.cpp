@@ -59,7 +59,7 @@ void Disponi(ModuloTelva &f) {
     f.StringaSel.Posiziona(2400, 0, 0, 290);
     for (int k = 0; k < 3; ++k) {
         f.Label1[k].Posiziona(0, 0, 115, 285);
-        f.Label2[k].Posiziona(0, 0, 95, 200);
+        f.Label2[k].Posiziona(0, 0, 90, 200);
         f.Angolo[k].Posiziona(0, 0, 390, 300);
     }
     f.Frame2.Posiziona(30, 0, 2610, 465);
