@@ -91,6 +91,9 @@ std::string Difetti(const Programma &p, HWND cima) {
         // Frames without border only group; a swatch stands on the frame that marks it.
         if (!IsWindowVisible(h) || tipo == "TelvaCornice" || chi.starts_with("LabelBordCol"))
             continue;
+        if (chi.empty()) continue; // a label that is only read out
+        if (tipo == "Edit" && IsWindowEnabled(h) && p.Testo(GetWindow(h, GW_HWNDPREV)).empty())
+            difetti += chi + " nameless; ";
         const RECT r = posti[chi] = p.Posizione(chi);
         if (IntersectRect(&comune, &r, &interna); !EqualRect(&comune, &r))
             difetti += chi + " out; ";

@@ -16,7 +16,7 @@ class BarraWin32 {
     // Button of a WM_COMMAND number, or nullptr.
     const BottoneBarra *Bottone(WORD id) const;
     void AggiornaAbilitati() const;
-    // New pictures for a new DPI.
+    // New pictures for a new DPI, or for new colours of the system.
     void ImpostaDpi(UINT dpi);
     // Answers TTN_GETDISPINFO.
     void Suggerimento(NMTTDISPINFOW &info);

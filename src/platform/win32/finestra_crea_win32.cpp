@@ -136,6 +136,9 @@ void FinestraWin32::CreaControlli() {
         const DWORD stile = (c->VisibileDavvero() ? WS_VISIBLE : 0) |
                             (c->AbilitatoDavvero() ? 0 : WS_DISABLED) |
                             (InizioGruppo(*c, precedente) ? WS_GROUP : 0);
+        // A box has no text of its own to be read out: its name is the label made before it.
+        if (c->TipoControllo() == Tipo::CasellaTesto && !c->ToolTipText().empty())
+            Nascita{hwnd_, {}, WS_VISIBLE, 0}.Crea(L"STATIC", ALargo(c->ToolTipText()), 0);
         const HWND h = CreaControllo(*c, {hwnd_, RettangoloPixel(*c), stile, id++});
         if (!h) continue;
         nativi_[c] = h;

@@ -359,6 +359,10 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
         return ColoreControllo(reinterpret_cast<HDC>(w), reinterpret_cast<HWND>(l));
+    case WM_SYSCOLORCHANGE:
+        if (barra_) barra_->ImpostaDpi(static_cast<UINT>(modulo_.dpi));
+        for (const auto &[c, h] : nativi_) SendMessageW(h, messaggio, w, l);
+        break;
     case WM_ERASEBKGND: CancellaSfondo(reinterpret_cast<HDC>(w)); return 1;
     case WM_SETCURSOR: {
         if (LOWORD(l) != HTCLIENT) break;

@@ -105,11 +105,13 @@ void ModuloTelva::Inizio() {
         Angolo[k].ToolTipText = std::string("Angolo di vista attorno all'asse ") + kAssi[k] +
                                 ", in gradi (INVIO ridisegna)";
     }
+    int asse = 0;
     for (auto *campi : {&IntX, &IntY, &IntZ}) {
+        const std::string coda = std::string(kAssi[asse++]) + " mostrata (INVIO ridisegna)";
         (*campi)[0].Text = "";
         (*campi)[1].Text = "";
-        (*campi)[0].ToolTipText = "Coordinata minima mostrata (INVIO ridisegna)";
-        (*campi)[1].ToolTipText = "Coordinata massima mostrata (INVIO ridisegna)";
+        (*campi)[0].ToolTipText = "Minima coordinata " + coda;
+        (*campi)[1].ToolTipText = "Massima coordinata " + coda;
     }
     for (Pulsante *p : {&TuttoX, &TuttoY, &TuttoZ}) {
         p->Caption = "Tutto";
