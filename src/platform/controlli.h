@@ -200,7 +200,7 @@ class Pulsante : public Controllo {
 };
 
 // Coloured rectangle to choose from, or (without Click) the frame around one, which shows that it
-// is `Marcato`. The caption names the colour for those who do not see it.
+// is `Marcato` (chosen). The caption names the colour for those who do not see it.
 class Campione : public Controllo {
   public:
     Campione(Modulo *f, std::string nome, Controllo *genitore = nullptr)

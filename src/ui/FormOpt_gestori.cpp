@@ -82,7 +82,7 @@ std::string TestoOpzione(int voce) {
 
 void EvidColAtt() {
     for (int k = 0; k < FormOpt.LabelCol.Numero(); ++k)
-        FormOpt.LabelBordCol[k].Marcato = k == coloreTesto;
+        FormOpt.LabelBordCol[k].Marcato = FormOpt.LabelCol[k].Marcato = k == coloreTesto;
 }
 
 void ControllaNumerazioneAtt() {

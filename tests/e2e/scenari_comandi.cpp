@@ -12,7 +12,7 @@ const struct {
 } kProprieta[] = {{"m", "materiale", "rssss"},    {"o", "nome elemento", "sssss"},
                   {"6", "sezione", "rsrs-"},      {"7", "spessore", "rrsr-"},
                   {"8", "orientamento", "rsrs-"}, {"9", "svincolo", "rsrr-"},
-                  {"10", "vincolo", "srrr-"}};
+                  {"v", "vincolo", "srrr-"}};
 
 // By which doors a command is given; inside the answer box the keys must not act on its text.
 std::vector<std::string> Porte(const char *voce, int bottone, const std::string &tasti) {
@@ -63,7 +63,7 @@ SCENARIO(uscite_per_ogni_porta) {
 SCENARIO(selezioni_per_attributo) {
     Sessione s(amb);
     const std::vector<std::vector<const char *>> casi{
-        {"@0", "c 0; =1,1", "c 1; =2", "c 2; =3", "c 3; =4", "c 6; =20", "c 9; =1,1-4,20",
+        {"@0", "c 0; =1,1", "c 1; =2", "c r; =3", "c m; =20", "c 3; =4", "c 9; =1,1-4,20",
          "u; =1,1-4,20", "p 0; =1,1,20", "p 1; =2", "p 2; =3", "p 3; =4", "p 4; =1,1-4,20"},
         {"@1", "c 4; =14", "c 7; =7,7-8", "c 8; =9,12", "l 0; =7,7", "l 1; =8", "l 2; =9",
          "l 3; =14", "l 4; =12", "l 5; =7,7-9,12,14", "u; =7,7-9,12,14"},
@@ -128,7 +128,7 @@ SCENARIO(rifiuti_e_voci_spente) {
          {"0l", "0t", "1p", "1t", "2l", "2p", "3p", "3t"})                 // submenus: an open
         s.Fai("@" + f.substr(0, 1) + "; Ctrl+A; /S " + f[1] + " Esc Esc"); // one wants one more Esc
     s.Fai("@1; Esc; f=; /O v; =7,7-9,12,14");
-    for (const std::string voce : {"f", "m", "6", "8", "9", "o", "u"})
+    for (const std::string voce : {"f", "m", "6", "8", "v", "o", "u"})
         s.Fai("/S " + voce + "; /O v; =; /O v; =7,7-9,12,14; s=");
 }
 

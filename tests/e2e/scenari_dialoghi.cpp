@@ -44,7 +44,7 @@ class Impedito {
 };
 
 HWND Apri(Sessione &s, bool trappola) {
-    s.Fai(trappola ? "/Z 4" : "/Z p");
+    s.Fai(trappola ? "/Z t" : "/Z p");
     return s.p.Dialogo(trappola ? "Opzioni" : "Opzioni di rappresentazione");
 }
 
@@ -155,7 +155,7 @@ SCENARIO(dialogo_opzioni) {
            Righe("1|1|1|4||1|5|0|0|0|5|5|1|5|1|1|1|1|1|1|1|1|1|1|1|1|||||"));
     s.Fai("spazio CheckSpGus; on !SpMinGus !LabelSpMinGus; SpNonSel:=9; SpSel:=5x; Raggio:=7.5;"
           "vai EvColSel; Giu; spunta EvColNonSel !EvColSel; spazio CheckTxtNodi; on TxtNodi(0);"
-          "spazio TxtNodi(1); BaseTxt:=12.5; AltezzaTxt:=; spazio LabelCol(3); " +
+          "spazio TxtNodi(1); BaseTxt:=12.5; AltezzaTxt:=; vai LabelCol(1); Destra; Giu; " +
           salvate);
     UGUALE(LeggiByte(file).value_or("-"),
            Righe("0|1|9|5||0|7.5|0|0|0|12.5|0|3|5|1|0|1|1|1|1|1|1|1|1|1|1|||||"));

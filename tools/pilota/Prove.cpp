@@ -52,7 +52,10 @@ int EseguiTutti(const Ambiente &amb, const std::string &solo) {
             ++eseguiti;
             if (!Esegui(nome, corpo, amb)) ++falliti;
         }
-    if (eseguiti == 0) std::printf("no scenario '%s'\n", solo.c_str());
+    if (eseguiti == 0) {
+        std::printf("no scenario '%s'; there are:\n", solo.c_str());
+        for (const auto &[nome, corpo] : Elenco()) std::printf("  %s\n", nome.c_str());
+    }
     std::printf("%d scenarios, %d failed\n", eseguiti, falliti);
     return eseguiti == 0 ? 1 : std::min(falliti, 100);
 }

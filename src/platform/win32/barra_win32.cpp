@@ -18,11 +18,7 @@ std::uint32_t SenzaPremoltiplicare(std::uint32_t pixel) {
     return alfa << 24 | canale(16) | canale(8) | canale(0);
 }
 
-int Luce(std::uint32_t rgb) { // 0..255; the order of red and blue hardly matters
-    return static_cast<int>(((rgb >> 16 & 0xFF) + 2 * (rgb >> 8 & 0xFF) + (rgb & 0xFF)) / 4);
-}
-
-// Dark strokes on a dark bar, as high-contrast colours have it, are brought half-way to white.
+// Dark strokes on a dark bar are brought half-way to white.
 std::uint32_t Leggibile(std::uint32_t pixel, bool barraScura) {
     if (!barraScura || Luce(pixel) >= 128) return pixel;
     return (pixel & 0xFF000000) | ((pixel >> 1 & 0x7F7F7F) + 0x808080);
@@ -35,7 +31,7 @@ HBITMAP Immagine(const std::vector<std::uint32_t> &pixel, int lato) {
     const HBITMAP bitmap = Richiesto(
         CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bit, nullptr, 0), "CreateDIBSection");
     auto *dove = static_cast<std::uint32_t *>(bit);
-    const bool barraScura = Luce(GetSysColor(COLOR_BTNFACE)) < 128;
+    const bool barraScura = FacciaScura();
     for (std::uint32_t p : pixel) *dove++ = Leggibile(SenzaPremoltiplicare(p), barraScura);
     return bitmap;
 }

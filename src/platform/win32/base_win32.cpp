@@ -92,6 +92,12 @@ RECT RettangoloVisibile(HWND finestra) {
     return trovato && visibile.right > visibile.left ? visibile : intero;
 }
 
+int Luce(std::uint32_t rgb) {
+    return static_cast<int>(((rgb >> 16 & 0xFF) + 2 * (rgb >> 8 & 0xFF) + (rgb & 0xFF)) / 4);
+}
+
+bool FacciaScura() { return Luce(GetSysColor(COLOR_BTNFACE)) < 128; }
+
 void AssegnaNome(HWND finestra, const std::string &nome) {
     const ATOM atomo = GlobalAddAtomW(ALargo(nome).c_str());
     if (atomo)

@@ -11,6 +11,7 @@
 
 #include <commctrl.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,11 @@ SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT
 // Rectangle of a top-level window as it is seen, and how far the invisible part of its frame
 // reaches beyond it.
 RECT RettangoloVisibile(HWND finestra);
+
+// Brightness of a colour, 0..255; the order of red and blue hardly matters.
+int Luce(std::uint32_t rgb);
+// Whether the window's face is dark, as high-contrast colours have it.
+bool FacciaScura();
 
 // A control's name, on its native window, for tools that look at the program from outside.
 void AssegnaNome(HWND finestra, const std::string &nome);

@@ -42,6 +42,7 @@ void Dipingi(HWND hwnd, const RiquadroDisegno &disegno) {
         FillRect(dc, &destra, nero);
     if (const RECT sotto{0, a, client.right, client.bottom}; a < client.bottom)
         FillRect(dc, &sotto, nero);
+    if (FacciaScura()) FrameRect(dc, &client, GetSysColorBrush(COLOR_BTNTEXT)); // black on black
     EndPaint(hwnd, &p);
 }
 

@@ -18,10 +18,12 @@ LRESULT CALLBACK ProceduraCornice(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l)
     }
 }
 
-// Arrow keys move among the buttons of one group: a group begins where kind or parent change.
+// Arrow keys move among the buttons and the swatches of one group: a group begins where kind or
+// parent change.
 bool InizioGruppo(const Controllo &c, const Controllo *precedente) {
-    return !precedente || precedente->TipoControllo() != c.TipoControllo() ||
-           precedente->Genitore() != c.Genitore() || c.TipoControllo() != Tipo::BottoneOpzione;
+    const bool unito = c.TipoControllo() == Tipo::BottoneOpzione || DaScegliere(c);
+    return !unito || !precedente || precedente->TipoControllo() != c.TipoControllo() ||
+           precedente->Genitore() != c.Genitore();
 }
 
 DWORD StileEtichettaNativo(const Etichetta &e) {
@@ -115,8 +117,9 @@ HWND FinestraWin32::CreaControllo(Controllo &c, const Nascita &nascita) {
     case Tipo::Pulsante: return nascita.Crea(L"BUTTON", testo, WS_TABSTOP | BS_PUSHBUTTON);
     case Tipo::Campione: {
         auto &campione = static_cast<Campione &>(c);
-        if (!campione.Click) return nascita.Crea(L"STATIC", L"", SS_OWNERDRAW);
-        return nascita.Crea(L"BUTTON", ALargo(campione.didascalia), WS_TABSTOP | BS_OWNERDRAW);
+        if (!DaScegliere(c)) return nascita.Crea(L"STATIC", L"", SS_OWNERDRAW);
+        return nascita.Crea(L"BUTTON", ALargo(campione.didascalia),
+                            BS_OWNERDRAW | BS_NOTIFY | (campione.Marcato ? WS_TABSTOP : 0));
     }
     case Tipo::Disegno: return CreaDisegno(static_cast<RiquadroDisegno &>(c), nascita);
     case Tipo::BarraStrumenti:

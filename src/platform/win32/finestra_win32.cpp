@@ -50,6 +50,10 @@ std::string TestoDi(const Controllo &c) {
     }
 }
 
+bool DaScegliere(const Controllo &c) {
+    return c.TipoControllo() == Tipo::Campione && static_cast<const Campione &>(c).Click;
+}
+
 HCURSOR Cursore(Puntatore puntatore) {
     const wchar_t *nome = puntatore == Puntatore::Croce          ? IDC_CROSS
                           : puntatore == Puntatore::Ridimensiona ? IDC_SIZEALL
@@ -159,8 +163,11 @@ void FinestraWin32::Cambia(Controllo &c, Campo campo) {
     case Campo::Didascalia:
     case Campo::Testo: CambiaTesto(h, TestoDi(c)); break;
     case Campo::Spunta: CambiaSpunta(c); break;
-    case Campo::Sfondo:
-    case Campo::Colore: InvalidateRect(h, nullptr, TRUE); break;
+    case Campo::Colore:
+        // Tab enters the swatches at the chosen one.
+        if (DaScegliere(c)) Imposta(h, WS_TABSTOP, static_cast<Campione &>(c).Marcato);
+        [[fallthrough]];
+    case Campo::Sfondo: InvalidateRect(h, nullptr, TRUE); break;
     case Campo::Puntatore: CambiaPuntatore(); break;
     case Campo::Suggerimento: CambiaSuggerimento(c); break;
     case Campo::Fuoco: PortaFuoco(c); break;
@@ -354,6 +361,12 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_GETMINMAXINFO: MisuraMinima(*reinterpret_cast<MINMAXINFO *>(l)); return 0;
     case WM_DPICHANGED: DpiCambiato(HIWORD(w), *reinterpret_cast<const RECT *>(l)); return 0;
     case WM_COMMAND: Comando(reinterpret_cast<HWND>(l), HIWORD(w), LOWORD(w)); return 0;
+    case WM_MENUCHAR:
+        if (!menu_) break;
+        return menu_->Lettera(reinterpret_cast<HMENU>(l), static_cast<wchar_t>(LOWORD(w)));
+    case WM_NEXTDLGCTL: // an arrow key inside a group
+        if (LOWORD(l)) SetFocus(reinterpret_cast<HWND>(w));
+        return 0;
     case WM_NOTIFY: return Notifica(*reinterpret_cast<const NMHDR *>(l), l);
     case WM_DRAWITEM: DisegnaCampione(*reinterpret_cast<const DRAWITEMSTRUCT *>(l)); return TRUE;
     case WM_CTLCOLORSTATIC:
@@ -462,8 +475,9 @@ void FinestraWin32::Comando(HWND nativo, WORD codice, WORD id) {
         if (auto *p = static_cast<Pulsante *>(c); codice == BN_CLICKED && p->Click)
             Evento(p->Click);
         break;
-    case Tipo::Campione:
-        if (auto *k = static_cast<Campione *>(c); codice == BN_CLICKED && k->Click)
+    case Tipo::Campione: // the arrow keys choose, as among option buttons
+        if (auto *k = static_cast<Campione *>(c);
+            (codice == BN_CLICKED || (codice == BN_SETFOCUS && !k->Marcato)) && k->Click)
             Evento(k->Click);
         break;
     default: break;
@@ -474,73 +488,6 @@ LRESULT FinestraWin32::Notifica(const NMHDR &notifica, LPARAM l) {
     if (notifica.code == TTN_GETDISPINFOW && barra_)
         barra_->Suggerimento(*reinterpret_cast<NMTTDISPINFOW *>(l));
     return 0;
-}
-
-LRESULT FinestraWin32::ColoreControllo(HDC dc, HWND nativo) {
-    const Controllo *c = DaNativo(nativo);
-    int sfondo = COLOR_BTNFACE, testo = COLOR_BTNTEXT;
-    if (c && c->TipoControllo() == Tipo::CasellaTesto) {
-        const bool finestra = static_cast<const CasellaTesto *>(c)->BackColor() == kColoreFinestra;
-        sfondo = finestra && c->Enabled ? COLOR_WINDOW : COLOR_BTNFACE;
-        testo = c->Enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
-    }
-    SetBkColor(dc, GetSysColor(sfondo));
-    SetTextColor(dc, GetSysColor(testo));
-    return reinterpret_cast<LRESULT>(GetSysColorBrush(sfondo));
-}
-
-void FinestraWin32::DisegnaCentrata(const DRAWITEMSTRUCT &d) const {
-    constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX;
-    const std::wstring testo = ALargo(TestoFinestra(d.hwndItem));
-    const int lunghezza = static_cast<int>(testo.size());
-    const HGDIOBJ prima = SelectObject(d.hDC, font_);
-    RECT r = d.rcItem, dentro = r;
-    FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
-    SetBkMode(d.hDC, TRANSPARENT);
-    SetTextColor(d.hDC, GetSysColor(COLOR_BTNTEXT));
-    DrawTextW(d.hDC, testo.c_str(), lunghezza, &dentro, kModo | DT_CALCRECT);
-    r.top += std::max<LONG>((r.bottom - r.top - (dentro.bottom - dentro.top)) / 2, 0);
-    DrawTextW(d.hDC, testo.c_str(), lunghezza, &r, kModo);
-    SelectObject(d.hDC, prima);
-}
-
-void FinestraWin32::DisegnaCampione(const DRAWITEMSTRUCT &d) {
-    const Controllo *c = DaNativo(d.hwndItem);
-    if (c && c->TipoControllo() == Tipo::Etichetta) DisegnaCentrata(d);
-    if (!c || c->TipoControllo() != Tipo::Campione) return;
-    const auto &campione = static_cast<const Campione &>(*c);
-    RECT r = d.rcItem;
-    if (!campione.Click) { // the frame around a swatch
-        const int marcato = c->Enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT;
-        FillRect(d.hDC, &r, GetSysColorBrush(campione.Marcato ? marcato : COLOR_BTNFACE));
-        return;
-    }
-    const bool spento = !c->Enabled;
-    const HBRUSH pennello =
-        CreateSolidBrush(spento ? GetSysColor(COLOR_BTNFACE) : campione.BackColor);
-    FillRect(d.hDC, &r, pennello);
-    DeleteObject(pennello);
-    FrameRect(d.hDC, &r, GetSysColorBrush(spento ? COLOR_GRAYTEXT : COLOR_WINDOWFRAME));
-    if ((d.itemState & ODS_FOCUS) == 0) return;
-    InflateRect(&r, -2, -2);
-    DrawFocusRect(d.hDC, &r);
-}
-
-// The background without what the controls cover anyway: nothing flickers while resizing.
-void FinestraWin32::CancellaSfondo(HDC dc) const {
-    const int stato = SaveDC(dc);
-    for (const auto &[c, h] : nativi_) {
-        // Frames and the flat tool bar show this background.
-        if (c->TipoControllo() == Tipo::Cornice || c->TipoControllo() == Tipo::BarraStrumenti ||
-            !IsWindowVisible(h))
-            continue;
-        const RECT r = RettangoloPixel(*c);
-        ExcludeClipRect(dc, r.left, r.top, r.right, r.bottom);
-    }
-    RECT tutto{};
-    GetClientRect(hwnd_, &tutto);
-    FillRect(dc, &tutto, GetSysColorBrush(COLOR_BTNFACE));
-    RestoreDC(dc, stato);
 }
 
 bool FinestraWin32::Tasto(MSG &m) {

@@ -102,6 +102,8 @@ class FinestraWin32 : public Pari {
 
 // What stands in the window for a control: its caption or its text.
 std::string TestoDi(const Controllo &c);
+// A swatch, not the frame around one.
+bool DaScegliere(const Controllo &c);
 // Pointer shape of the window system.
 HCURSOR Cursore(Puntatore puntatore);
 

@@ -92,6 +92,29 @@ void MenuWin32::Aggiorna(const VoceMenu &voce) const {
     if (posto->second.menu == barra_) DrawMenuBar(finestra_);
 }
 
+LRESULT MenuWin32::Lettera(HMENU menu, wchar_t lettera) const {
+    const auto grande = [](wchar_t c) {
+        return reinterpret_cast<UINT_PTR>(
+            CharUpperW(reinterpret_cast<LPWSTR>(static_cast<UINT_PTR>(c))));
+    };
+    std::vector<UINT> adatte;
+    UINT scelta = 0; // where the bar stands in this menu; past its end when nowhere
+    const auto quante = static_cast<UINT>(GetMenuItemCount(menu));
+    while (scelta < quante && !(GetMenuState(menu, scelta, MF_BYPOSITION) & MF_HILITE)) ++scelta;
+    for (const auto &[voce, posto] : posti_) {
+        const std::wstring testo = ALargo(voce->Caption());
+        if (posto.menu == menu && !testo.empty() && testo.find(L'&') == std::wstring::npos &&
+            grande(testo.front()) == grande(lettera))
+            adatte.push_back(posto.posizione);
+    }
+    if (adatte.empty()) return MAKELRESULT(0, MNC_IGNORE);
+    std::sort(adatte.begin(), adatte.end());
+    if (adatte.size() == 1) return MAKELRESULT(adatte.front(), MNC_EXECUTE);
+    const auto dopo = std::upper_bound(adatte.begin(), adatte.end(), scelta);
+    return MAKELRESULT(scelta < quante && dopo != adatte.end() ? *dopo : adatte.front(),
+                       MNC_SELECT);
+}
+
 void MenuWin32::Popup(const VoceMenu &menu) const {
     const auto posto = posti_.find(&menu);
     POINT p{};

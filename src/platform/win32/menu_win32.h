@@ -20,6 +20,8 @@ class MenuWin32 {
     bool TraduciScorciatoia(MSG &messaggio) const;
     void Aggiorna(const VoceMenu &voce) const;
     void Popup(const VoceMenu &menu) const;
+    // Answer to WM_MENUCHAR: items without a letter of their own hear to their first one.
+    LRESULT Lettera(HMENU menu, wchar_t lettera) const;
 
   private:
     struct Posto {

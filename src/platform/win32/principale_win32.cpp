@@ -68,11 +68,11 @@ class Sistema : public SistemaFinestre {
     }
 
     // What outlives a process that ends at once.
-    void Congeda() const {
+    void Congeda(int codice) const {
         for (const FinestraWin32 *dialogo : dialoghi_) dialogo->TogliNomi();
         if (!principale_) return;
         principale_->TogliNomi();
-        ScriviPosto(principale_->Posto());
+        if (codice == 0) ScriviPosto(principale_->Posto()); // a faulty program keeps nothing
     }
 
     bool HaFinestra() const { return principale_ != nullptr; }
@@ -124,7 +124,7 @@ int Esegui() {
     });
     // At once: nothing of what is still on the way may run any more.
     ImpostaFine([](int codice) {
-        IlSistema().Congeda();
+        IlSistema().Congeda(codice);
         ExitProcess(static_cast<UINT>(codice));
     });
     ImpostaSistemaFinestre(&IlSistema());

@@ -113,9 +113,11 @@ void ModuloTelva::Inizio() {
         (*campi)[0].ToolTipText = "Minima coordinata " + coda;
         (*campi)[1].ToolTipText = "Massima coordinata " + coda;
     }
+    asse = 0;
     for (Pulsante *p : {&TuttoX, &TuttoY, &TuttoZ}) {
         p->Caption = "Tutto";
-        p->ToolTipText = "Riporta l'intervallo all'intera struttura";
+        p->ToolTipText =
+            std::string("Riporta l'intervallo ") + kAssi[asse++] + " all'intera struttura";
     }
     Label5.Caption = "Risultato della selezione:";
     Label6.Caption = "Coordinate:";
