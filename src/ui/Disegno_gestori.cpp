@@ -30,11 +30,13 @@ constexpr double kSoglia = 0.0001; // drawing units: shorter moves are none
 
 double primoX = 0, primoY = 0; // first corner
 
-// The view when the middle button went down: window and corner of the scale.
+// The view when the middle button went down: window and corner of the scale; and the zoom window
+// that the drag has set last.
 struct {
     bool attivo = false;
     FinestraDisegno finestra;
     double scalaSinistra = 0, scalaAlto = 0;
+    FinestraDisegno ultima;
 } trascina;
 
 RiquadroDisegno &Disegno() { return FormTelva.Disegno; }
@@ -79,9 +81,13 @@ bool SecondoPuntoSposta(double x, double y) {
 }
 
 void TendiRettangolo(double x, double y) {
-    const double left = Disegno().ScaleLeft, top = Disegno().ScaleTop;
-    const double right = left + Disegno().ScaleWidth, bottom = top + Disegno().ScaleHeight;
-    if (x < left || x > right || y > top || y < bottom) return;
+    // The pointer comes in single precision: so must the edges, or half of all views would lose
+    // their first column of pixels to the rounding.
+    const auto singola = [](double v) { return double(static_cast<float>(v)); };
+    const RiquadroDisegno &d = Disegno();
+    if (x < singola(d.ScaleLeft) || x > singola(d.ScaleLeft + d.ScaleWidth) ||
+        y > singola(d.ScaleTop) || y < singola(d.ScaleTop + d.ScaleHeight))
+        return;
     Rettangolo &shape = Disegno().Shape;
     shape.Left = std::min(primoX, x);
     shape.Width = std::abs(x - primoX);
@@ -167,27 +173,33 @@ void TastoSinistro(int shift, float x, float y) {
 
 void InizioTrascina(double x, double y) {
     Segmento &linea = Disegno().LineSposta;
-    linea.Visible = false;
+    linea.Visible = SpostaInCorso == 1;
     linea.X1 = linea.X2 = x;
     linea.Y1 = linea.Y2 = y;
-    AggiornaFinestraVista();
-    trascina = {true, FinestraVista, Disegno().ScaleLeft, Disegno().ScaleTop};
+    if (!ZoomImpostato()) AggiornaFinestraVista();
+    trascina = {true, ZoomImpostato() ? FinestraZoom : FinestraVista, Disegno().ScaleLeft,
+                Disegno().ScaleTop, FinestraZoom};
 }
 
 // The pointer's place is told in a scale that the drag itself moves: both are brought back to the
 // scale of the press, in whole pixels, so that the drawing sticks to the pointer.
 void Trascina(double x, double y) {
     if (!trascina.attivo) return;
+    if (!(FinestraZoom == trascina.ultima)) { // wheel or command in between: on from what it shows
+        InizioTrascina(x, y);
+        return;
+    }
     const Segmento &linea = Disegno().LineSposta;
     // Whole pixels, each way by its own scale: they differ while an old scale stays in a new box.
     const auto intero = [](double d, double scala) { return std::round(d * scala) / scala; };
     const double dx = x - linea.X1 - (Disegno().ScaleLeft - trascina.scalaSinistra);
     const double dy = y - linea.Y1 - (Disegno().ScaleTop - trascina.scalaAlto);
     const double px = intero(dx, Disegno().ScalaX()), py = intero(dy, Disegno().ScalaY());
-    const FinestraDisegno prima = FinestraZoom;
     if (std::abs(px) > kSoglia || std::abs(py) > kSoglia || ZoomImpostato())
         SpostaVista(trascina.finestra, px, py);
-    if (!(FinestraZoom == prima)) Ridis_Click();
+    if (FinestraZoom == trascina.ultima) return;
+    trascina.ultima = FinestraZoom;
+    Ridis_Click();
 }
 
 void MostraCoordinate(double x, double y) {

@@ -97,7 +97,6 @@ void Rimuovi_Click() { IniziaFunzione(kRimuovi, "Rimuovi selezione"); }
 
 void RimTutto_Click() {
     const std::uint8_t funzione = CodFunAttiva, sottoFunzione = CodSottoFun;
-    AnnullaElastici();
     CodFunAttiva = kRimuovi;
     SelezionaPerColore(kOgniColore);
     CodFunAttiva = funzione;

@@ -124,6 +124,10 @@ void DisegnaStruttura() {
     RiquadroDisegno &d = FormTelva.Disegno;
     const Stile stile;
     d.Cls();
+    if (!Proiettata()) {
+        d.Presenta();
+        return;
+    }
     if (FormTelva.VisAssi.Checked) DisegnaAssi();
     DisegnaAste(stile);
     DisegnaGusci(stile);

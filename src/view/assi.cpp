@@ -23,10 +23,7 @@ void DisegnaAssi() {
     const double lunghezza = std::abs(OpzInt[2] * unita);
     const double lettera = std::abs(OpzInt[3] * unita);
     const Direzione *assi[3] = {&DirAsseX, &DirAsseY, &DirAsseZ};
-    const bool proiettati = std::any_of(std::begin(assi), std::end(assi), [](const Direzione *a) {
-        return a->x != 0 || a->y != 0; // nothing to show before the first projection
-    });
-    if (lunghezza == 0 || !proiettati) return;
+    if (lunghezza == 0) return;
     double sinistra = 0, basso = 0;
     for (const Direzione *a : assi) {
         sinistra = std::min(sinistra, a->x * lunghezza * kStaccoLettera);

@@ -123,6 +123,11 @@ void AggiornaIntervalli(unsigned char k) {
     }
 }
 
+bool Proiettata() {
+    // Seen from wherever, at most one axis is a point.
+    return DirAsseX.x != 0 || DirAsseX.y != 0 || DirAsseY.x != 0 || DirAsseY.y != 0;
+}
+
 void AzzeraProiezione() {
     for (auto &riga : MatRot)
         for (double &valore : riga) valore = 0;

@@ -22,6 +22,9 @@ double ProiettaY(double x, double y, double z);
 // the box gets the angle of the view back, and the view stays as it was: false.
 bool ProiettaNodi();
 
+// False as long as nothing has been projected, as after a structure that could not be read.
+bool Proiettata();
+
 // Writes the extents of the model, in whole units, into the interval boxes: 1 = X, 2 = Y, 3 = Z,
 // 4 = all three; any other value does nothing.
 void AggiornaIntervalli(unsigned char k);

@@ -19,17 +19,18 @@ Ambiente Copia(Ambiente amb) {
     return amb;
 }
 
-// What keeps a file from being opened: it is gone, a folder, in another program's hands, or may
-// only be read.
-enum Ostacolo { kManca, kCartella, kChiuso, kSolaLettura };
+// What may keep a file from being opened: it is gone, a folder, in the hands of another program
+// that shares it or does not, or may only be read.
+enum Ostacolo { kManca, kCartella, kLetto, kChiuso, kSolaLettura };
 class Impedito {
   public:
     Impedito(fs::path file, Ostacolo modo) : file_(std::move(file)) {
         if (modo == kManca || modo == kCartella) fs::remove(file_);
         if (modo == kCartella) fs::create_directory(file_);
-        if (modo == kChiuso)
-            preso_ =
-                CreateFileW(file_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        const DWORD insieme = modo == kLetto ? FILE_SHARE_READ | FILE_SHARE_WRITE : 0;
+        if (modo == kLetto || modo == kChiuso)
+            preso_ = CreateFileW(file_.c_str(), GENERIC_READ, insieme, nullptr, OPEN_EXISTING, 0,
+                                 nullptr);
         if (modo == kSolaLettura) SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_READONLY);
     }
     void Libera() const {
@@ -213,19 +214,19 @@ SCENARIO(riquadri_di_avvio) {
 }
 
 SCENARIO(uscita_impossibile) {
-    for (const Ostacolo modo : {kManca, kCartella, kChiuso, kSolaLettura}) {
+    for (const Ostacolo modo : {kManca, kCartella, kLetto, kChiuso, kSolaLettura}) {
         Sessione s(amb, 1, "9,14");
         const auto file = s.lavoro / "TelvaOut.txt";
         ScriviFile(file, "8\n");
         Impedito impedito(file, modo);
         s.Fai("/F a");
-        if (modo != kManca)
+        if (modo != kManca && modo != kLetto)
             UGUALE(Riquadri(s.p), "Problema| Non è possibile scrivere il file di uscita |errore");
         UGUALE(s.p.AttendiFine(), 0U);
         impedito.Libera();
-        UGUALE(LeggiByte(file).value_or("-"), modo == kManca      ? "9,14\r\n"
-                                              : modo == kCartella ? "-"
-                                                                  : "8\r\n");
+        UGUALE(LeggiByte(file).value_or("-"), modo == kManca || modo == kLetto ? "9,14\r\n"
+                                              : modo == kCartella              ? "-"
+                                                                               : "8\r\n");
         for (const auto &voce : fs::directory_iterator(s.lavoro))
             VERIFICA(voce.path().wstring().find(L".~") == std::wstring::npos);
     }

@@ -36,5 +36,9 @@ TEST_F(Banco, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
     ScriviLavoro(l);
     EXPECT_TRUE(Avvia());
     EXPECT_EQ(messaggi, attesi);
+    FormTelva.Resize(); // half a structure is not drawn
+    const Superficie &d = FormTelva.Disegno.Immagine();
+    EXPECT_EQ(std::count(d.Riga(0), d.Riga(d.Altezza() - 1), 0U),
+              d.Riga(d.Altezza() - 1) - d.Riga(0));
 }
 } // namespace telva::prove

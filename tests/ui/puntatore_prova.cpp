@@ -108,4 +108,24 @@ TEST_F(PuntatoreProva, AlPixel) {
         EXPECT_EQ(diversi, 0) << k;
     }
 }
+
+TEST_F(PuntatoreProva, DaQualunqueVista) {
+    for (int k = 0; k < 60;
+         ++k) { // the window reaches the corner pixel; a drag goes on from what is shown
+        ImpostaZoom(k / 7.0, k * 1.1, 90 + k * 3.3, 120);
+        Recita(messaggi, "Aggiungi Finestra Ridis");
+        d.MouseDown(1, 0, X(300), Y(200)), d.MouseMove(0, 0, X(0), Y(0));
+        EXPECT_TRUE(d.Shape.Left == X(0) && d.Shape.Top == Y(0)) << k;
+        d.MouseDown(4, 0, X(300), Y(200)), d.MouseMove(4, 0, X(310), Y(220));
+        k % 2 ? FormTelva.Rotella(k % 3 ? 2 : -1) : FormTelva.Ottimizza.Click();
+        const Superficie prima = d.Immagine();
+        d.MouseMove(4, 0, X(310), Y(220));
+        EXPECT_TRUE(
+            std::equal(prima.Riga(0), prima.Riga(prima.Altezza() - 1), d.Immagine().Riga(0)))
+            << k;
+        d.MouseUp(4, 0, X(310), Y(220));
+    }
+    Recita(messaggi, "Interrompi Ottimizza Aggiungi s-5,-5 RimTutto #1110001r s210,210 #1400000 "
+                     ">1,1-10 Sposta s9,9 c8,8 #1401010l");
+}
 } // namespace telva::prove

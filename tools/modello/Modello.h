@@ -367,7 +367,7 @@ struct Modello {
         double px = 0, py = 0, qx = 0, qy = 0;
         char virgola = 0;
         s >> px >> virgola >> py;
-        tasto = 4, linea = 0;
+        tasto = 4, linea = inCorso;
         xl = scala[0] + px * scala[2] / largo, yl = scala[1] + py * scala[3] / alto;
         const Quattro vecchia = vista;
         Inquadra();
@@ -418,7 +418,6 @@ struct Modello {
         }
         if (v == "RimTutto") {
             const int f = fun, sf = sotto;
-            Annulla();
             fun = 2;
             Attributo(1, 10);
             fun = f, sotto = sf, sottoTxt = "Selezione diretta";

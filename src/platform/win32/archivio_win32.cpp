@@ -68,11 +68,12 @@ class File {
     HANDLE file_;
 };
 
-// The folder takes no new file: overwrite what is there, and put it back when that fails half-way.
+// No new file can take the place of the old one: overwrite what is there, and put it back when that
+// fails half-way. Somebody who reads it meanwhile is no obstacle.
 bool ScriviSulPosto(const std::string &percorso, std::string_view contenuto) {
     std::string prima;
     if (!LeggiFile(percorso, prima)) return false;
-    File file(ALargo(percorso), GENERIC_WRITE, 0, OPEN_EXISTING);
+    File file(ALargo(percorso), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
     if (!file.Aperto()) return false;
     if (file.Scrivi(contenuto) && SetEndOfFile(file.Maniglia())) return file.Chiudi();
     if (file.Inizio() && file.Scrivi(prima)) SetEndOfFile(file.Maniglia());
@@ -119,10 +120,11 @@ bool ScriviFile(const std::string &percorso, std::string_view contenuto) {
     bool ok = file.Scrivi(contenuto) && FlushFileBuffers(file.Maniglia()) != 0;
     if (ok) file.Passeggero(false);
     ok = file.Chiudi() && ok;
-    ok = ok && MoveFileExW(provvisorio.c_str(), destinazione.c_str(),
-                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-    if (!ok) DeleteFileW(provvisorio.c_str());
-    return ok;
+    if (ok && MoveFileExW(provvisorio.c_str(), destinazione.c_str(),
+                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+        return true;
+    DeleteFileW(provvisorio.c_str());
+    return ok && ScriviSulPosto(percorso, contenuto); // somebody holds it open
 }
 
 } // namespace telva

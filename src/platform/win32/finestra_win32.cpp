@@ -501,6 +501,10 @@ bool FinestraWin32::Tasto(MSG &m) {
         if (premuto && modulo_.KeyUp) Evento([this] { modulo_.KeyUp(kEscape); });
         return premuto;
     }
+    if (m.message == WM_CHAR && m.wParam == kEscape) { // typed as a character, not by its key
+        if (modulo_.KeyPress) Evento([this] { modulo_.KeyPress(kEscape); });
+        return true;
+    }
     if (m.message != WM_KEYDOWN) return false;
     if (m.wParam == VK_ESCAPE) {
         escPremuto_ = true;
@@ -526,6 +530,7 @@ bool FinestraWin32::Rotella(const MSG &m) {
     const Controllo *c = nostra ? DaNativo(sotto) : nullptr;
     if (!c || c->TipoControllo() != Tipo::Disegno) return false;
     const int passi = rotella_.Aggiungi(static_cast<short>(HIWORD(m.wParam)));
+    // One by one: five at once, each a tenth from either side, would leave nothing of the window.
     for (int n = std::abs(passi); n > 0; --n) Evento([&] { modulo_.Rotella(passi > 0 ? 1 : -1); });
     return true;
 }
