@@ -163,6 +163,7 @@ class CasellaTesto : public Controllo {
           BackColor(*this, Campo::Sfondo, kColoreFinestra) {}
     Proprieta<std::string> Text;
     Proprieta<std::uint32_t> BackColor;
+    bool stretta = false;             // no margins: every pixel counts
     std::function<void(int)> KeyDown; // virtual key code
 };
 

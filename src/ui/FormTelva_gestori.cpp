@@ -208,7 +208,7 @@ void Form_Resize() {
         f.Angolo[k].Top = f.StringaSel.Top();
         f.Label1[k].Top = f.StringaSel.Top();
         f.Label2[k].Top = f.StringaSel.Top + 100;
-        const double left = w - 2035 + k * 632;
+        const double left = w - 2235 + k * 705;
         f.Label1[k].Left = left;
         f.Label2[k].Left = left + 120;
         f.Angolo[k].Left = left + 210;

@@ -1,6 +1,7 @@
 #include "view/inquadra.h"
 
 #include "model/struttura.h"
+#include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
 
 namespace telva {
 
@@ -32,6 +34,26 @@ struct Intervallo {
           massimo(ValoreNumerico(campi[1].Text()) + 0.5 + 1e-6) {}
     bool Comprende(double valore) const { return valore >= minimo && valore <= massimo; }
 };
+
+std::array<std::string, 6> intervalliValidi; // texts of the boxes as last taken over
+
+// A text that is no number is told and gives way to the last one that was.
+void AccogliIntervalli() {
+    std::size_t posto = 0;
+    for (auto *campi : {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ})
+        for (CasellaTesto &casella : *campi) {
+            std::string &valido = intervalliValidi[posto++];
+            const std::string testo = casella.Text;
+            if (testo == valido) continue;
+            if (NumeroStretto(testo)) {
+                valido = testo;
+                continue;
+            }
+            casella.Text = valido;
+            MostraMessaggio("Intervallo di coordinate non valido: " + testo, Icona::Critica,
+                            "ERRORE");
+        }
+}
 
 Tabella<bool, kNodi> nodoDentro{"NomeNodo"};
 
@@ -136,6 +158,7 @@ bool ApplicaRotella(double d) {
 }
 
 void CalcolaAttivi() {
+    AccogliIntervalli();
     CalcolaNodiDentro();
     const Filtri filtri;
     const bool nodi = FormTelva.NodiAtt.Value, aste = FormTelva.AsteAtt.Value,
@@ -176,6 +199,7 @@ void Adatta() {
 void AzzeraVista() {
     FinestraZoom = {};
     FinestraVista = {};
+    intervalliValidi.fill("");
 }
 
 } // namespace telva

@@ -27,7 +27,8 @@ void AggiornaFinestraVista();
 // Wheel by d steps (positive = zoom in). False when the window has become too small to redraw.
 bool ApplicaRotella(double d);
 
-// Active flags of all elements, from the coordinate intervals and the side bar's check boxes.
+// Active flags of all elements, from the coordinate intervals and the side bar's check boxes. An
+// interval box whose text is no number gets its last one back, and a message says so.
 void CalcolaAttivi();
 
 // Activation, then the user scale of Disegno: the chosen window undistorted, centred, with

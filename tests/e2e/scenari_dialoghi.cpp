@@ -19,9 +19,9 @@ Ambiente Copia(Ambiente amb) {
     return amb;
 }
 
-// What may keep a file from being opened: it is gone, a folder, in the hands of another program
-// that shares it or does not, or may only be read.
-enum Ostacolo { kManca, kCartella, kLetto, kChiuso, kSolaLettura };
+// What may keep a file from being opened: it is gone, a folder, in another program's hands, or may
+// only be read; last, in the hands of one that shares it.
+enum Ostacolo { kManca, kCartella, kChiuso, kSolaLettura, kLetto };
 class Impedito {
   public:
     Impedito(fs::path file, Ostacolo modo) : file_(std::move(file)) {
@@ -214,7 +214,7 @@ SCENARIO(riquadri_di_avvio) {
 }
 
 SCENARIO(uscita_impossibile) {
-    for (const Ostacolo modo : {kManca, kCartella, kLetto, kChiuso, kSolaLettura}) {
+    for (const Ostacolo modo : {kManca, kCartella, kChiuso, kSolaLettura, kLetto}) {
         Sessione s(amb, 1, "9,14");
         const auto file = s.lavoro / "TelvaOut.txt";
         ScriviFile(file, "8\n");

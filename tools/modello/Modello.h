@@ -30,7 +30,7 @@ struct Modello {
     int fun = 0, sotto = 0, primo = 0, inCorso = 0, zoomA = 0, spostaA = 0, autom = 0, tasto = 0;
     int tipo = 0, risposta = 0, linea = 0, coord = 1;
     string sottoTxt, domanda, testo, lab, str[5], abil = "-------------", messaggi;
-    string intervalli[6], angoli[3] = {"0", "0", "0"}, valido[3];
+    string intervalli[6], ultimi[6], angoli[3] = {"0", "0", "0"}, valido[3];
     bool spunte[5] = {true, true, true, true, true}; // nodes, bars, shells, selected, others
     bool scalaNota = false, dubbio = false;
     Quattro zoom{}, vista{}, scala{}; // scala: left, top, width, -height
@@ -117,6 +117,13 @@ struct Modello {
         if (Zoomata()) vista = zoom;
     }
     void Adatta() {
+        for (int k = 0; k < 6; ++k) {
+            if (intervalli[k].empty() || intervalli[k] == "abc")
+                Dice("Intervallo di coordinate non valido: " +
+                         std::exchange(intervalli[k], ultimi[k]),
+                     "ERRORE", 0);
+            ultimi[k] = intervalli[k];
+        }
         for (int t = 0; t < 3; ++t)
             for (Elemento &e : el[t]) e.att = Dentro(e) && spunte[t] && spunte[e.sel ? 3 : 4];
         Inquadra();

@@ -82,6 +82,8 @@ void FinestraWin32::AggiornaFont(Controllo &c, HWND h) {
     const bool piccolo = c.TipoControllo() == Tipo::Etichetta &&
                          static_cast<Etichetta &>(c).stile == StileEtichetta::Pedice;
     SendMessageW(h, WM_SETFONT, reinterpret_cast<WPARAM>(piccolo ? fontPiccolo_ : font_), creata_);
+    if (c.TipoControllo() == Tipo::CasellaTesto && static_cast<CasellaTesto &>(c).stretta)
+        SendMessageW(h, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
 void FinestraWin32::CreaSuggerimenti() {

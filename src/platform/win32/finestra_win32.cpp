@@ -463,6 +463,7 @@ void FinestraWin32::Comando(HWND nativo, WORD codice, WORD id) {
     case Tipo::CasellaTesto:
         if (codice == EN_CHANGE)
             static_cast<CasellaTesto *>(c)->Text.Accogli(TestoFinestra(nativo));
+        if (codice == EN_KILLFOCUS) SendMessageW(nativo, EM_SETSEL, 0, 0); // seen from its start
         break;
     case Tipo::CasellaSpunta:
         if (codice == BN_CLICKED) Evento([&] { static_cast<CasellaSpunta *>(c)->Premi(); });

@@ -16,6 +16,7 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     Label6.stile = StileEtichetta::SuPiuRighe;
     StringaSel.stile = StileEtichetta::Riassunto;
     for (Etichetta &e : Label2) e.stile = StileEtichetta::Pedice;
+    for (CasellaTesto &c : Angolo) c.stretta = true;
     Inizio();
 }
 
@@ -55,12 +56,12 @@ void Disponi(ModuloTelva &f) {
         (*campi[k])[1].Posiziona(1130, riga, 800, 290);
         tutto[k]->Posiziona(1960, riga - 5, 740, 300);
     }
-    f.Label5.Posiziona(60, 0, 2320, 285);
-    f.StringaSel.Posiziona(2400, 0, 0, 290);
+    f.Label5.Posiziona(30, 0, 2155, 285);
+    f.StringaSel.Posiziona(2200, 0, 0, 290);
     for (int k = 0; k < 3; ++k) {
         f.Label1[k].Posiziona(0, 0, 115, 285);
         f.Label2[k].Posiziona(0, 0, 90, 200);
-        f.Angolo[k].Posiziona(0, 0, 390, 300);
+        f.Angolo[k].Posiziona(0, 0, 465, 300);
     }
     f.Frame2.Posiziona(30, 0, 2610, 465);
     f.FunAttiva.Posiziona(30, 0, 2580, 225);
