@@ -101,6 +101,12 @@ SCENARIO(posto_ricordato) {
             GetWindowRect(f, &prima);
         }
         UGUALE(IsZoomed(f) != 0, giro == 2);
+        if (giro == 1) { // two at once can both be seen
+            Programma altra(amb.telva, amb.Argomento(), true);
+            GetWindowRect(altra.Principale(), &ora);
+            VERIFICA(ora.left > prima.left && ora.top > prima.top);
+            altra.Premi("Ctrl+E"), UGUALE(altra.AttendiFine(), 0U);
+        }
         if (giro == 1) ShowWindow(f, SW_MAXIMIZE);
         if (giro == 2) ShowWindow(f, SW_RESTORE);
         GetWindowRect(f, &ora);

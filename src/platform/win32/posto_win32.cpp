@@ -13,6 +13,16 @@ constexpr const wchar_t *kChiave = L"Software\\Telva", *kValore = L"Finestra";
 constexpr std::int32_t kLimite = 1 << 20; // no window stands there
 using Numeri = std::array<std::int32_t, 5>;
 
+// Whether another window of the program stands with its corner just there.
+bool Occupato(const RECT &r, HWND questa) {
+    RECT altra{};
+    for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, L"TelvaFinestra", nullptr)) != nullptr;)
+        if (h != questa && IsWindowVisible(h) && GetWindowRect(h, &altra) && altra.left == r.left &&
+            altra.top == r.top)
+            return true;
+    return false;
+}
+
 } // namespace
 
 std::optional<PostoFinestra> LeggiPosto() {
@@ -36,12 +46,18 @@ void ScriviPosto(const PostoFinestra &posto) {
     RegSetKeyValueW(HKEY_CURRENT_USER, kChiave, kValore, REG_BINARY, n.data(), sizeof n);
 }
 
-// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone.
+// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone,
+// nor hide another one exactly.
 void FinestraWin32::Sposta(LONG left, LONG top) {
     RECT r{};
     if (!GetWindowRect(hwnd_, &r)) return;
     OffsetRect(&r, left - r.left, top - r.top);
     PortaNelloSchermo(r);
+    const int scarto = MulDiv(26, static_cast<int>(modulo_.dpi), 96);
+    for (int n = 0; n < 10 && Occupato(r, hwnd_); ++n) {
+        OffsetRect(&r, scarto, scarto);
+        PortaNelloSchermo(r);
+    }
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
