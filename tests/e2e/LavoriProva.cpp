@@ -108,12 +108,18 @@ void Suggerisce(S s, T r) {
 }
 
 // To within two pixels: the view is kept in drawing units.
+std::string Luogo(const POINT &p) { return std::to_string(p.x) + "," + std::to_string(p.y); }
+
 void NodoIn(S s, T r) {
     const POINT atteso = s.Luogo(r.substr(r.find(' ') + 1));
-    s.p.Aspetta("the node to stand there", [&] {
-        const auto n = s.Nodo(std::stoi(r));
-        return n && std::abs(n->x - atteso.x) <= 2 && std::abs(n->y - atteso.y) <= 2;
-    });
+    POINT visto{};
+    s.p.Aspetta(
+        "the node to stand at " + Luogo(atteso),
+        [&] {
+            visto = s.Nodo(std::stoi(r)).value_or(POINT{-1, -1});
+            return std::abs(visto.x - atteso.x) <= 2 && std::abs(visto.y - atteso.y) <= 2;
+        },
+        [&] { return Luogo(visto); });
 }
 
 // What was drawn reaches the screen a little later, so the picture has to rest for a while.

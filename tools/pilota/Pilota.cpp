@@ -22,7 +22,8 @@ namespace {
 constexpr DWORD limiteMs = 20000;  // after this a step has failed
 constexpr DWORD sondaggioMs = 3;   // between two looks at a condition
 constexpr ULONGLONG quieteMs = 40; // a window takes input safely after this long without a change
-constexpr DWORD riposoPuntatore = 15; // before modifiers and wheel, so that moves are not merged
+constexpr DWORD riposoPuntatore =
+    15; // before modifiers, wheel and drags, so that moves are not merged
 
 [[noreturn]] void Fallisci(const std::string &testo) {
     if (alFallimento) alFallimento();
@@ -538,9 +539,16 @@ void Programma::Trascina(HWND finestra, POINT da, POINT a, Bottone bottone,
                          const std::function<void()> &inMezzo) {
     da = Punta(finestra, da);
     ClientToScreen(finestra, &a);
+    Sleep(riposoPuntatore);
     const Tenuti premuto({Mouse(da, Giu(bottone)), Mouse(a, Su(bottone))});
     for (int passo : {1, 2, 3, 4})
         Manda({Mouse({da.x + (a.x - da.x) * passo / 4, da.y + (a.y - da.y) * passo / 4})});
+    Aspetta("the pointer to stay at the far end", [&] { // a late event may have taken it back
+        POINT ora{};
+        if (GetCursorPos(&ora) && ora.x == a.x && ora.y == a.y) return true;
+        Manda({Mouse(a)});
+        return false;
+    });
     if (inMezzo) inMezzo();
 }
 
