@@ -282,6 +282,7 @@ class Modulo : public Controllo {
     std::function<void()> Resize;
     std::function<void(int)> KeyPress; // character code
     std::function<void(int)> KeyUp;    // virtual key code
+    std::function<bool(int)> KeyDown;  // the same, with Ctrl, outside text boxes; true when used
     std::function<void()> Unload;      // the window is about to go
     std::function<void(int)> Rotella;  // mouse wheel, one step at a time: +1 or -1
 

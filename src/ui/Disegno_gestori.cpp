@@ -274,6 +274,35 @@ void WheelCatcher1_Rotella(int passi) {
     if (ApplicaRotella(passi)) Ridis_Click();
 }
 
+bool Vista_KeyDown(int tasto) {
+    enum {
+        kSinistra = 37,
+        kSu,
+        kDestra,
+        kGiu,
+        kPiu = 107,
+        kMeno = 109,
+        kPiuLettere = 187,
+        kMenoLettere = 189
+    };
+    const bool avanti = tasto == kDestra || tasto == kSu,
+               piu = tasto == kPiu || tasto == kPiuLettere;
+    if (piu || tasto == kMeno || tasto == kMenoLettere) {
+        WheelCatcher1_Rotella(piu ? 1 : -1);
+        return true;
+    }
+    if (tasto < kSinistra || tasto > kGiu) return false;
+    const RiquadroDisegno &d = Disegno();
+    const double verso = avanti ? -1 : 1; // towards what lies there, a tenth in whole pixels
+    const double dx = verso * (d.LarghezzaPixel() / 10) / std::abs(d.ScalaX());
+    const double dy = verso * (d.AltezzaPixel() / 10) / std::abs(d.ScalaY());
+    const bool inX = tasto == kSinistra || tasto == kDestra;
+    AggiornaFinestraVista();
+    SpostaVista(FinestraVista, inX ? dx : 0, inX ? 0 : dy);
+    Ridis_Click();
+    return true;
+}
+
 void AnnullaElastici() {
     PrimoAngolo = SpostaInCorso = ModoZoom = ModoSposta = 0;
     trascina.attivo = false;

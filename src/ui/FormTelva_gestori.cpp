@@ -237,6 +237,7 @@ void CollegaFormTelva() {
     f.KeyPress = [](int carattere) {
         if (carattere == kCarattereEsc) Interrompi_Click();
     };
+    f.KeyDown = Vista_KeyDown;
     f.Resize = Form_Resize;
     f.Unload = ChiudiFormOpt;
     f.Rotella = WheelCatcher1_Rotella;

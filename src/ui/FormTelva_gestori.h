@@ -45,6 +45,8 @@ void Disegno_MouseUp(int button, int shift, float x, float y);
 void Disegno_DblClick();
 void Disegno_CatturaPersa();
 void WheelCatcher1_Rotella(int passi);
+// Keys with Ctrl: arrows move the view, + and - are wheel steps; true when it was one of them.
+bool Vista_KeyDown(int tasto);
 // Hides the rubber bands and forgets a begun rectangle, zoom or pan.
 void AnnullaElastici();
 // Gives up a begun selection rectangle; an automatic one goes back to direct pick.

@@ -20,16 +20,18 @@ std::string angoliValidi[3]; // texts of the boxes at the last projection
 
 // The three angles in degrees; false when one of the texts is no number.
 bool LeggiAngoli(double (&angoli)[3]) {
+    bool validi = true;
     for (int k = 0; k < 3; ++k) {
         const std::string testo = FormTelva.Angolo[k].Text;
         if (const auto angolo = NumeroStretto(testo)) {
             angoli[k] = *angolo;
             continue;
         }
+        validi = false;
         if (!angoliValidi[k].empty()) FormTelva.Angolo[k].Text = angoliValidi[k];
         MostraMessaggio("Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE");
-        return false;
     }
+    if (!validi) return false;
     for (int k = 0; k < 3; ++k) angoliValidi[k] = FormTelva.Angolo[k].Text;
     return true;
 }

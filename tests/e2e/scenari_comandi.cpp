@@ -103,7 +103,7 @@ SCENARIO(selezioni_per_scheda) {
     s.Fai("Risposta:=0-20000" + troppi + "Ctrl+T; /S m; Risposta:=5,1-100" + troppi +
           "Risposta:=32768; Invio");
     UGUALE(s.p.ChiudiRiquadro().titolo, "ERRORE");
-    s.Fai("=7,7-9,12,14; Risposta:=5,7-105; Invio; =8,12,14");
+    s.Fai("=7,7-9,12,14; 8; Risposta=327688; Risposta:=5,7-105; Invio; =8,12,14");
 }
 
 // A grey command runs nothing: seen once a later command has had its effect.

@@ -47,8 +47,10 @@ SCENARIO(mouse_zoom_e_spostamenti) {
     s.Fai("punta 3-60-60; in 4 4+20-10; medio 3-60-60; in 4 4; in 1 1");
     // The wheel works on the drawing under it, whatever has the focus.
     for (const std::string fuoco : {"Angolo(0)", "OptElem(0)", "NodiAtt"}) {
-        s.Fai("vai " + fuoco +
-              "; rotella 9; vede !4; rotella -9; vede 4; medio 3-60-60; in 4 4; in 1 1");
+        s.Fai(
+            "vai " + fuoco +
+            "; rotella 9; vede !4; rotella -9; vede 4; medio 3-60-60; in 4 4; in 1 1" +
+            (fuoco[0] == 'A' ? "" : "; foto Disegno; Ctrl+Destra; diversa; Ctrl+Sinistra; uguale"));
         VERIFICA(s.p.HaFuoco(fuoco));
     }
     // A double click fits with the middle button only.

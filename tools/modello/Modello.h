@@ -74,12 +74,13 @@ struct Modello {
         intervalli[2 * asse + 1] = to_string(int(std::floor(valore(b) + 0.5)));
     }
     bool Proietta() {
+        bool errore = false;
         for (int k = 0; k < 3; ++k)
             if (angoli[k].empty() || angoli[k] == "x1") {
                 Dice("Angolo di vista non valido: " + angoli[k], "ERRORE", 0);
-                angoli[k] = valido[k];
-                return false;
+                angoli[k] = valido[k], errore = true;
             }
+        if (errore) return false;
         std::ranges::copy(angoli, valido);
         const auto rad = [&](int k) { return std::stod(valido[k]) * 3.14159265359 / 180; };
         const double a = rad(0), b = -rad(1), c = rad(2);

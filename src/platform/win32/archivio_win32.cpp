@@ -75,7 +75,9 @@ bool ScriviSulPosto(const std::string &percorso, std::string_view contenuto) {
     if (!LeggiFile(percorso, prima)) return false;
     File file(ALargo(percorso), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
     if (!file.Aperto()) return false;
-    if (file.Scrivi(contenuto) && SetEndOfFile(file.Maniglia())) return file.Chiudi();
+    if (file.Scrivi(contenuto) && SetEndOfFile(file.Maniglia()) &&
+        FlushFileBuffers(file.Maniglia()))
+        return file.Chiudi();
     if (file.Inizio() && file.Scrivi(prima)) SetEndOfFile(file.Maniglia());
     return false;
 }

@@ -463,7 +463,10 @@ void FinestraWin32::Comando(HWND nativo, WORD codice, WORD id) {
     case Tipo::CasellaTesto:
         if (codice == EN_CHANGE)
             static_cast<CasellaTesto *>(c)->Text.Accogli(TestoFinestra(nativo));
-        if (codice == EN_KILLFOCUS) SendMessageW(nativo, EM_SETSEL, 0, 0); // seen from its start
+        // Left for another control, a narrow box shows its text from the start.
+        if (codice == EN_KILLFOCUS && static_cast<CasellaTesto *>(c)->stretta &&
+            IsChild(hwnd_, GetFocus()))
+            SendMessageW(nativo, EM_SETSEL, 0, 0);
         break;
     case Tipo::CasellaSpunta:
         if (codice == BN_CLICKED) Evento([&] { static_cast<CasellaSpunta *>(c)->Premi(); });
@@ -511,6 +514,12 @@ bool FinestraWin32::Tasto(MSG &m) {
         escPremuto_ = true;
         if (modulo_.KeyPress) Evento([this] { modulo_.KeyPress(kEscape); });
         return true;
+    }
+    const bool ctrl = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+    if (ctrl && !casella && modulo_.KeyDown) { // in a box they belong to its text
+        bool preso = false;
+        Evento([&] { preso = modulo_.KeyDown(static_cast<int>(m.wParam)); });
+        if (preso) return true;
     }
     if (casella && casella->KeyDown) {
         const int tasto = static_cast<int>(m.wParam);

@@ -103,8 +103,8 @@ LRESULT MenuWin32::Lettera(HMENU menu, wchar_t lettera) const {
     while (scelta < quante && !(GetMenuState(menu, scelta, MF_BYPOSITION) & MF_HILITE)) ++scelta;
     for (const auto &[voce, posto] : posti_) {
         const std::wstring testo = ALargo(voce->Caption());
-        if (posto.menu == menu && !testo.empty() && testo.find(L'&') == std::wstring::npos &&
-            grande(testo.front()) == grande(lettera))
+        if (posto.menu == menu && voce->Enabled && !testo.empty() &&
+            testo.find(L'&') == std::wstring::npos && grande(testo.front()) == grande(lettera))
             adatte.push_back(posto.posizione);
     }
     if (adatte.empty()) return MAKELRESULT(0, MNC_IGNORE);

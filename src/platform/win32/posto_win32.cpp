@@ -55,7 +55,11 @@ void FinestraWin32::Sposta(LONG left, LONG top) {
     PortaNelloSchermo(r);
     const int scarto = MulDiv(26, static_cast<int>(modulo_.dpi), 96);
     for (int n = 0; n < 10 && Occupato(r, hwnd_); ++n) {
+        const RECT prima = r;
         OffsetRect(&r, scarto, scarto);
+        PortaNelloSchermo(r);
+        if (!EqualRect(&r, &prima)) continue;
+        OffsetRect(&r, -r.left, -r.top); // no room further on: from the beginning of the screen
         PortaNelloSchermo(r);
     }
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
