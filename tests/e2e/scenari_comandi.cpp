@@ -12,7 +12,7 @@ const struct {
 } kProprieta[] = {{"m", "materiale", "rssss"},    {"o", "nome elemento", "sssss"},
                   {"6", "sezione", "rsrs-"},      {"7", "spessore", "rrsr-"},
                   {"8", "orientamento", "rsrs-"}, {"9", "svincolo", "rsrr-"},
-                  {"v", "vincolo", "srrr-"}};
+                  {"10", "vincolo", "srrr-"}};
 
 // By which doors a command is given; inside the answer box the keys must not act on its text.
 std::vector<std::string> Porte(const char *voce, int bottone, const std::string &tasti) {
@@ -93,7 +93,8 @@ SCENARIO(selezioni_per_scheda) {
     for (std::string genere, testo, lista; casi >> genere >> k >> testo >> lista;) {
         const auto &[voce, nome, esiti] = kProprieta[k];
         const auto che = k == 1 ? "i nomi degli elementi" : "i numeri delle schede di " + nome;
-        s.Fai("@" + genere + "; Ctrl+A; /O m; =; /S " + voce + "; s=Seleziona per " + nome +
+        const std::string lettera = k == 3 ? "s" : k == 6 ? "v" : voce; // the only one not grey
+        s.Fai("@" + genere + "; Ctrl+A; /O m; =; /S " + lettera + "; s=Seleziona per " + nome +
               "; Domanda=Inserire " + che + " e premere INVIO");
         s.Fai("Risposta:=" + testo + "; Invio; =" + lista + "; Risposta=" + testo);
     }
@@ -128,7 +129,7 @@ SCENARIO(rifiuti_e_voci_spente) {
          {"0l", "0t", "1p", "1t", "2l", "2p", "3p", "3t"})                 // submenus: an open
         s.Fai("@" + f.substr(0, 1) + "; Ctrl+A; /S " + f[1] + " Esc Esc"); // one wants one more Esc
     s.Fai("@1; Esc; f=; /O v; =7,7-9,12,14");
-    for (const std::string voce : {"f", "m", "6", "8", "v", "o", "u"})
+    for (const std::string voce : {"f", "m", "6", "8", "10", "o", "u"})
         s.Fai("/S " + voce + "; /O v; =; /O v; =7,7-9,12,14; s=");
 }
 
