@@ -158,6 +158,7 @@ void Comanda(const std::string &righe) {
         case 'd': d.DblClick(); break;
         case 'r': FormTelva.Rotella(px); break;
         case 'e': FormTelva.KeyPress(27); break;
+        case 'k': FormTelva.KeyDown(numero(1)); break;
         case 'w':
             FormTelva.Width = px * 50;
             FormTelva.Height = py * 50;
