@@ -26,6 +26,9 @@ std::int16_t FinestraAutomatica = 0; // 1 = the window was opened by a pick that
 namespace {
 
 constexpr int kSinistro = 1, kDestro = 2, kCentrale = 4;
+// Virtual keys; + and - stand among the letters and on the number pad.
+constexpr int kTastoSinistra = 37, kTastoSu = 38, kTastoDestra = 39, kTastoGiu = 40;
+constexpr int kTastoPiu = 187, kTastoMeno = 189, kTastoPiuCifre = 107, kTastoMenoCifre = 109;
 constexpr double kSoglia = 0.0001; // drawing units: shorter moves are none
 
 double primoX = 0, primoY = 0; // first corner
@@ -275,31 +278,26 @@ void WheelCatcher1_Rotella(int passi) {
 }
 
 bool Vista_KeyDown(int tasto) {
-    enum {
-        kSinistra = 37,
-        kSu,
-        kDestra,
-        kGiu,
-        kPiu = 107,
-        kMeno = 109,
-        kPiuLettere = 187,
-        kMenoLettere = 189
-    };
-    const bool avanti = tasto == kDestra || tasto == kSu,
-               piu = tasto == kPiu || tasto == kPiuLettere;
-    if (piu || tasto == kMeno || tasto == kMenoLettere) {
-        WheelCatcher1_Rotella(piu ? 1 : -1);
-        return true;
-    }
-    if (tasto < kSinistra || tasto > kGiu) return false;
     const RiquadroDisegno &d = Disegno();
-    const double verso = avanti ? -1 : 1; // towards what lies there, a tenth in whole pixels
-    const double dx = verso * (d.LarghezzaPixel() / 10) / std::abs(d.ScalaX());
-    const double dy = verso * (d.AltezzaPixel() / 10) / std::abs(d.ScalaY());
-    const bool inX = tasto == kSinistra || tasto == kDestra;
-    AggiornaFinestraVista();
-    SpostaVista(FinestraVista, inX ? dx : 0, inX ? 0 : dy);
-    Ridis_Click();
+    // A tenth of the box, in whole pixels, towards what lies there.
+    const double dx = d.LarghezzaPixel() / 10 / std::abs(d.ScalaX());
+    const double dy = d.AltezzaPixel() / 10 / std::abs(d.ScalaY());
+    const auto guarda = [](double x, double y) {
+        AggiornaFinestraVista();
+        SpostaVista(FinestraVista, -x, -y);
+        Ridis_Click();
+    };
+    switch (tasto) {
+    case kTastoSinistra: guarda(-dx, 0); break;
+    case kTastoSu: guarda(0, dy); break;
+    case kTastoDestra: guarda(dx, 0); break;
+    case kTastoGiu: guarda(0, -dy); break;
+    case kTastoPiu:
+    case kTastoPiuCifre: WheelCatcher1_Rotella(1); break;
+    case kTastoMeno:
+    case kTastoMenoCifre: WheelCatcher1_Rotella(-1); break;
+    default: return false;
+    }
     return true;
 }
 
