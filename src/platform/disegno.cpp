@@ -12,13 +12,16 @@ int Vicino(double v) { return static_cast<int>(std::floor(v + 0.5)); }
 
 // Rubber bands: dashes of light over dark, to be seen on every colour of the drawing.
 constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
-constexpr std::uint32_t kElasticoScuro = 0x404040;
+constexpr std::uint32_t kElasticoScuro = 0x202020;
 
+// Light dashes on a dark band, which cuts through whatever is drawn there.
 void Elastico(Superficie &s, Pixel a, Pixel b, int spessore) {
-    for (int k = 0; k < spessore; ++k) {
-        const Pixel da{a.x + k, a.y + k}, fino{b.x + k, b.y + k};
-        s.Linea(da, fino, kElasticoScuro);
-        s.LineaTratteggiata(da, fino, kElasticoChiaro, {0xF, 8});
+    s.LineaLarga(a, b, spessore + 4, kElasticoScuro);
+    const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+    for (int k = 0; k < spessore; ++k) { // side by side
+        const int kx = ripida ? k : 0, ky = ripida ? 0 : k;
+        s.LineaTratteggiata({a.x + kx, a.y + ky}, {b.x + kx, b.y + ky}, kElasticoChiaro,
+                            {0xFF, 12});
     }
 }
 
@@ -169,7 +172,7 @@ void RiquadroDisegno::ComponiElastici(Superficie &striscia, int daRiga, int righ
     }
     if (LineSposta.Visible)
         Elastico(striscia, punto(LineSposta.X1, LineSposta.Y1), punto(LineSposta.X2, LineSposta.Y2),
-                 spessore);
+                 2 * spessore);
 }
 
 } // namespace telva
