@@ -1,8 +1,7 @@
 // Window selection: what lies wholly inside, the margin of one unit, what is hidden.
-#include "sostegno/Banco.h"
+#include "sostegno/Recita.h"
 
 namespace telva::prove {
-void Recita(std::vector<Messaggio> &messaggi, const std::string &copione); // puntatore_prova.cpp
 
 TEST_F(Banco, FinestraPrendeSoloCioCheStaDentro) {
     LavoroProva lavoro = Telaio();

@@ -1,10 +1,9 @@
 // Typed lists: the parser, what is refused, which elements a list marks.
 #include "selection/schede_sel.h"
-#include "sostegno/Banco.h"
+#include "sostegno/Recita.h"
 #include <sstream>
 
 namespace telva::prove {
-void Recita(std::vector<Messaggio> &messaggi, const std::string &copione); // puntatore_prova.cpp
 
 TEST_F(Banco, LetturaDellaLista) {
     std::istringstream casi(R"(=;3,7,12=3 7 12 ;5-8=5 6 7 8 ;1,4-6,9=1 4 5 6 9 ;8-5=;7-=;7-,3=3 ;

@@ -1,10 +1,9 @@
 // The command table: menu tree, tool bar and keys, as the user manual lists them.
-#include "sostegno/Banco.h"
+#include "sostegno/Recita.h"
 #include "ui/controlli/FormTelva.h"
 #include <algorithm>
 
 namespace telva::prove {
-void Recita(std::vector<Messaggio> &messaggi, const std::string &copione); // puntatore_prova.cpp
 
 // "name:caption^shortcut;", "*" when ticked; the items of a menu in brackets.
 static std::string Albero(const std::vector<VoceMenu *> &voci) {

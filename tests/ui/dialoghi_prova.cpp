@@ -1,6 +1,6 @@
 // The two options dialogs, opened from their menu items.
 #include "model/opzioni_cond.h"
-#include "sostegno/Banco.h"
+#include "sostegno/Recita.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
@@ -8,7 +8,6 @@
 #include <sstream>
 
 namespace telva::prove {
-void Recita(std::vector<Messaggio> &messaggi, const std::string &copione); // puntatore_prova.cpp
 
 TEST_F(Banco, DialogoTrappola) {
     Apri(Telaio());

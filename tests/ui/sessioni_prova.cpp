@@ -1,11 +1,10 @@
 // Whole sessions, from the caller's exchange file to the one that it gets back.
-#include "sostegno/Banco.h"
+#include "sostegno/Recita.h"
 #include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
 #include <sstream>
 
 namespace telva::prove {
-void Recita(std::vector<Messaggio> &messaggi, const std::string &copione); // puntatore_prova.cpp
 
 struct SessioniProva : Banco { // exit code and file of the program's end, if it comes
     std::string Fine(const std::string &copione) {
