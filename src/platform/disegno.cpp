@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace telva {
 namespace {
@@ -14,14 +15,20 @@ int Vicino(double v) { return static_cast<int>(std::floor(v + 0.5)); }
 constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
 constexpr std::uint32_t kElasticoScuro = 0x202020;
 
-// Light dashes on a dark band, which cuts through whatever is drawn there.
-void Elastico(Superficie &s, Pixel a, Pixel b, int spessore) {
-    s.LineaLarga(a, b, spessore + 4, kElasticoScuro);
-    const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
-    for (int k = 0; k < spessore; ++k) { // side by side
-        const int kx = ripida ? k : 0, ky = ripida ? 0 : k;
-        s.LineaTratteggiata({a.x + kx, a.y + ky}, {b.x + kx, b.y + ky}, kElasticoChiaro,
-                            {0xFF, 12});
+struct Striscia {
+    Pixel a, b;
+};
+
+// Light dashes on dark bands, which cut through whatever is drawn there.
+void Elastici(Superficie &s, std::initializer_list<Striscia> strisce, int spessore) {
+    for (const auto &[a, b] : strisce) s.LineaLarga(a, b, spessore + 4, kElasticoScuro);
+    for (const auto &[a, b] : strisce) {
+        const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+        for (int k = 0; k < spessore; ++k) { // side by side, in the middle
+            const int kx = ripida ? k - spessore / 2 : 0, ky = ripida ? 0 : k - spessore / 2;
+            s.LineaTratteggiata({a.x + kx, a.y + ky}, {b.x + kx, b.y + ky}, kElasticoChiaro,
+                                {0xFF, 12});
+        }
     }
 }
 
@@ -165,13 +172,12 @@ void RiquadroDisegno::ComponiElastici(Superficie &striscia, int daRiga, int righ
     if (Shape.Visible) {
         const Pixel a = punto(Shape.Left, Shape.Top);
         const Pixel b = punto(Shape.Left + Shape.Width, Shape.Top - Shape.Height);
-        Elastico(striscia, a, {b.x, a.y}, spessore);
-        Elastico(striscia, {b.x, a.y}, b, spessore);
-        Elastico(striscia, b, {a.x, b.y}, spessore);
-        Elastico(striscia, {a.x, b.y}, a, spessore);
+        const Pixel c{b.x, a.y}, e{a.x, b.y};
+        Elastici(striscia, {{a, c}, {c, b}, {b, e}, {e, a}}, spessore);
     }
     if (LineSposta.Visible)
-        Elastico(striscia, punto(LineSposta.X1, LineSposta.Y1), punto(LineSposta.X2, LineSposta.Y2),
+        Elastici(striscia,
+                 {{punto(LineSposta.X1, LineSposta.Y1), punto(LineSposta.X2, LineSposta.Y2)}},
                  2 * spessore);
 }
 

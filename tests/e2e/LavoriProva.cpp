@@ -107,9 +107,9 @@ void Suggerisce(S s, T r) {
     DIVENTA(s.p, suggerimento(), r.substr(r.find(' ') + 1));
 }
 
-// To within two pixels: the view is kept in drawing units.
 std::string Luogo(const POINT &p) { return std::to_string(p.x) + "," + std::to_string(p.y); }
 
+// To within two pixels: the view is kept in drawing units.
 void NodoIn(S s, T r) {
     const POINT atteso = s.Luogo(r.substr(r.find(' ') + 1));
     POINT visto{};

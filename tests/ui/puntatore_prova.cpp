@@ -78,6 +78,10 @@ TEST_F(PuntatoreProva, DaQualunqueVista) {
         EXPECT_TRUE(uguali(prima, d.LarghezzaPixel() / 10)) << k;
         EXPECT_TRUE(f.KeyDown(37) && uguali(prima, 0)) << k;
     }
+    for (int n = 0; n < 60; ++n) f.KeyDown(187); // the last steps in are refused
+    const double sinistra = d.ScaleLeft, larghezza = d.ScaleWidth;
+    f.KeyDown(39);
+    EXPECT_NEAR(d.ScaleLeft - sinistra, larghezza / 10, larghezza / 500);
     Recita(messaggi, "Interrompi Ottimizza Aggiungi s-5,-5 RimTutto #1110001r s210,210 #1400000 "
                      ">1,1-10 Sposta s9,9 c8,8 #1401010l");
 }

@@ -465,8 +465,10 @@ void FinestraWin32::Comando(HWND nativo, WORD codice, WORD id) {
             static_cast<CasellaTesto *>(c)->Text.Accogli(TestoFinestra(nativo));
         // Left for another control, a narrow box shows its text from the start.
         if (codice == EN_KILLFOCUS && static_cast<CasellaTesto *>(c)->stretta &&
-            IsChild(hwnd_, GetFocus()))
+            IsChild(hwnd_, GetFocus())) {
             SendMessageW(nativo, EM_SETSEL, 0, 0);
+            SendMessageW(nativo, EM_SCROLLCARET, 0, 0);
+        }
         break;
     case Tipo::CasellaSpunta:
         if (codice == BN_CLICKED) Evento([&] { static_cast<CasellaSpunta *>(c)->Premi(); });

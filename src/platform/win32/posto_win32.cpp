@@ -59,8 +59,10 @@ void FinestraWin32::Sposta(LONG left, LONG top) {
         OffsetRect(&r, scarto, scarto);
         PortaNelloSchermo(r);
         if (!EqualRect(&r, &prima)) continue;
-        OffsetRect(&r, -r.left, -r.top); // no room further on: from the beginning of the screen
-        PortaNelloSchermo(r);
+        MONITORINFO info{}; // no room further on: from the beginning of the monitor
+        info.cbSize = sizeof info;
+        GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info);
+        OffsetRect(&r, info.rcWork.left - r.left, info.rcWork.top - r.top);
     }
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
