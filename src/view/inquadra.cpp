@@ -1,7 +1,6 @@
 #include "view/inquadra.h"
 
 #include "model/struttura.h"
-#include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
@@ -43,15 +42,11 @@ void AccogliIntervalli() {
     for (auto *campi : {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ})
         for (CasellaTesto &casella : *campi) {
             std::string &valido = intervalliValidi[posto++];
-            const std::string testo = casella.Text;
-            if (testo == valido) continue;
-            if (NumeroStretto(testo)) {
-                valido = testo;
-                continue;
-            }
-            casella.Text = valido;
-            MostraMessaggio("Intervallo di coordinate non valido: " + testo, Icona::Critica,
-                            "ERRORE");
+            if (casella.Text == valido) continue;
+            if (NumeroStretto(casella.Text()))
+                valido = casella.Text();
+            else
+                Rifiuta(casella, valido, "Intervallo di coordinate non valido: ");
         }
 }
 

@@ -28,8 +28,8 @@ bool LeggiAngoli(double (&angoli)[3]) {
             continue;
         }
         validi = false;
-        if (!angoliValidi[k].empty()) FormTelva.Angolo[k].Text = angoliValidi[k];
-        MostraMessaggio("Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE");
+        Rifiuta(FormTelva.Angolo[k], angoliValidi[k].empty() ? testo : angoliValidi[k],
+                "Angolo di vista non valido: ");
     }
     if (!validi) return false;
     for (int k = 0; k < 3; ++k) angoliValidi[k] = FormTelva.Angolo[k].Text;
@@ -98,6 +98,12 @@ double ProiettaX(double x, double y, double z) {
 }
 double ProiettaY(double x, double y, double z) {
     return MatRot[3][1] * x + MatRot[3][2] * y + MatRot[3][3] * z;
+}
+
+void Rifiuta(CasellaTesto &casella, const std::string &valido, const char *messaggio) {
+    const std::string testo = casella.Text;
+    casella.Text = valido;
+    MostraMessaggio(messaggio + testo, Icona::Critica, "ERRORE");
 }
 
 bool ProiettaNodi() {

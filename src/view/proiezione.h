@@ -3,6 +3,7 @@
 // directions, and the extents shown in the coordinate-interval boxes.
 
 #include "model/struttura.h"
+#include "platform/controlli.h"
 
 namespace telva {
 
@@ -17,6 +18,9 @@ extern Direzione DirAsseX, DirAsseY, DirAsseZ; // projected unit vectors of the 
 void CalcolaMatrice(double a, double b, double c);
 double ProiettaX(double x, double y, double z);
 double ProiettaY(double x, double y, double z);
+
+// Puts a box's last valid text back, and says with `messaggio` which one was not.
+void Rifiuta(CasellaTesto &casella, const std::string &valido, const char *messaggio);
 
 // Reads the Angolo boxes and projects everything. When an angle is no number its message is shown,
 // the box gets the angle of the view back, and the view stays as it was: false.

@@ -109,11 +109,14 @@ void TogliNome(HWND finestra) {
     if (atomo) GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(atomo)));
 }
 
-void PortaNelloSchermo(RECT &r) {
+RECT AreaDiLavoro(const RECT &r) {
     MONITORINFO info{};
     info.cbSize = sizeof info;
-    if (!GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info)) return;
-    const RECT &area = info.rcWork;
+    return GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info) ? info.rcWork : r;
+}
+
+void PortaNelloSchermo(RECT &r) {
+    const RECT area = AreaDiLavoro(r);
     const LONG l = std::min(r.right - r.left, area.right - area.left);
     const LONG a = std::min(r.bottom - r.top, area.bottom - area.top);
     r.left = std::clamp(r.left, area.left, area.right - l);

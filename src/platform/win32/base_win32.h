@@ -59,6 +59,9 @@ bool FacciaScura();
 void AssegnaNome(HWND finestra, const std::string &nome);
 void TogliNome(HWND finestra);
 
+// Work area of the monitor nearest to a rectangle; the rectangle itself when the system cannot
+// tell.
+RECT AreaDiLavoro(const RECT &r);
 // Brings a rectangle into the work area of its nearest monitor: moved first, then made smaller.
 void PortaNelloSchermo(RECT &r);
 

@@ -46,7 +46,7 @@ void FinestraWin32::DisegnaCampione(const DRAWITEMSTRUCT &d) {
     if (!c || c->TipoControllo() != Tipo::Campione) return;
     const auto &campione = static_cast<const Campione &>(*c);
     RECT r = d.rcItem;
-    if (!campione.Click) { // the frame around a swatch
+    if (!DaScegliere(*c)) { // the frame around a swatch
         const int marcato = c->Enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT;
         FillRect(d.hDC, &r, GetSysColorBrush(campione.Marcato ? marcato : COLOR_BTNFACE));
         return;

@@ -59,10 +59,8 @@ void FinestraWin32::Sposta(LONG left, LONG top) {
         OffsetRect(&r, scarto, scarto);
         PortaNelloSchermo(r);
         if (!EqualRect(&r, &prima)) continue;
-        MONITORINFO info{}; // no room further on: from the beginning of the monitor
-        info.cbSize = sizeof info;
-        GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info);
-        OffsetRect(&r, info.rcWork.left - r.left, info.rcWork.top - r.top);
+        const RECT area = AreaDiLavoro(r); // no room further on: from the beginning
+        OffsetRect(&r, area.left - r.left, area.top - r.top);
     }
     SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
