@@ -1,0 +1,321 @@
+// What the user sees, pixel by pixel. After a change on purpose: rinnova.sh, and a look.
+#include "Generatore.h"
+#include "ScriviLavoro.h"
+#include "immagini/Confronto.h"
+#include "model/opzioni_cond.h"
+#include "model/struttura.h"
+#include "sostegno/Banco.h"
+#include "ui/controlli/FormTelva.h"
+#include "ui/icone.h"
+#include "view/FunzDisegno.h"
+#include "view/inquadra.h"
+#include "view/proiezione.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace telva::prove {
+namespace {
+
+constexpr double kTwipPerPixel = 15;
+
+// A job drawn on a sheet: x to the right and z upwards, one unit a pixel. Only what is asked for is
+// seen of it: the nodes between bars and shells have no name.
+struct Foglio : LavoroProva {
+    int nomi = 0;
+
+    int Punto(double x, double z) {
+        const int posto = static_cast<int>(punti.size());
+        punti.push_back({x, 0, z});
+        nodi.push_back({.punto = posto, .nome = 0});
+        return posto;
+    }
+    void NodoVisibile(double x, double z, int colore) {
+        const int posto = Punto(x, z);
+        nodi.back() = {.punto = posto, .nome = ++nomi, .colore = colore};
+    }
+    void Linea(double x1, double z1, double x2, double z2, int colore, int tipo = 0) {
+        const int i = Punto(x1, z1), j = Punto(x2, z2);
+        aste.push_back({.i = i, .j = j, .nome = ++nomi, .colore = colore, .tipo = tipo});
+    }
+    void Raggi(double x, double z, double lungo, int colore) {
+        for (int gradi = 0; gradi < 360; gradi += 15) {
+            const double angolo = gradi * std::numbers::pi / 180;
+            const double c = std::cos(angolo), s = std::sin(angolo);
+            Linea(x + 12 * c, z + 12 * s, x + lungo * c, z + lungo * s, colore);
+        }
+    }
+    // A slanting quadrilateral in the square of side `lato` whose lower left corner is (x, z).
+    void Quadrilatero(double x, double z, double lato, int tratto, int colore) {
+        const int a = Punto(x, z), b = Punto(x + lato, z + lato * 0.2);
+        const int c = Punto(x + lato * 0.9, z + lato), e = Punto(x + lato * 0.15, z + lato * 0.8);
+        gusci.push_back({.nodi = {a, b, c, e}, .nome = ++nomi, .colore = colore, .tratto = tratto});
+    }
+    void Triangolo(double x, double z, double lato, int tratto, int colore) {
+        const int a = Punto(x, z), b = Punto(x + lato, z), c = Punto(x + lato / 3, z + lato);
+        gusci.push_back(
+            {.nodi = {a, b, c, -1}, .nome = ++nomi, .colore = colore, .tratto = tratto});
+    }
+};
+
+// A premultiplied picture over what is there.
+void Sovrapponi(Superficie &s, const std::vector<std::uint32_t> &icona, int lato, int x0, int y0) {
+    for (int n = 0; n < lato * lato; ++n) {
+        const std::uint32_t p = icona[static_cast<std::size_t>(n)];
+        std::uint32_t &sotto = s.Riga(y0 + n / lato)[x0 + n % lato];
+        std::uint32_t misto = 0;
+        for (const int posto : {0, 8, 16})
+            misto |= ((p >> posto & 0xFF) + (sotto >> posto & 0xFF) * (255 - (p >> 24)) / 255)
+                     << posto;
+        sotto = misto;
+    }
+}
+
+// Puts a picture below those that are there.
+void Impila(Superficie &pila, const Superficie &s) {
+    const Superficie sopra = pila;
+    pila.Ridimensiona(s.Larghezza(), sopra.Altezza() + s.Altezza());
+    std::copy(sopra.Riga(0), sopra.Riga(sopra.Altezza()), pila.Riga(0));
+    std::copy(s.Riga(0), s.Riga(s.Altezza()), pila.Riga(sopra.Altezza()));
+}
+
+struct Immagini : Banco {
+    RiquadroDisegno &d = FormTelva.Disegno;
+
+    void Misura(int larghezza, int altezza) {
+        d.Width = larghezza * kTwipPerPixel;
+        d.Height = altezza * kTwipPerPixel;
+    }
+    void Angoli(const char *a, const char *b, const char *c) {
+        FormTelva.Angolo[0].Text = a;
+        FormTelva.Angolo[1].Text = b;
+        FormTelva.Angolo[2].Text = c;
+    }
+    const Superficie &Dipingi() {
+        CalcolaAttivi();
+        DisegnaStruttura();
+        return d.Immagine();
+    }
+    void Confronta(const std::string &nome) { ConfrontaImmagine(Dipingi(), nome); }
+    void ApriFoglio(const Foglio &foglio, int larghezza, int altezza) {
+        Apri(foglio);
+        FormTelva.VisAssi.Checked = false;
+        Misura(larghezza, altezza);
+        d.Scale(0, altezza, larghezza, 0);
+    }
+    void ApriCampione() {
+        Installa("dimo01");
+        std::string cartella = Radice() + "/lavori/dimo01";
+        std::ranges::replace(cartella, '\\', '/');
+        generatore::ScriviLavoro(cartella, generatore::Genera({}));
+        ASSERT_TRUE(Avvia());
+        Misura(640, 480);
+    }
+    // The frame with two braces that cross, close up and without its hatches.
+    void ApriTelaio() {
+        LavoroProva l = Telaio();
+        l.aste.push_back({.i = 1, .j = 5, .nome = 13});
+        l.aste.push_back({.i = 2, .j = 4, .nome = 14});
+        for (auto &g : l.gusci) g.tratto = 0;
+        l.elementi.push_back({30, "Pilastro", {11}});
+        l.elementi.push_back({40, "Diagonale", {13}});
+        Apri(l);
+        FormTelva.VisAssi.Checked = false;
+        Misura(520, 520);
+        Adatta();
+        Opzioni[kOpzBaseTesto] = 4.0;
+        Opzioni[kOpzAltezzaTesto] = 5.0;
+        Opzioni[kOpzDistanzaTesto] = 2.0;
+        Opzioni[kOpzTestiElCont] = 0.0;
+    }
+};
+
+TEST_F(Immagini, LavoroDiFronte) {
+    ApriCampione();
+    Angoli("0", "0", "0");
+    ASSERT_TRUE(ProiettaNodi());
+    Adatta();
+    Confronta("lavoro_fronte");
+}
+
+TEST_F(Immagini, LavoroInAssonometria) {
+    ApriCampione();
+    for (int b = 0; b < NumAste; b += 7) SelAsta[b] = 1;
+    for (int g = 0; g < NumGusci; g += 11) SelGuscio[g] = 1;
+    for (int i = 0; i < NumNodi; i += 13) SelNodo[i] = 1;
+    Angoli("25", "-20", "35");
+    ASSERT_TRUE(ProiettaNodi());
+    Adatta();
+    Confronta("lavoro_assonometria");
+}
+
+TEST_F(Immagini, TipiDiLinea) {
+    Foglio f;
+    for (int tipo = 0; tipo < 6; ++tipo) { // 5 is none of the types: continuous
+        const double z = 10 + 50 * tipo;
+        f.Linea(10, z, 110, z, 1, tipo);
+        f.Linea(220, z + 40, 120, z, 5, tipo);
+        f.Linea(230, z, 250, z + 44, 7, tipo);
+        f.Linea(260, z + 44, 260, z, 3, tipo);
+        f.Linea(270, z + 30, 360, z + 5, 4, tipo);
+    }
+    ApriFoglio(f, 370, 310);
+    Confronta("tipi_linea");
+}
+
+TEST_F(Immagini, Penne) {
+    Foglio f;
+    f.Raggi(80, 80, 70, 1);
+    f.Raggi(240, 80, 70, 4);
+    f.Raggi(400, 80, 70, 9);
+    f.NodoVisibile(80, 80, 3);
+    f.NodoVisibile(240, 80, 3);
+    f.Triangolo(20, 165, 60, 0, 5);
+    f.Quadrilatero(220, 165, 60, 1, 7);
+    ApriFoglio(f, 480, 240);
+    for (int b = 24; b < 48; ++b) SelAsta[b] = 1;
+    SelNodo[f.aste[48].i - 1] = SelGuscio[1] = 1;
+    Opzioni[kOpzPennaNonSel] = 2.0;
+    Opzioni[kOpzPennaSel] = 5.0;
+    Confronta("penne");
+}
+
+TEST_F(Immagini, ColoriDegliElementi) {
+    Foglio f;
+    for (int colore = 0; colore < 12; ++colore) { // 10 and 11 are hidden
+        const double x = 10 + 40 * colore;
+        for (const double z : {10.0, 120.0}) {
+            f.NodoVisibile(x + 15, z + 8, colore);
+            f.Linea(x, z + 20, x + 30, z + 35, colore);
+            f.Quadrilatero(x, z + 45, 32, 3, colore);
+        }
+    }
+    ApriFoglio(f, 490, 220);
+    for (int k = 1; k < 24; k += 2) { // the upper ones are selected
+        SelAsta[k] = SelGuscio[k] = 1;
+        SelNodo[f.aste[static_cast<std::size_t>(k)].i - 1] = 1;
+    }
+    Superficie pila = Dipingi();
+    Opzioni[kOpzColoreSel] = 0.0; // the cyan goes to those that are not selected
+    Impila(pila, Dipingi());
+    ConfrontaImmagine(pila, "colori");
+}
+
+TEST_F(Immagini, Retini) {
+    Foglio f;
+    for (int tratto = 0; tratto < 10; ++tratto) { // 0 and 9 are none
+        const double x = 10 + 110 * (tratto % 5), z = 140 - 130 * (tratto / 5);
+        f.Quadrilatero(x, z, 100, tratto, tratto == 0 ? 1 : tratto);
+        f.Triangolo(x + 70, z + 3, 50, tratto, 1); // lies over it: the lines join up
+    }
+    f.Quadrilatero(10, 262, 11, 1, 1); // too small for a hatch
+    f.Quadrilatero(40, 262, 14, 7, 1);
+    f.Quadrilatero(500, 200, 120, 6, 5); // partly outside
+    ApriFoglio(f, 570, 280);
+    Confronta("retini");
+}
+
+TEST_F(Immagini, NodiDiOgniRaggio) {
+    Foglio f;
+    for (int k = 0; k < 8; ++k) f.NodoVisibile(20 + 40 * k, 20, 1 + k);
+    Superficie pila;
+    ApriFoglio(f, 340, 40);
+    for (int k = 1; k < 8; k += 2) SelNodo[k] = 1;
+    for (const int raggio : {0, 1, 4, 13}) {
+        Opzioni[kOpzRaggioNodo] = double(raggio);
+        Impila(pila, Dipingi());
+    }
+    ConfrontaImmagine(pila, "nodi");
+}
+
+TEST_F(Immagini, TernaDegliAssi) {
+    Apri(Telaio());
+    FormTelva.NodiAtt.Value = FormTelva.AsteAtt.Value = FormTelva.GusciAtt.Value = false;
+    Misura(130, 110);
+    struct Vista {
+        const char *a, *b, *c;
+    };
+    Superficie pila;
+    for (const Vista &v : {Vista{.a = "0", .b = "0", .c = "0"},
+                           {.a = "90", .b = "0", .c = "0"},
+                           {.a = "20", .b = "-40", .c = "110"}}) {
+        Angoli(v.a, v.b, v.c);
+        ASSERT_TRUE(ProiettaNodi());
+        Impila(pila, Dipingi());
+    }
+    ConfrontaImmagine(pila, "assi");
+}
+
+TEST_F(Immagini, Etichette) {
+    ApriTelaio();
+    struct Genere {
+        const char *nome;
+        int opzione;
+    };
+    constexpr Genere kGeneri[] = {{.nome = "etichette_nodi", .opzione = kOpzTestiNodi},
+                                  {.nome = "etichette_aste", .opzione = kOpzTestiAste},
+                                  {.nome = "etichette_gusci", .opzione = kOpzTestiGusci},
+                                  {.nome = "etichette_continui", .opzione = kOpzTestiElCont}};
+    for (int parte : {2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
+    for (const Genere &g : kGeneri) {
+        Opzioni[g.opzione] = 1.0;
+        Confronta(g.nome);
+        Opzioni[g.opzione] = 0.0;
+    }
+}
+
+// So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke.
+TEST_F(Immagini, EtichetteGrandi) {
+    ApriTelaio();
+    Opzioni[kOpzTestiAste] = Opzioni[kOpzTestiNodi] = 1.0;
+    FinestraZoom = {.primaX = 130, .secondaX = 95, .primaY = 120, .secondaY = 90};
+    Adatta();
+    Confronta("etichette_grandi");
+}
+
+TEST_F(Immagini, Elastici) {
+    Foglio f;
+    f.Quadrilatero(40, 30, 90, 7, 1);
+    ApriFoglio(f, 200, 150);
+    CalcolaAttivi();
+    DisegnaStruttura();
+    d.Shape.Left = 20;
+    d.Shape.Top = 130;
+    d.Shape.Width = 90;
+    d.Shape.Height = 70;
+    d.LineSposta.X1 = 30;
+    d.LineSposta.Y1 = 20;
+    d.LineSposta.X2 = 180;
+    d.LineSposta.Y2 = 110;
+    d.Shape.Visible = d.LineSposta.Visible = true;
+    Superficie composta;
+    d.ComponiElastici(composta, 0, d.AltezzaPixel());
+    ConfrontaImmagine(composta, "elastici");
+}
+
+// Every icon at every size, over a light and a dark tool bar.
+TEST_F(Immagini, Icone) {
+    constexpr const char *kChiavi[] = {
+        "AggiornaEsci", "Esci",    "Ottimizza",    "Zoom",       "Sposta",     "Ridisegna",
+        "Aggiungi",     "Rimuovi", "RimuoviTutto", "InvertiSel", "Interrompi", "AggiungiBarraLat",
+        "Telva"};
+    constexpr int kPasso = 52;
+    Superficie s;
+    s.Ridimensiona(kPasso * static_cast<int>(std::size(kChiavi)), 5 * 2 * kPasso);
+    int y0 = 0;
+    for (const int lato : {16, 20, 24, 32, 48})
+        for (const std::uint32_t fondo : {0xF0F0F0u, 0x202020u}) {
+            std::fill(s.Riga(y0), s.Riga(y0 + kPasso), fondo);
+            int x0 = 2;
+            for (const char *chiave : kChiavi) {
+                Sovrapponi(s, DisegnaIcona(chiave, lato), lato, x0, y0 + 2);
+                x0 += kPasso;
+            }
+            y0 += kPasso;
+        }
+    ConfrontaImmagine(s, "icone");
+}
+
+} // namespace
+} // namespace telva::prove
