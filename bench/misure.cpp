@@ -15,8 +15,11 @@
 #include "selection/trappola.h"
 #include "startup/avvio.h"
 #include "startup/direttori_cond.h"
+#include "ui/Disegno_gestori.h"
 #include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "ui/vista_gestori.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
 #include "view/proiezione.h"
@@ -155,7 +158,7 @@ void Diretta(benchmark::State &s, int tipo) {
         CodSottoFun = kDiretta;
         Disegno_MouseDown(1, 0, x, y);
         s.PauseTiming();
-        AnnullaElastici();
+        FinisciGesti();
         Deseleziona();
         s.ResumeTiming();
     }

@@ -13,9 +13,11 @@
 #include "selection/selezione.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
+#include "ui/Disegno_gestori.h"
 #include "ui/FormOptInt_gestori.h"
 #include "ui/FormOpt_gestori.h"
 #include "ui/FormTelva_gestori.h"
+#include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
@@ -58,6 +60,7 @@ void LeggiTabelle() {
 } // namespace
 
 void Avvia() {
+    CostruisciComandi();
     CollegaFormTelva();
     CollegaFormOpt();
     CollegaFormOptInt();

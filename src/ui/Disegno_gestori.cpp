@@ -1,7 +1,7 @@
 // The pointer on the drawing: direct pick, selection window, zoom window, pan by two clicks and pan
-// by dragging with the middle button, as one state machine; and the coordinate read-out.
+// by dragging with the middle button; and the coordinate read-out.
 
-#include "ui/FormTelva_gestori.h"
+#include "ui/Disegno_gestori.h"
 
 #include "model/struttura.h"
 #include "platform/numeri.h"
@@ -10,25 +10,20 @@
 #include "selection/selezione.h"
 #include "selection/trappola.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "ui/vista_gestori.h"
+#include "view/inquadra.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace telva {
 
-std::int16_t PrimoAngolo = 0;        // 1 = first corner placed, second awaited
-std::int16_t SpostaInCorso = 0;      // 1 = first point of a two-click pan placed
-std::int16_t ModoZoom = 0;           // 1 from the command Zoom until its rectangle is complete
-std::int16_t ModoSposta = 0;         // 1 from the command Sposta until the pan is complete
-std::int16_t UltimoTasto = 0;        // button of the last press: 1 left, 2 right, 4 middle
-std::int16_t FinestraAutomatica = 0; // 1 = the window was opened by a pick that hit nothing
+std::int16_t UltimoTasto = 0;
 
 namespace {
 
 constexpr int kSinistro = 1, kDestro = 2, kCentrale = 4;
-// Virtual keys; + and - stand among the letters and on the number pad.
-constexpr int kTastoSinistra = 37, kTastoSu = 38, kTastoDestra = 39, kTastoGiu = 40;
-constexpr int kTastoPiu = 187, kTastoMeno = 189, kTastoPiuCifre = 107, kTastoMenoCifre = 109;
 constexpr double kSoglia = 0.0001; // drawing units: shorter moves are none
 
 double primoX = 0, primoY = 0; // first corner
@@ -36,7 +31,6 @@ double primoX = 0, primoY = 0; // first corner
 // The view when the middle button went down: window and corner of the scale; and the zoom window
 // that the drag has set last.
 struct {
-    bool attivo = false;
     FinestraDisegno finestra;
     double scalaSinistra = 0, scalaAlto = 0;
     FinestraDisegno ultima;
@@ -44,8 +38,8 @@ struct {
 
 RiquadroDisegno &Disegno() { return FormTelva.Disegno; }
 
+// After a zoom or a pan: the gesture of the selection goes on, and is named again.
 void RipristinaSottoFun() {
-    Disegno().MousePointer = CodSottoFun == kFinestra ? Puntatore::Croce : Puntatore::Predefinito;
     Etichetta &etichetta = FormTelva.SottoFunAttiva;
     switch (CodSottoFun) {
     case kNessuna: AzzeraInput(); break;
@@ -57,18 +51,15 @@ void RipristinaSottoFun() {
     }
 }
 
-bool PrimoPuntoSposta(double x, double y) {
-    if (SpostaInCorso != 0 || ModoSposta != 1) return false;
-    SpostaInCorso = 1;
+void PrimoPuntoSposta(double x, double y) {
     Segmento &linea = Disegno().LineSposta;
     linea.X1 = linea.X2 = x;
     linea.Y1 = linea.Y2 = y;
-    linea.Visible = true;
-    return true;
+    Entra(Gesto::SpostaAperto);
 }
 
+// False while the second point lies on the first.
 bool SecondoPuntoSposta(double x, double y) {
-    if (SpostaInCorso != 1 || ModoSposta != 1) return false;
     Segmento &linea = Disegno().LineSposta;
     linea.X2 = x;
     linea.Y2 = y;
@@ -76,8 +67,7 @@ bool SecondoPuntoSposta(double x, double y) {
     if (!(std::abs(dx) > kSoglia || std::abs(dy) > kSoglia)) return false;
     AggiornaFinestraVista(); // the zoom window, or the whole structure when there is none
     SpostaVista(FinestraVista, dx, dy);
-    ModoSposta = SpostaInCorso = 0;
-    linea.Visible = false;
+    Entra(Gesto::VistaFerma);
     Ridis_Click();
     RipristinaSottoFun();
     return true;
@@ -98,96 +88,111 @@ void TendiRettangolo(double x, double y) {
     shape.Height = std::abs(y - primoY);
 }
 
-bool PrimoAngoloRettangolo(double x, double y) {
-    if (PrimoAngolo != 0 || !(CodSottoFun == kFinestra || ModoZoom == 1)) return false;
+void PrimoAngoloRettangolo(Gesto aperto, double x, double y) {
     primoX = x;
     primoY = y;
     Rettangolo &shape = Disegno().Shape;
     shape.Left = x;
     shape.Top = y;
     shape.Width = shape.Height = 0;
-    shape.Visible = true;
-    PrimoAngolo = 1;
-    return true;
+    Entra(aperto);
 }
+
+bool SenzaArea(const Rettangolo &r) { return r.Width * r.Height == 0; }
 
 // Without a running function there is nothing that a pick could add or remove.
 bool SelezioneDirettaPronta() {
-    return CodSottoFun == kDiretta && ModoZoom == 0 && CodFunAttiva != kNessunaFunzione;
+    return CodSottoFun == kDiretta && CodFunAttiva != kNessunaFunzione;
 }
 
-void Scegli(int button, int shift, float x, float y) {
+void AttendiFinestra(Gesto attesa) {
+    CodSottoFun = kFinestra;
+    FormTelva.SottoFunAttiva.Caption = "Seleziona per finestra";
+    Entra(attesa);
+}
+
+// After an automatic window direct pick goes on.
+void RiprendiDiretta() {
+    CodSottoFun = kDiretta;
+    AbilitaComandi();
+    FormTelva.SottoFunAttiva.Caption = "Selezione diretta";
+    Entra(Gesto::Riposo);
+}
+
+void Scegli(double x, double y) {
     FormTelva.MousePointer = Puntatore::Clessidra;
     const std::int16_t nome = SelezioneDiretta(x, y);
     if (nome < 1) { // nothing there: the same click opens a selection window
-        FinestraAutomatica = 1;
-        Finestra_Click();
-        Disegno_MouseDown(button, shift, x, y);
+        AttendiFinestra(Gesto::AutomaticaAttesa);
+        PrimoAngoloRettangolo(Gesto::AutomaticaAperta, x, y);
     } else {
         SelezionaElementoPerNome(TestoNumero(nome));
     }
     FormTelva.MousePointer = Puntatore::Predefinito;
 }
 
-// After an automatic window direct pick goes on.
-void RiprendiDiretta() {
-    if (FinestraAutomatica != 1) return;
-    FinestraAutomatica = 0;
-    CodSottoFun = kDiretta;
-    AbilitaComandi();
-    FormTelva.SottoFunAttiva.Caption = "Selezione diretta";
-    Disegno().MousePointer = Puntatore::Predefinito;
-}
-
-void SelezionaRettangolo(const Rettangolo &r) {
-    FormTelva.MousePointer = Puntatore::Clessidra;
-    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height);
-    FormTelva.MousePointer = Puntatore::Predefinito;
-    RiprendiDiretta();
-}
-
-void ZoomRettangolo(const Rettangolo &r) {
+void SecondoAngoloZoom(double x, double y) {
+    TendiRettangolo(x, y);
+    const Rettangolo &r = Disegno().Shape;
+    if (SenzaArea(r)) return Entra(Gesto::ZoomArmato);
+    Entra(Gesto::VistaFerma);
     ImpostaZoom(r.Left, r.Top, r.Left + r.Width, r.Top - r.Height);
-    ModoZoom = 0;
     Ridis_Click();
     RipristinaSottoFun();
 }
 
-void SecondoAngolo(double x, double y) {
-    if (PrimoAngolo != 1) return;
+void SecondoAngoloFinestra(double x, double y) {
     TendiRettangolo(x, y);
-    const Rettangolo &shape = Disegno().Shape;
-    PrimoAngolo = 0;
-    Disegno().Shape.Visible = false;
-    if (shape.Width * shape.Height == 0) return; // no area: nothing, and the mode stays
-    if (ModoZoom == 1)
-        ZoomRettangolo(shape);
-    else if (CodSottoFun == kFinestra)
-        SelezionaRettangolo(shape);
+    const Rettangolo &r = Disegno().Shape;
+    const bool automatica = InCorso(Gesto::AutomaticaAperta);
+    Entra(automatica ? Gesto::AutomaticaAttesa : Gesto::FinestraAttesa);
+    if (SenzaArea(r)) return;
+    FormTelva.MousePointer = Puntatore::Clessidra;
+    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height);
+    FormTelva.MousePointer = Puntatore::Predefinito;
+    if (automatica) RiprendiDiretta();
 }
 
-void TastoSinistro(int shift, float x, float y) {
-    if (PrimoPuntoSposta(x, y) || SecondoPuntoSposta(x, y) || PrimoAngoloRettangolo(x, y)) return;
-    if (PrimoAngolo != 1 && SelezioneDirettaPronta())
-        Scegli(kSinistro, shift, x, y);
-    else
-        SecondoAngolo(x, y);
+// What a left click does to the gesture of the view; false when it goes on to the selection's.
+bool ClickVista(double x, double y) {
+    switch (GestoIn(Strato::Vista)) {
+    case Gesto::SpostaArmato: PrimoPuntoSposta(x, y); return true;
+    case Gesto::SpostaAperto: return SecondoPuntoSposta(x, y);
+    case Gesto::ZoomArmato: PrimoAngoloRettangolo(Gesto::ZoomAperto, x, y); return true;
+    case Gesto::ZoomAperto: SecondoAngoloZoom(x, y); return true;
+    default: return false;
+    }
+}
+
+void ClickSelezione(double x, double y) {
+    switch (GestoIn(Strato::Selezione)) {
+    case Gesto::FinestraAttesa: PrimoAngoloRettangolo(Gesto::FinestraAperta, x, y); break;
+    case Gesto::AutomaticaAttesa: PrimoAngoloRettangolo(Gesto::AutomaticaAperta, x, y); break;
+    case Gesto::FinestraAperta:
+    case Gesto::AutomaticaAperta: SecondoAngoloFinestra(x, y); break;
+    default:
+        if (SelezioneDirettaPronta()) Scegli(x, y);
+    }
+}
+
+void TastoSinistro(double x, double y) {
+    if (!ClickVista(x, y)) ClickSelezione(x, y);
 }
 
 void InizioTrascina(double x, double y) {
     Segmento &linea = Disegno().LineSposta;
-    linea.Visible = SpostaInCorso == 1;
     linea.X1 = linea.X2 = x;
     linea.Y1 = linea.Y2 = y;
     if (!ZoomImpostato()) AggiornaFinestraVista();
-    trascina = {true, ZoomImpostato() ? FinestraZoom : FinestraVista, Disegno().ScaleLeft,
+    trascina = {ZoomImpostato() ? FinestraZoom : FinestraVista, Disegno().ScaleLeft,
                 Disegno().ScaleTop, FinestraZoom};
+    Entra(Gesto::Trascina);
 }
 
 // The pointer's place is told in a scale that the drag itself moves: both are brought back to the
 // scale of the press, in whole pixels, so that the drawing sticks to the pointer.
 void Trascina(double x, double y) {
-    if (!trascina.attivo) return;
+    if (!InCorso(Gesto::Trascina)) return;
     if (!(FinestraZoom == trascina.ultima)) { // wheel or command in between: on from what it shows
         InizioTrascina(x, y);
         return;
@@ -217,30 +222,32 @@ void MostraCoordinate(double x, double y) {
     FormTelva.LabCoord.Caption = testo;
 }
 
+// A begun selection window is given up; one that is awaited is still awaited afterwards.
+void ArmaVista(Gesto armato, const char *titolo) {
+    ChiudiFinestraInCorso();
+    Entra(Gesto::TastoLibero);
+    Entra(armato);
+    FormTelva.SottoFunAttiva.Caption = titolo;
+}
+
 } // namespace
 
-void ZoomIn_Click() {
-    ChiudiFinestraInCorso();
-    AnnullaElastici();
-    ModoZoom = 1;
-    FormTelva.SottoFunAttiva.Caption = "Zoom";
-    Disegno().MousePointer = Puntatore::Croce;
+void Finestra_Click() {
+    FinisciGesti();
+    AzzeraInput();
+    AttendiFinestra(Gesto::FinestraAttesa);
 }
 
-void Sposta_Click() {
-    ChiudiFinestraInCorso();
-    AnnullaElastici();
-    ModoSposta = 1;
-    FormTelva.SottoFunAttiva.Caption = "Sposta";
-    Disegno().MousePointer = Puntatore::Ridimensiona;
-}
+void ZoomIn_Click() { ArmaVista(Gesto::ZoomArmato, "Zoom"); }
 
-void Disegno_MouseDown(int button, int shift, float x, float y) {
+void Sposta_Click() { ArmaVista(Gesto::SpostaArmato, "Sposta"); }
+
+void Disegno_MouseDown(int button, int, float x, float y) {
     UltimoTasto = static_cast<std::int16_t>(button);
     switch (button) {
     case kDestro: FormTelva.MostraPopup(FormTelva.Visualizza); break;
     case kCentrale: InizioTrascina(x, y); break;
-    case kSinistro: TastoSinistro(shift, x, y); break;
+    case kSinistro: TastoSinistro(x, y); break;
     default: break;
     }
 }
@@ -253,72 +260,34 @@ void Disegno_MouseMove(int button, int, float x, float y) {
         x += static_cast<float>(Disegno().ScaleLeft - sinistra);
         y += static_cast<float>(Disegno().ScaleTop - alto);
     }
-    if (ModoSposta == 1 && SpostaInCorso == 1) {
+    if (InCorso(Gesto::SpostaAperto)) {
         Disegno().LineSposta.X2 = x;
         Disegno().LineSposta.Y2 = y;
     }
-    if (PrimoAngolo == 1 && (CodSottoFun == kFinestra || ModoZoom == 1)) TendiRettangolo(x, y);
+    if (PrimoAngolo == 1) TendiRettangolo(x, y);
     MostraCoordinate(x, y);
 }
 
 void Disegno_MouseUp(int button, int, float, float) {
-    if (button == kCentrale) trascina.attivo = false;
+    if (button == kCentrale) Entra(Gesto::TastoLibero);
 }
 
-void Disegno_CatturaPersa() { trascina.attivo = false; }
+void Disegno_CatturaPersa() { Entra(Gesto::TastoLibero); }
 
 void Disegno_DblClick() {
     if (UltimoTasto != kCentrale) return;
-    trascina.attivo = false;
+    Entra(Gesto::TastoLibero);
     Ottimizza_Click();
 }
 
-void WheelCatcher1_Rotella(int passi) {
-    if (ApplicaRotella(passi)) Ridis_Click();
-}
-
-bool Vista_KeyDown(int tasto) {
-    const RiquadroDisegno &d = Disegno();
-    // A tenth of the box, in whole pixels, towards what lies there.
-    const double dx = d.LarghezzaPixel() / 10 / std::abs(d.ScalaX());
-    const double dy = d.AltezzaPixel() / 10 / std::abs(d.ScalaY());
-    const auto guarda = [](double x, double y) { // from what is shown, as far as it has a size
-        const FinestraDisegno &f = FinestraVista;
-        if (f.primaX == f.secondaX || f.primaY == f.secondaY) return;
-        SpostaVista(FinestraVista, -x, -y);
-        Ridis_Click();
-    };
-    switch (tasto) {
-    case kTastoSinistra: guarda(-dx, 0); break;
-    case kTastoSu: guarda(0, dy); break;
-    case kTastoDestra: guarda(dx, 0); break;
-    case kTastoGiu: guarda(0, -dy); break;
-    case kTastoPiu:
-    case kTastoPiuCifre: WheelCatcher1_Rotella(1); break;
-    case kTastoMeno:
-    case kTastoMenoCifre: WheelCatcher1_Rotella(-1); break;
-    default: return false;
-    }
-    return true;
-}
-
-void AnnullaElastici() {
-    PrimoAngolo = SpostaInCorso = ModoZoom = ModoSposta = 0;
-    trascina.attivo = false;
-    Disegno().Shape.Visible = false;
-    Disegno().LineSposta.Visible = false;
-}
-
 void ChiudiFinestraInCorso() {
-    if (PrimoAngolo != 1 || ModoZoom == 1) return;
-    PrimoAngolo = 0;
-    Disegno().Shape.Visible = false;
-    RiprendiDiretta();
+    if (InCorso(Gesto::FinestraAperta)) Entra(Gesto::FinestraAttesa);
+    if (InCorso(Gesto::AutomaticaAperta)) RiprendiDiretta();
 }
 
 void AzzeraPuntatore() {
-    AnnullaElastici();
-    UltimoTasto = FinestraAutomatica = 0;
+    FinisciGesti();
+    UltimoTasto = 0;
     primoX = primoY = 0;
 }
 

@@ -3,6 +3,7 @@
 #include "model/opzioni_cond.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
+#include "platform/tasti.h"
 #include "startup/basCommon_cond.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
@@ -11,8 +12,6 @@
 
 namespace telva {
 namespace {
-
-constexpr int kTastoEsc = 27;
 
 void Command1_Click() {
     std::int16_t ok = 0;
@@ -43,7 +42,7 @@ void ApriFormOptInt() {
 void CollegaFormOptInt() {
     FormOptInt.Command1.Click = Command1_Click;
     FormOptInt.TextTrappola.KeyDown = [](int tasto) {
-        if (tasto == 13) Command1_Click();
+        if (tasto == kTastoInvio) Command1_Click();
     };
     FormOptInt.KeyUp = [](int tasto) {
         if (tasto == kTastoEsc) FormOptInt.Chiudi();

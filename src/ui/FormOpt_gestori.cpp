@@ -3,16 +3,15 @@
 #include "model/opzioni_cond.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
-#include "ui/FormTelva_gestori.h"
+#include "platform/tasti.h"
 #include "ui/controlli/FormOpt.h"
+#include "ui/vista_gestori.h"
 #include "view/salva_dis_cond.h"
 
 #include <cmath>
 
 namespace telva {
 namespace {
-
-constexpr int kTastoEsc = 27;
 
 constexpr const char *kNomiColori[] = {"Nero",   "Bianco",      "Blu",     "Rosso",   "Verde",
                                        "Giallo", "Verde scuro", "Magenta", "Azzurro", "Arancione"};

@@ -3,35 +3,31 @@
 #include "model/opzioni_cond.h"
 #include "model/scambio_cond.h"
 #include "platform/messaggi.h"
-#include "platform/numeri.h"
+#include "platform/tasti.h"
 #include "selection/attributi_sel.h"
 #include "selection/schede_sel.h"
 #include "selection/selezione.h"
+#include "ui/Disegno_gestori.h"
 #include "ui/FormOptInt_gestori.h"
 #include "ui/FormOpt_gestori.h"
-#include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "ui/vista_gestori.h"
 #include "view/FunzDisegno.h"
-#include "view/inquadra.h"
-#include "view/proiezione.h"
 
 #include <algorithm>
 
 namespace telva {
 namespace {
 
-constexpr int kTastoInvio = 13;
-constexpr int kCarattereEsc = 27;
 constexpr double kAltezzaBarra = 400; // twips
 
 void IniziaFunzione(Funzione funzione, const char *titolo) {
-    AnnullaElastici();
+    FinisciGesti();
     AzzeraInput();
-    FinestraAutomatica = 0;
     CodFunAttiva = funzione;
     CodSottoFun = kDiretta;
     AbilitaComandi();
-    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
     FormTelva.FunAttiva.Caption = titolo;
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta";
     FormTelva.Interrompi.Enabled = true;
@@ -41,12 +37,6 @@ void Ridisegna_SuInvio(int tasto) {
     if (tasto == kTastoInvio) Ridis_Click();
 }
 
-// "Tutto": like every other command of the view it is seen at once.
-void IntervalloIntero(std::uint8_t asse) {
-    AggiornaIntervalli(asse);
-    Ridis_Click();
-}
-
 void SpostaIn(double scarto) {
     for (Controllo *c : {static_cast<Controllo *>(&FormTelva.Disegno),
                          static_cast<Controllo *>(&FormTelva.FrameInput),
@@ -54,11 +44,6 @@ void SpostaIn(double scarto) {
                          static_cast<Controllo *>(&FormTelva.FrameAtt)})
         c->Top = c->Top + scarto;
     FormTelva.Disegno.Height = FormTelva.Disegno.Height - scarto;
-}
-
-void RidisegnaAllaMisura() {
-    Adatta();
-    DisegnaStruttura();
 }
 
 // The drawing's width with or without the side bar, which stands to its right.
@@ -78,20 +63,6 @@ void Salva_Click() {
 
 void Esci_Click() { FineProgramma(); }
 
-void Ottimizza_Click() {
-    if (!ProiettaNodi()) return; // a wrong angle leaves the view as it was
-    FinestraZoom = {};
-    Adatta();
-    DisegnaStruttura();
-}
-
-void Ridis_Click() {
-    ProiettaNodi();
-    Adatta();
-    DisegnaStruttura();
-    AggiornaSelezione();
-}
-
 void Aggiungi_Click() { IniziaFunzione(kAggiungi, "Aggiungi selezione"); }
 void Rimuovi_Click() { IniziaFunzione(kRimuovi, "Rimuovi selezione"); }
 
@@ -102,7 +73,6 @@ void RimTutto_Click() {
     CodFunAttiva = funzione;
     CodSottoFun = sottoFunzione;
     if (CodFunAttiva != kNessunaFunzione) AbilitaComandi();
-    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta"; // whatever the sub-function is
 }
 
@@ -114,42 +84,17 @@ void Inverti_Click() {
 
 void Interrompi_Click() {
     CodFunAttiva = kNessunaFunzione;
-    AnnullaElastici();
-    FinestraAutomatica = 0;
+    FinisciGesti();
     AzzeraInput();
     DisabilitaComandi();
-    FormTelva.Disegno.MousePointer = Puntatore::Predefinito;
     FormTelva.Interrompi.Enabled = false;
     FormTelva.FunAttiva.Caption = "";
-}
-
-void FinestraComando_Click() {
-    AnnullaElastici();
-    AzzeraInput();
-    FinestraAutomatica = 0;
-    Finestra_Click();
-}
-
-void Finestra_Click() {
-    CodSottoFun = kFinestra;
-    FormTelva.SottoFunAttiva.Caption = "Seleziona per finestra";
-    FormTelva.Disegno.MousePointer = Puntatore::Croce;
-}
-
-void IniziaAttributo() {
-    AnnullaElastici();
-    FinestraAutomatica = 0;
 }
 
 void VisCoord_Click() {
     FormTelva.VisCoord.Checked = !FormTelva.VisCoord.Checked;
     FormTelva.LabCoord.Caption = "";
     FormTelva.FrameCoord.Visible = FormTelva.VisCoord.Checked;
-}
-
-void VisAssi_Click() {
-    FormTelva.VisAssi.Checked = !FormTelva.VisAssi.Checked;
-    Ridis_Click();
 }
 
 void BarraLat_Click() {
@@ -221,7 +166,6 @@ void Form_Resize() {
 
 void CollegaFormTelva() {
     ModuloTelva &f = FormTelva;
-    CostruisciComandi();
     for (int k = 0; k < f.OptElem.Numero(); ++k) f.OptElem[k].Click = [k] { OptElem_Click(k); };
     for (CasellaSpunta *c : {&f.NodiAtt, &f.AsteAtt, &f.GusciAtt, &f.ElSelez, &f.ElNonSelez})
         c->Click = Ridis_Click;

@@ -3,36 +3,39 @@
 #include "selection/attributi_sel.h"
 #include "selection/schede_sel.h"
 #include "selection/selezione.h"
+#include "ui/Disegno_gestori.h"
 #include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
 #include "ui/icone.h"
+#include "ui/vista_gestori.h"
 
 namespace telva {
 namespace {
 
 template <std::int16_t Codice>
 void Colore() {
-    IniziaAttributo();
+    FinisciGesti();
     SelezionaPerColore(Codice);
 }
 template <std::int16_t Codice>
 void Punto() {
-    IniziaAttributo();
+    FinisciGesti();
     SelezionaPerTipoPunto(Codice);
 }
 template <std::int16_t Codice>
 void Linea() {
-    IniziaAttributo();
+    FinisciGesti();
     SelezionaPerTipoLinea(Codice);
 }
 template <std::int16_t Codice>
 void Tratto() {
-    IniziaAttributo();
+    FinisciGesti();
     SelezionaPerTratteggio(Codice);
 }
 template <std::uint8_t Codice>
 void Scheda() {
-    AnnullaElastici();
+    FinisciGesti();
     IniziaProprieta(Codice);
 }
 
@@ -54,7 +57,7 @@ const Comando kComandi[] = {
     {&f.Inverti, 1, "In&verti selezione", 0, Inverti_Click, "InvertiSel", "Inverti selezione"},
     {&f.Interrompi, 1, "&Interrompi", 0, Interrompi_Click, "Interrompi", "Interrompi"},
     {&f.Selezioni, 0, "&Selezioni"},
-    {&f.Finestra, 1, "&Finestra", 0, FinestraComando_Click},
+    {&f.Finestra, 1, "&Finestra", 0, Finestra_Click},
     {&f.Colore, 1, "&Colore"},
     {&f.Bianco, 2, "Bianco", 0, Colore<1>},
     {&f.Blu, 2, "Blu", 0, Colore<2>},

@@ -397,7 +397,7 @@ struct Modello {
         if (abil[n] != 'x') return false;
         Annulla();
         AzzeraInput();
-        if (n < 5 || n == 12) autom = 0;
+        autom = 0;
         if (n == 0) sotto = 1, Didascalia();
         if (n == 12 || (n > 0 && n < 5)) Attributo(n == 12 ? 1 : n, codice);
         if (n < 5 || n == 12) return true;

@@ -4,10 +4,11 @@
 #include "modello/Modello.h"
 #include "selection/selezione.h"
 #include "startup/avvio.h"
-#include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "view/inquadra.h"
 #include <random>
 
 namespace telva::prove {

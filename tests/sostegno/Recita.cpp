@@ -2,8 +2,9 @@
 
 #include "selection/selezione.h"
 #include "startup/basCommon_cond.h"
-#include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "view/inquadra.h"
 #include <algorithm>
 #include <cctype>
 #include <cstdio>

@@ -1,0 +1,73 @@
+#include "ui/vista_gestori.h"
+
+#include "platform/tasti.h"
+#include "selection/selezione.h"
+#include "ui/controlli/FormTelva.h"
+#include "view/FunzDisegno.h"
+#include "view/inquadra.h"
+#include "view/proiezione.h"
+
+#include <cmath>
+
+namespace telva {
+
+void Ottimizza_Click() {
+    if (!ProiettaNodi()) return; // a wrong angle leaves the view as it was
+    FinestraZoom = {};
+    Adatta();
+    DisegnaStruttura();
+}
+
+void Ridis_Click() {
+    ProiettaNodi();
+    Adatta();
+    DisegnaStruttura();
+    AggiornaSelezione();
+}
+
+void VisAssi_Click() {
+    FormTelva.VisAssi.Checked = !FormTelva.VisAssi.Checked;
+    Ridis_Click();
+}
+
+// Like every other command of the view it is seen at once.
+void IntervalloIntero(std::uint8_t asse) {
+    AggiornaIntervalli(asse);
+    Ridis_Click();
+}
+
+void RidisegnaAllaMisura() {
+    Adatta();
+    DisegnaStruttura();
+}
+
+void WheelCatcher1_Rotella(int passi) {
+    if (ApplicaRotella(passi)) Ridis_Click();
+}
+
+bool Vista_KeyDown(int tasto) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    // A tenth of the box, in whole pixels, towards what lies there.
+    const double dx = d.LarghezzaPixel() / 10 / std::abs(d.ScalaX());
+    const double dy = d.AltezzaPixel() / 10 / std::abs(d.ScalaY());
+    const auto guarda = [](double x, double y) { // from what is shown, as far as it has a size
+        const FinestraDisegno &f = FinestraVista;
+        if (f.primaX == f.secondaX || f.primaY == f.secondaY) return;
+        SpostaVista(FinestraVista, -x, -y);
+        Ridis_Click();
+    };
+    switch (tasto) {
+    case kTastoSinistra: guarda(-dx, 0); break;
+    case kTastoSu: guarda(0, dy); break;
+    case kTastoDestra: guarda(dx, 0); break;
+    case kTastoGiu: guarda(0, -dy); break;
+    case kTastoPiu:
+    case kTastoPiuCifre: WheelCatcher1_Rotella(1); break;
+    case kTastoMeno:
+    case kTastoMenoCifre: WheelCatcher1_Rotella(-1); break;
+    default: return false;
+    }
+    return true;
+}
+
+} // namespace telva
