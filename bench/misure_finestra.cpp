@@ -53,7 +53,6 @@ double Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar
         SendMessageW(finestra, WM_NULL, 0, 0);
         tempi.push_back(Adesso() - da);
         PostMessageW(finestra, WM_SYSCOMMAND, SC_CLOSE, 0);
-        if (std::wstring(classe) == L"FinestraVuota") PostMessageW(finestra, WM_QUIT, 0, 0);
         p.AttendiFine();
     }
     return Mediana(std::move(tempi));

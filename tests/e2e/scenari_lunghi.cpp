@@ -66,6 +66,29 @@ SCENARIO(lungo_centomila_comandi) {
     VERIFICA(dopo.piccoByte < prima.piccoByte + (1U << 19));
 }
 
+// A drag that loses its last move leaves the picture behind the pointer.
+SCENARIO(lungo_mille_trascinamenti) {
+    Sessione s(amb, 0);
+    POINT nodo = s.nodi.at(4);
+    for (int giro = 0; giro < 1000; ++giro) {
+        const POINT inizio{60 + giro % 3 * 50, 40}; // twice at one place is a double click
+        const int dx = giro % 2 ? 40 : -40, dy = giro % 4 < 2 ? 24 : -24;
+        s.p.Trascina(s.disegno, inizio, {inizio.x + dx, inizio.y + dy}, Bottone::Medio);
+        nodo.x += dx, nodo.y += dy;
+        POINT visto{};
+        s.p.Aspetta(
+            "node 4 after drag " + std::to_string(giro) + " at " + std::to_string(nodo.x) + "," +
+                std::to_string(nodo.y),
+            [&] {
+                visto = s.Nodo(4).value_or(POINT{-1, -1});
+                return std::abs(visto.x - nodo.x) <= 2 && std::abs(visto.y - nodo.y) <= 2;
+            },
+            [&] { return std::to_string(visto.x) + "," + std::to_string(visto.y); });
+        nodo = visto;
+    }
+    VERIFICA(true);
+}
+
 // Killed at any moment of writing: the file is the old one or the new one, and once the program has
 // been started again nothing else is there.
 SCENARIO(lungo_ucciso_mentre_scrive) {

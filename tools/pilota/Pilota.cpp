@@ -6,29 +6,17 @@
 
 #include <algorithm>
 #include <array>
-#include <cwctype>
 #include <fstream>
 #include <iterator>
-#include <map>
 #include <sstream>
-#include <utility>
 
 namespace telva::prove {
-
-std::function<void()> alFallimento;
 
 namespace {
 
 constexpr DWORD limiteMs = 20000;  // after this a step has failed
 constexpr DWORD sondaggioMs = 3;   // between two looks at a condition
 constexpr ULONGLONG quieteMs = 40; // a window takes input safely after this long without a change
-constexpr DWORD riposoPuntatore =
-    15; // before modifiers, wheel and drags, so that moves are not merged
-
-[[noreturn]] void Fallisci(const std::string &testo) {
-    if (alFallimento) alFallimento();
-    throw Fallito(testo);
-}
 
 std::wstring Classe(HWND finestra) {
     std::array<wchar_t, 256> nome{};
@@ -117,127 +105,7 @@ DWORD ContaGdi(HANDLE processo) {
         std::count_if(voci.begin(), voci.end(), [](const Voce &v) { return v.tipo != 0; }));
 }
 
-INPUT Tasto(WORD vk, bool giu) {
-    INPUT e{};
-    e.type = INPUT_KEYBOARD;
-    e.ki.wVk = vk;
-    e.ki.wScan = static_cast<WORD>(MapVirtualKeyW(vk, MAPVK_VK_TO_VSC));
-    const bool esteso = (vk >= VK_PRIOR && vk <= VK_DOWN) || vk == VK_INSERT || vk == VK_DELETE;
-    e.ki.dwFlags = (giu ? 0U : KEYEVENTF_KEYUP) | (esteso ? KEYEVENTF_EXTENDEDKEY : 0U);
-    return e;
-}
-
-WORD CodiceTasto(const std::string &nome) {
-    static const std::map<std::string, WORD> nomi{
-        {"Ctrl", VK_CONTROL}, {"Shift", VK_SHIFT},  {"Alt", VK_MENU},      {"Invio", VK_RETURN},
-        {"Esc", VK_ESCAPE},   {"Tab", VK_TAB},      {"Spazio", VK_SPACE},  {"Indietro", VK_BACK},
-        {"Canc", VK_DELETE},  {"Inizio", VK_HOME},  {"Fine", VK_END},      {"Su", VK_UP},
-        {"Giu", VK_DOWN},     {"Destra", VK_RIGHT}, {"Sinistra", VK_LEFT}, {"F1", VK_F1},
-        {"F4", VK_F4},        {"F10", VK_F10}};
-    if (const auto trovato = nomi.find(nome); trovato != nomi.end()) return trovato->second;
-    const auto lettera = Largo(nome);
-    if (lettera.size() != 1) Fallisci("unknown key '" + nome + "'");
-    const SHORT vk = VkKeyScanW(static_cast<wchar_t>(std::towlower(lettera[0])));
-    if (vk == -1 || HIBYTE(vk) != 0) Fallisci("no plain key for '" + nome + "'");
-    return LOBYTE(vk);
-}
-
-// One key or chord: all down in order, then all up in reverse.
-std::vector<INPUT> Accordo(const std::string &tasti) {
-    std::vector<WORD> codici;
-    std::istringstream parti(tasti);
-    for (std::string parte; std::getline(parti, parte, '+');) codici.push_back(CodiceTasto(parte));
-    std::vector<INPUT> eventi;
-    for (auto vk : codici) eventi.push_back(Tasto(vk, true));
-    for (auto i = codici.rbegin(); i != codici.rend(); ++i) eventi.push_back(Tasto(*i, false));
-    return eventi;
-}
-
-// Real keys for ASCII, Unicode events for the rest.
-std::vector<INPUT> Battute(const std::string &testo) {
-    std::vector<INPUT> eventi;
-    for (wchar_t c : Largo(testo)) {
-        const SHORT vk = c < 128 ? VkKeyScanW(c) : SHORT{-1};
-        if (vk != -1 && (HIBYTE(vk) & ~1) == 0) {
-            const bool maiuscola = HIBYTE(vk) == 1;
-            if (maiuscola) eventi.push_back(Tasto(VK_SHIFT, true));
-            eventi.push_back(Tasto(LOBYTE(vk), true));
-            eventi.push_back(Tasto(LOBYTE(vk), false));
-            if (maiuscola) eventi.push_back(Tasto(VK_SHIFT, false));
-            continue;
-        }
-        INPUT e{};
-        e.type = INPUT_KEYBOARD;
-        e.ki.wScan = c;
-        for (DWORD su : {0UL, static_cast<DWORD>(KEYEVENTF_KEYUP)}) {
-            e.ki.dwFlags = KEYEVENTF_UNICODE | su;
-            eventi.push_back(e);
-        }
-    }
-    return eventi;
-}
-
-// Position and button travel in one event: sent apart, the button may act at the old position.
-INPUT Mouse(POINT schermo, DWORD bandiere = 0) {
-    const auto scala = [](LONG v, int metrica) {
-        return static_cast<LONG>((v * 65536LL + 65535) / GetSystemMetrics(metrica));
-    };
-    INPUT e{};
-    e.type = INPUT_MOUSE;
-    e.mi.dx = scala(schermo.x, SM_CXSCREEN);
-    e.mi.dy = scala(schermo.y, SM_CYSCREEN);
-    e.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | bandiere;
-    return e;
-}
-
-DWORD Giu(Bottone bottone) {
-    if (bottone == Bottone::Sinistro) return MOUSEEVENTF_LEFTDOWN;
-    return bottone == Bottone::Medio ? MOUSEEVENTF_MIDDLEDOWN : MOUSEEVENTF_RIGHTDOWN;
-}
-
-// Each "up" flag is the bit above its "down".
-DWORD Su(Bottone bottone) { return Giu(bottone) << 1U; }
-
-void Manda(std::vector<INPUT> eventi) {
-    const auto quanti = static_cast<UINT>(eventi.size());
-    if (SendInput(quanti, eventi.data(), sizeof(INPUT)) != quanti)
-        Fallisci("SendInput refused, error " + std::to_string(GetLastError()));
-}
-
-// Sends the first half of its events, and the second half when it goes, whatever happened
-// meanwhile.
-class Tenuti {
-  public:
-    explicit Tenuti(std::vector<INPUT> eventi) : dopo_(std::move(eventi)) {
-        const auto meta = dopo_.begin() + static_cast<std::ptrdiff_t>(dopo_.size() / 2);
-        Manda({dopo_.begin(), meta});
-        dopo_.erase(dopo_.begin(), meta);
-    }
-    ~Tenuti() { SendInput(static_cast<UINT>(dopo_.size()), dopo_.data(), sizeof(INPUT)); }
-    Tenuti(const Tenuti &) = delete;
-    Tenuti &operator=(const Tenuti &) = delete;
-
-  private:
-    std::vector<INPUT> dopo_;
-};
-
 } // namespace
-
-std::string Utf8(std::wstring_view testo) {
-    const int n = static_cast<int>(testo.size());
-    const int lung = WideCharToMultiByte(CP_UTF8, 0, testo.data(), n, nullptr, 0, nullptr, nullptr);
-    std::string r(static_cast<std::size_t>(lung), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, testo.data(), n, r.data(), lung, nullptr, nullptr);
-    return r;
-}
-
-std::wstring Largo(std::string_view utf8) {
-    const int n = static_cast<int>(utf8.size());
-    const int lung = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), n, nullptr, 0);
-    std::wstring r(static_cast<std::size_t>(lung), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), n, r.data(), lung);
-    return r;
-}
 
 Programma::Programma(const std::wstring &eseguibile, const std::wstring &argomenti, bool ricorda) {
     if (!ricorda) RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Telva");
@@ -505,17 +373,49 @@ void Programma::Menu(const std::string &apri, const std::string &tasti) {
     stabile_ = nullptr;
 }
 
+// The system makes a paint message only for a thread that has no input left. So a window that had
+// to be painted, and has been, has handled every key and every move sent before.
+void Programma::Smaltisci(HWND cima) const {
+    RedrawWindow(cima, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+    Aspetta("'" + Titolo(cima) + "' to handle its input",
+            [&] { return !GetUpdateRect(cima, nullptr, FALSE); });
+}
+
+// Moves go one by one, each once the one before has been handled. A move that meets others in the
+// queue of its window may be lost with them. Besides, a display server sends every move back to
+// the window under it; such an echo of an earlier move, when it comes last, leaves the program
+// with the earlier place. A look at the screen is answered only after the echo has been sent.
+void Programma::Muovi(HWND cima, POINT schermo) const {
+    Smaltisci(cima);
+    Aspetta("the pointer to stay where it was sent", [&] {
+        Manda({Mouse(schermo)});
+        const RECT angolo{0, 0, 1, 1};
+        Schermo(&angolo);
+        Smaltisci(cima);
+        POINT ora{};
+        return GetCursorPos(&ora) && ora.x == schermo.x && ora.y == schermo.y;
+    });
+}
+
 POINT Programma::Punta(HWND finestra, POINT dove) {
-    ClientToScreen(finestra, &dove);
     HWND cima = GetAncestor(finestra, GA_ROOT);
     Stabile(cima);
-    Aspetta("'" + NomeControllo(finestra) + "' not covered at its place on the screen",
-            [&] { return GetAncestor(WindowFromPoint(dove), GA_ROOT) == cima; });
-    Manda({Mouse(dove)});
-    POINT ora{};
-    Aspetta("the pointer to arrive",
-            [&] { return GetCursorPos(&ora) && ora.x == dove.x && ora.y == dove.y; });
-    return dove;
+    Smaltisci(cima); // a window that is still on its way elsewhere arrives first
+    POINT schermo{};
+    Aspetta(
+        "'" + NomeControllo(finestra) + "' not covered at its place on the screen",
+        [&] {
+            schermo = dove;
+            ClientToScreen(finestra, &schermo);
+            return GetAncestor(WindowFromPoint(schermo), GA_ROOT) == cima;
+        },
+        [&] {
+            HWND sopra = GetAncestor(WindowFromPoint(schermo), GA_ROOT);
+            return std::to_string(schermo.x) + "," + std::to_string(schermo.y) + " covered by " +
+                   Utf8(Classe(sopra)) + " '" + Titolo(sopra) + "'";
+        });
+    Muovi(cima, schermo);
+    return schermo;
 }
 
 void Programma::Clic(HWND finestra, POINT dove, Bottone bottone, int volte) {
@@ -529,7 +429,6 @@ void Programma::Clic(HWND finestra, POINT dove, Bottone bottone, int volte) {
 void Programma::ClicCon(const std::string &modificatori, HWND finestra, POINT dove, Bottone bottone,
                         const std::function<bool()> &effetto) {
     dove = Punta(finestra, dove);
-    Sleep(riposoPuntatore);
     const Tenuti tasti(Accordo(modificatori));
     Manda({Mouse(dove, Giu(bottone)), Mouse(dove, Su(bottone))});
     Aspetta("the effect of a click with " + modificatori, effetto);
@@ -537,24 +436,17 @@ void Programma::ClicCon(const std::string &modificatori, HWND finestra, POINT do
 
 void Programma::Trascina(HWND finestra, POINT da, POINT a, Bottone bottone,
                          const std::function<void()> &inMezzo) {
+    HWND cima = GetAncestor(finestra, GA_ROOT);
     da = Punta(finestra, da);
     ClientToScreen(finestra, &a);
-    Sleep(riposoPuntatore);
     const Tenuti premuto({Mouse(da, Giu(bottone)), Mouse(a, Su(bottone))});
     for (int passo : {1, 2, 3, 4})
-        Manda({Mouse({da.x + (a.x - da.x) * passo / 4, da.y + (a.y - da.y) * passo / 4})});
-    Aspetta("the pointer to stay at the far end", [&] { // a late event may have taken it back
-        POINT ora{};
-        if (GetCursorPos(&ora) && ora.x == a.x && ora.y == a.y) return true;
-        Manda({Mouse(a)});
-        return false;
-    });
+        Muovi(cima, {da.x + (a.x - da.x) * passo / 4, da.y + (a.y - da.y) * passo / 4});
     if (inMezzo) inMezzo();
 }
 
 void Programma::Rotella(HWND finestra, POINT dove, int scatti) {
     Punta(finestra, dove);
-    Sleep(riposoPuntatore);
     INPUT e{};
     e.type = INPUT_MOUSE;
     e.mi.dwFlags = MOUSEEVENTF_WHEEL;

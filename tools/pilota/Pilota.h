@@ -2,30 +2,17 @@
 // Drives a program's real window from outside: starts it, presses keys and mouse buttons, reads
 // what it shows. Texts are UTF-8, positions are pixels. Nothing here waits for a time: each step
 // polls for its condition, and after 20 seconds fails with what was awaited and what was seen.
+#include "Base.h"
+#include "Ingressi.h"
 #include "Schermo.h"
 
 #include <filesystem>
 #include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace telva::prove {
-
-/// A step that could not be done; what() says what was awaited and what was seen instead.
-struct Fallito : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-/// Called just before a Fallito is thrown, while the windows still stand (for a screenshot).
-extern std::function<void()> alFallimento;
-
-std::string Utf8(std::wstring_view testo);
-std::wstring Largo(std::string_view utf8);
-
-enum class Bottone { Sinistro, Medio, Destro };
 
 /// A message box; `icona` is a name of NomeIcona, or empty when the box has none.
 struct Riquadro {
@@ -120,6 +107,8 @@ class Programma {
     std::string Stato() const;
     bool InMenu() const;
     bool Pronta(HWND finestra) const;
+    void Smaltisci(HWND cima) const;
+    void Muovi(HWND cima, POINT schermo) const;
     void Stabile(HWND finestra = nullptr);
 
     HANDLE processo_ = nullptr;
