@@ -76,7 +76,7 @@ void Apri(int taglia) {
 
 void Tutto(int tipo) {
     FormTelva.OptElem[tipo].Seleziona();
-    SelezionaPerColore(kOgniColore);
+    SelezionaPerColore(kOgniColore, Segno::Messo);
 }
 
 void Lettura(benchmark::State &s) {
@@ -130,7 +130,7 @@ void Rettangolo(benchmark::State &s, int tipo) {
     FormTelva.OptElem[tipo].Seleziona();
     const RiquadroDisegno &d = FormTelva.Disegno;
     for (auto _ : s) {
-        SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight);
+        SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight, Segno::Messo);
         s.PauseTiming();
         Deseleziona();
         s.ResumeTiming();
@@ -141,7 +141,7 @@ void Lista(benchmark::State &s, int tipo) {
     Apri(static_cast<int>(s.range(0)));
     FormTelva.OptElem[tipo].Seleziona();
     for (auto _ : s) {
-        SelezionaElementoPerNome("1-20000");
+        SelezionaElementoPerNome("1-20000", Segno::Messo);
         s.PauseTiming();
         Deseleziona();
         s.ResumeTiming();

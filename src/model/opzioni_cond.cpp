@@ -78,7 +78,9 @@ void LeggiOpzInt() {
 std::string ScriviOpzioni() {
     std::string contenuto;
     for (int voce = 0; voce < 30; ++voce) contenuto += TestoValore(Opzioni[voce]) + "\r\n";
-    return ScriviFile(File("TelOpzio.txt"), AWindows1252(contenuto)) ? Messaggi[5] : Messaggi[4];
+    return ScriviFile(File("TelOpzio.txt"), AWindows1252(contenuto))
+               ? Messaggi[kMsgOpzioniSalvate]
+               : Messaggi[kMsgOpzioniNonSalvate];
 }
 
 void AzzeraOpzioni() {

@@ -52,7 +52,7 @@ void LeggiIngresso(std::string &sel) {
 void ScriviUscita() {
     const std::string testo(Rifila(FormTelva.StringaSel.Caption()));
     if (!ScriviFile(FileUscita(), AWindows1252(testo.empty() ? " " : testo) + "\r\n"))
-        MostraMessaggio(Messaggi[6], Icona::Critica, "Problema");
+        MostraMessaggio(Messaggi[kMsgUscitaNonScritta], Icona::Critica, "Problema");
 }
 
 } // namespace telva

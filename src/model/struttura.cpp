@@ -54,12 +54,6 @@ int AstaElCont(int k, int j) {
     return asta;
 }
 
-bool ElContAttivo(int k) {
-    for (int j = 0; j < NumAsteElCont[k]; ++j)
-        if (AttAsta[AstaElCont(k, j)] != 1) return false;
-    return true;
-}
-
 void AzzeraStruttura() {
     NumPunti = NumNodi = NumAste = NumGusci = NumElCont = NumTestiFinali = 0;
     XMin = YMin = ZMin = XMax = YMax = ZMax = 0;

@@ -66,9 +66,6 @@ int NumeroAngoli(int guscio);
 // that is no place of the table is a Guasto that names the element.
 int AstaElCont(int elemento, int j);
 
-// True when every bar of the continuous element is active; so is one without bars.
-bool ElContAttivo(int elemento);
-
 // Everything back to program start.
 void AzzeraStruttura();
 

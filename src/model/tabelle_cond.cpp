@@ -20,13 +20,13 @@ Tabella<std::int16_t, 20001> MatSezione{"MatSezione"};
 namespace {
 
 // The number of entries to read; over the limit the message comes at once and the limit holds.
-std::int16_t Limita(double numero, int limite, int messaggio) {
+std::int16_t Limita(double numero, int limite, IndiceMessaggio messaggio) {
     numero = ArrotondaPari(numero);
     if (numero > limite) MostraMessaggio(Messaggi[messaggio], Icona::Critica, "Problema");
     return static_cast<std::int16_t>(std::clamp(numero, 0.0, double(limite)));
 }
 
-std::int16_t LeggiConteggio(FileTesto &file, int limite, int messaggio) {
+std::int16_t LeggiConteggio(FileTesto &file, int limite, IndiceMessaggio messaggio) {
     double numero = 0;
     file.LeggiNumero(numero);
     return Limita(numero, limite, messaggio);
@@ -71,8 +71,9 @@ void LeggiUnElCont(FileTesto &file, int k) {
 
 std::string LeggiSpessori() {
     FileTesto file;
-    if (!file.Apri(DirLavoro + "\\spessori")) return Messaggi[2] + DirLavoro + "\\spessori";
-    NumSpessori = LeggiConteggio(file, kSchedeSpessore, 0);
+    if (!file.Apri(DirLavoro + "\\spessori"))
+        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\spessori";
+    NumSpessori = LeggiConteggio(file, kSchedeSpessore, kMsgTroppiSpessori);
     if (NumSpessori == 0) std::fill_n(MatSpessore.Dati(), kSchedeSpessore, std::int16_t{0});
     for (int n = 0; n < NumSpessori; ++n) {
         file.SaltaValore();
@@ -86,8 +87,9 @@ std::string LeggiSpessori() {
 
 std::string LeggiSezioni() {
     FileTesto file;
-    if (!file.Apri(DirLavoro + "\\sezioni_")) return Messaggi[2] + DirLavoro + "\\sezioni_";
-    NumSezioni = LeggiConteggio(file, kSchedeSezione, 1);
+    if (!file.Apri(DirLavoro + "\\sezioni_"))
+        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\sezioni_";
+    NumSezioni = LeggiConteggio(file, kSchedeSezione, kMsgTroppeSezioni);
     if (NumSezioni == 0) std::fill_n(MatSezione.Dati(), kSchedeSezione, std::int16_t{0});
     for (int n = 0; n < NumSezioni; ++n) {
         for (int ignorato = 0; ignorato < 2; ++ignorato) file.SaltaValore();
@@ -99,11 +101,12 @@ std::string LeggiSezioni() {
 
 std::string LeggiElCont() {
     FileTesto file;
-    if (!file.Apri(DirLavoro + "\\el_conti.tmp")) return Messaggi[2] + DirLavoro + "\\el_conti.tmp";
+    if (!file.Apri(DirLavoro + "\\el_conti.tmp"))
+        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\el_conti.tmp";
     double numero = 0;
     if (file.LeggiNumero(numero) != Lettura::Riuscita)
         GuastoInFile(file.Percorso(), std::max(file.Riga(), 1), "numero intero errato");
-    NumElCont = Limita(numero, kElCont, 19);
+    NumElCont = Limita(numero, kElCont, kMsgTroppiElCont);
     for (int k = 0; k < NumElCont; ++k) LeggiUnElCont(file, k);
     return {};
 }

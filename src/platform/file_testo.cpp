@@ -1,9 +1,7 @@
 #include "platform/file_testo.h"
 
 #include "platform/archivio.h"
-#include "platform/guasto.h"
 #include "platform/numeri.h"
-#include "platform/tabella.h"
 #include "platform/testo.h"
 
 #include <cstdint>
@@ -43,17 +41,6 @@ const char *NumeroSemplice(const char *p, const char *fine, double &valore) {
 }
 
 } // namespace
-
-void GuastoInFile(const std::string &percorso, int riga, const std::string &motivo) {
-    throw Guasto("File " + percorso + ", riga " + TestoNumero(riga) + ": " + motivo);
-}
-
-const char *NomeTabella(const char *nome) { return nome; }
-
-void GuastoIndice(const char *tabella, long indice, long ultimo) {
-    throw Guasto("Indice " + std::to_string(indice) + " fuori dalla tabella " + tabella + " (0.." +
-                 std::to_string(ultimo) + ")");
-}
 
 bool FileTesto::Apri(const std::string &percorso) {
     percorso_ = percorso;

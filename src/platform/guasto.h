@@ -16,4 +16,7 @@ class Guasto : public std::runtime_error {
 // Fault found while reading `percorso` at line `riga` (1-based): the text names all three.
 [[noreturn]] void GuastoInFile(const std::string &percorso, int riga, const std::string &motivo);
 
+// Fault of an index outside 0..`ultimo` of a table.
+[[noreturn]] void GuastoIndice(const char *tabella, long indice, long ultimo);
+
 } // namespace telva

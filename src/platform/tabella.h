@@ -10,8 +10,6 @@
 
 namespace telva {
 
-[[noreturn]] void GuastoIndice(const char *tabella, long indice, long ultimo);
-
 // Gives the name back. Called while the program starts: a table whose name the compiler wrote down
 // would carry all its zeros in the program's file.
 const char *NomeTabella(const char *nome);

@@ -1,68 +1,58 @@
 #include "selection/attributi_sel.h"
 
-#include "model/struttura.h"
-#include "selection/selezione.h"
 #include "ui/controlli/FormTelva.h"
-#include "view/FunzDisegno.h"
 
 namespace telva {
 namespace {
 
-// The attribute of a family by kind; nullptr where it marks nothing.
-struct Famiglia {
-    const std::int16_t *nodi = nullptr, *aste = nullptr, *gusci = nullptr;
-    std::int16_t ogni = 0; // code that matches any value
+// An attribute: its table by element kind (of the parts; nullptr where it marks nothing), and the
+// code that matches any value.
+struct Attributo {
+    const std::int16_t *nodi = nullptr, *aste = nullptr, *gusci = nullptr, *elCont = nullptr;
+    std::int16_t ogni = 0;
+
+    const std::int16_t *Valori(TipoElemento tipo) const {
+        const std::int16_t *const tabelle[] = {nodi, aste, gusci, elCont};
+        return tabelle[tipo];
+    }
 };
 
-void Segna(std::int16_t *flag, const std::int16_t *attivi, int numero, const std::int16_t *campo,
-           std::int16_t codice, std::int16_t ogni) {
-    if (!campo) return;
-    const std::int16_t valore = NuovoFlag();
-    for (int i = 0; i < numero; ++i)
-        if (attivi[i] == 1 && (codice == ogni || campo[i] == codice)) flag[i] = valore;
-}
-
-void SegnaElCont(const std::int16_t *campo, std::int16_t codice, std::int16_t ogni) {
-    if (!campo) return;
-    for (int k = 0; k < NumElCont; ++k) {
-        bool tutte = ElContAttivo(k);
-        for (int j = 0; tutte && codice != ogni && j < NumAsteElCont[k]; ++j)
-            tutte = campo[AstaElCont(k, j)] == codice;
-        if (tutte) SelElCont[k] = NuovoFlag();
-    }
-}
-
-void Seleziona(const Famiglia &f, std::int16_t codice) {
+void Seleziona(const Attributo &a, std::int16_t codice, Segno segno) {
     AzzeraInput();
-    switch (FormTelva.TipoElemento()) {
-    case kNodiTipo: Segna(SelNodo.Dati(), AttNodo.Dati(), NumNodi, f.nodi, codice, f.ogni); break;
-    case kAsteTipo: Segna(SelAsta.Dati(), AttAsta.Dati(), NumAste, f.aste, codice, f.ogni); break;
-    case kElContTipo: SegnaElCont(f.aste, codice, f.ogni); break;
-    default: // walls are drawn from the shells, and have no attributes of their own
-        Segna(SelGuscio.Dati(), AttGuscio.Dati(), NumGusci, f.gusci, codice, f.ogni);
-        break;
-    }
-    DisegnaStruttura();
-    AggiornaSelezione();
+    const int tipo = FormTelva.TipoElemento();
+    // Walls are drawn from the shells, and have no attributes of their own.
+    const Elementi &e = ElementiDi(tipo == kParetiTipo ? kGusciTipo : tipo);
+    if (const std::int16_t *valori = a.Valori(e.tipo))
+        Segna(e, segno, [&](int i) {
+            return codice == a.ogni ||
+                   e.OgniParte(i, [&](int parte) { return valori[parte] == codice; });
+        });
+    MostraSelezione();
     CodSottoFun = kDiretta;
 }
 
 } // namespace
 
-void SelezionaPerColore(std::int16_t codice) {
-    Seleziona({ColNodo.Dati(), ColAsta.Dati(), ColGuscio.Dati(), kOgniColore}, codice);
+void SelezionaPerColore(std::int16_t codice, Segno segno) {
+    Seleziona({.nodi = ColNodo.Dati(),
+               .aste = ColAsta.Dati(),
+               .gusci = ColGuscio.Dati(),
+               .elCont = ColAsta.Dati(),
+               .ogni = kOgniColore},
+              codice, segno);
 }
 
-void SelezionaPerTipoPunto(std::int16_t codice) {
-    Seleziona({.nodi = TipoPtNodo.Dati(), .ogni = kOgniPunto}, codice);
+void SelezionaPerTipoPunto(std::int16_t codice, Segno segno) {
+    Seleziona({.nodi = TipoPtNodo.Dati(), .ogni = kOgniPunto}, codice, segno);
 }
 
-void SelezionaPerTipoLinea(std::int16_t codice) {
-    Seleziona({.aste = TipoLinAsta.Dati(), .ogni = kOgniLinea}, codice);
+void SelezionaPerTipoLinea(std::int16_t codice, Segno segno) {
+    Seleziona({.aste = TipoLinAsta.Dati(), .elCont = TipoLinAsta.Dati(), .ogni = kOgniLinea},
+              codice, segno);
 }
 
-void SelezionaPerTratteggio(std::int16_t codice) {
-    Seleziona({.gusci = TrattGuscio.Dati(), .ogni = kOgniTratto}, codice);
+void SelezionaPerTratteggio(std::int16_t codice, Segno segno) {
+    Seleziona({.gusci = TrattGuscio.Dati(), .ogni = kOgniTratto}, codice, segno);
 }
 
 } // namespace telva

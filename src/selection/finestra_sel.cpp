@@ -1,12 +1,8 @@
 #include "selection/finestra_sel.h"
 
-#include "model/struttura.h"
-#include "selection/selezione.h"
 #include "ui/controlli/FormTelva.h"
-#include "view/FunzDisegno.h"
 #include "view/proiezione.h"
 
-#include <array>
 #include <cmath>
 
 namespace telva {
@@ -24,47 +20,15 @@ struct Riquadro {
     }
 };
 
-Tabella<bool, kNodi> nodoDentro{"NomeNodo"};
-
-bool AstaDentro(int b) {
-    return AttAsta[b] == 1 && nodoDentro[NodoIAsta[b]] && nodoDentro[NodoJAsta[b]];
-}
-
-bool GuscioDentro(int s) {
-    const auto &n = NodiGuscio[s];
-    return AttGuscio[s] == 1 && nodoDentro[n[0]] && nodoDentro[n[1]] && nodoDentro[n[2]] &&
-           (n[3] < 0 || nodoDentro[n[3]]);
-}
-
-bool ElContDentro(int k) {
-    for (int j = 0; j < NumAsteElCont[k]; ++j)
-        if (!AstaDentro(AstaElCont(k, j))) return false;
-    return true;
-}
-
-template <class Prova>
-void Segna(std::int16_t *flag, int numero, Prova prova) {
-    const std::int16_t valore = NuovoFlag();
-    for (int i = 0; i < numero; ++i)
-        if (prova(i)) flag[i] = valore;
-}
-
 } // namespace
 
-void SelezionaFinestra(double left, double top, double width, double height) {
+void SelezionaFinestra(double left, double top, double width, double height, Segno segno) {
     const Riquadro r{left, top, left + width, top - height, std::abs(width), std::abs(height)};
-    for (int i = 0; i < kNodi; ++i) nodoDentro[i] = r.Contiene(XNodo(i), YNodo(i));
-    switch (FormTelva.TipoElemento()) {
-    case kNodiTipo:
-        Segna(SelNodo.Dati(), NumNodi, [](int i) { return AttNodo[i] == 1 && nodoDentro[i]; });
-        break;
-    case kAsteTipo: Segna(SelAsta.Dati(), NumAste, AstaDentro); break;
-    case kGusciTipo: Segna(SelGuscio.Dati(), NumGusci, GuscioDentro); break;
-    case kElContTipo: Segna(SelElCont.Dati(), NumElCont, ElContDentro); break;
-    default: break;
-    }
-    DisegnaStruttura();
-    AggiornaSelezione();
+    static NodiDentro nodi;
+    nodi.Calcola([&](int i) { return r.Contiene(XNodo(i), YNodo(i)); });
+    const Elementi &e = ElementiDi(FormTelva.TipoElemento());
+    Segna(e, segno, [&](int i) { return nodi.Contiene(e, i); });
+    MostraSelezione();
 }
 
 } // namespace telva

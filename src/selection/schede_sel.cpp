@@ -1,14 +1,12 @@
 #include "selection/schede_sel.h"
 
-#include "model/struttura.h"
 #include "model/tabelle_cond.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
-#include "selection/selezione.h"
 #include "startup/basCommon_cond.h"
 #include "ui/controlli/FormTelva.h"
-#include "view/FunzDisegno.h"
 
+#include <array>
 #include <optional>
 
 namespace telva {
@@ -19,7 +17,7 @@ constexpr SchedaProprieta kProprieta[] = {
      "Inserire i numeri delle schede di materiale e premere INVIO",
      "Seleziona per materiale",
      SelezionaPerMateriale,
-     {3, kAmmesso, kAmmesso, kAmmesso, kAmmesso}},
+     {kMsgMaterialeNodi, kAmmesso, kAmmesso, kAmmesso, kAmmesso}},
     {kNome,
      "Inserire i nomi degli elementi e premere INVIO",
      "Seleziona per nome elemento",
@@ -29,27 +27,27 @@ constexpr SchedaProprieta kProprieta[] = {
      "Inserire i numeri delle schede di sezione e premere INVIO",
      "Seleziona per sezione",
      SelezionaPerSezione,
-     {7, kAmmesso, 11, kAmmesso, kIgnorato}},
+     {kMsgSezioneNodi, kAmmesso, kMsgSezioneGusci, kAmmesso, kIgnorato}},
     {kSpessore,
      "Inserire i numeri delle schede di spessore e premere INVIO",
      "Seleziona per spessore",
      SelezionaPerSpessore,
-     {8, 16, kAmmesso, 20, kIgnorato}},
+     {kMsgSpessoreNodi, kMsgSpessoreAste, kAmmesso, kMsgSpessoreElCont, kIgnorato}},
     {kOrientamento,
      "Inserire i numeri delle schede di orientamento e premere INVIO",
      "Seleziona per orientamento",
      SelezionaPerOrientamento,
-     {10, kAmmesso, 13, kAmmesso, kIgnorato}},
+     {kMsgOrientamentoNodi, kAmmesso, kMsgOrientamentoGusci, kAmmesso, kIgnorato}},
     {kSvincolo,
      "Inserire i numeri delle schede di svincolo e premere INVIO",
      "Seleziona per svincolo",
      SelezionaPerSvincolo,
-     {9, kAmmesso, 12, 21, kIgnorato}},
+     {kMsgSvincoloNodi, kAmmesso, kMsgSvincoloGusci, kMsgSvincoloElCont, kIgnorato}},
     {kVincolo,
      "Inserire i numeri delle schede di vincolo e premere INVIO",
      "Seleziona per vincolo",
      SelezionaPerVincolo,
-     {kAmmesso, 15, 14, 22, kIgnorato}},
+     {kAmmesso, kMsgVincoloAste, kMsgVincoloGusci, kMsgVincoloElCont, kIgnorato}},
 };
 
 class LettoreLista {
@@ -109,51 +107,16 @@ class Insieme {
     std::vector<bool> presenti_;
 };
 
-using Campo = std::int16_t (*)(int elemento);
+// The card of a part (node, bar or shell) that a property goes by.
+using Scheda = std::int16_t (*)(int parte);
+// By element kind; nullptr where the property marks nothing.
+using Schede = std::array<Scheda, kTipiElemento>;
 
-// Card or name of an element by kind; nullptr where the property marks nothing.
-struct Campi {
-    Campo nodo = nullptr, asta = nullptr, guscio = nullptr;
-    bool numeroElCont = false; // continuous elements by their own number, not by their bars
-    bool elCont = true;        // continuous elements at all
-};
-
-void Segna(std::int16_t *flag, const std::int16_t *attivi, int numero, Campo campo,
-           const Insieme &insieme) {
-    if (!campo) return;
-    const std::int16_t valore = NuovoFlag();
-    for (int i = 0; i < numero; ++i)
-        if (attivi[i] == 1 && insieme.Contiene(campo(i))) flag[i] = valore;
-}
-
-// Taken when one number of the list fits every bar, all of them shown; one without bars is taken by
-// any number.
-bool ElContPreso(int k, Campo campo, const Insieme &insieme) {
-    const int aste = NumAsteElCont[k];
-    if (aste == 0) return true;
-    const std::int16_t numero = campo(AstaElCont(k, 0));
-    if (!insieme.Contiene(numero)) return false;
-    for (int j = 0; j < aste; ++j) {
-        const int b = AstaElCont(k, j);
-        if (AttAsta[b] != 1 || campo(b) != numero) return false;
-    }
-    return true;
-}
-
-void SegnaElCont(const Campi &campi, const Insieme &insieme) {
-    if (!campi.asta || !campi.elCont) return;
-    for (int k = 0; k < NumElCont; ++k) {
-        const bool preso = campi.numeroElCont ? insieme.Contiene(NumeroElCont[k]) && ElContAttivo(k)
-                                              : ElContPreso(k, campi.asta, insieme);
-        if (preso) SelElCont[k] = NuovoFlag();
-    }
-}
-
-bool Seleziona(const std::string &testo, int capacita, const Campi &campi) {
-    std::vector<std::int16_t> numeri;
+// Reads the list; one that cannot be taken shows its message: false.
+bool Leggi(const std::string &testo, int capacita, std::vector<std::int16_t> &numeri) {
     switch (LeggiLista(testo, capacita, numeri)) {
     case EsitoLista::Troppi:
-        MostraMessaggio(Messaggi[18], Icona::Esclamazione, "ERRORE");
+        MostraMessaggio(Messaggi[kMsgTroppiNumeri], Icona::Esclamazione, "ERRORE");
         return false;
     case EsitoLista::FuoriLimiti:
         MostraMessaggio(" Numero fuori dai limiti ammessi (da -32768 a 32767) ",
@@ -161,20 +124,28 @@ bool Seleziona(const std::string &testo, int capacita, const Campi &campi) {
         return false;
     case EsitoLista::Riuscita: break;
     }
+    return true;
+}
+
+// One number of the set fits every part; any number fits an element without parts.
+bool StessaScheda(const Elementi &e, int i, Scheda scheda, const Insieme &insieme) {
+    std::optional<std::int16_t> numero; // of the first part
+    return e.OgniParte(i, [&](int parte) {
+        const std::int16_t n = scheda(parte);
+        if (numero) return n == *numero;
+        numero = n;
+        return insieme.Contiene(n);
+    });
+}
+
+bool SelezionaPerScheda(const std::string &testo, Segno segno, const Schede &schede) {
+    std::vector<std::int16_t> numeri;
+    if (!Leggi(testo, kCapacitaSchede, numeri)) return false;
     const Insieme insieme(numeri);
-    switch (FormTelva.TipoElemento()) {
-    case kNodiTipo: Segna(SelNodo.Dati(), AttNodo.Dati(), NumNodi, campi.nodo, insieme); break;
-    case kAsteTipo: Segna(SelAsta.Dati(), AttAsta.Dati(), NumAste, campi.asta, insieme); break;
-    case kGusciTipo:
-        Segna(SelGuscio.Dati(), AttGuscio.Dati(), NumGusci, campi.guscio, insieme);
-        break;
-    case kElContTipo:
-        if (!numeri.empty()) SegnaElCont(campi, insieme);
-        break;
-    default: break;
-    }
-    DisegnaStruttura();
-    AggiornaSelezione();
+    const Elementi &e = ElementiDi(FormTelva.TipoElemento());
+    if (const Scheda scheda = schede[e.tipo]; scheda && !numeri.empty())
+        Segna(e, segno, [&](int i) { return StessaScheda(e, i, scheda, insieme); });
+    MostraSelezione();
     return true;
 }
 
@@ -210,42 +181,48 @@ void EseguiRisposta() {
     if (rifiuto >= 0)
         MostraMessaggio(Messaggi[rifiuto], Icona::Informazione, "INFORMAZIONE");
     else if (rifiuto == kAmmesso && !FormTelva.Risposta.Text().empty())
-        p->seleziona(std::string(FormTelva.Risposta.Text()));
+        p->seleziona(FormTelva.Risposta.Text(), SegnoFunzione());
 }
 
-bool SelezionaPerMateriale(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede,
-                     {.asta = [](int b) { return MaterialeSezione(SezioneAsta[b]); },
-                      .guscio = [](int s) { return MaterialeSpessore(SpessoreGuscio[s]); }});
+bool SelezionaElementoPerNome(const std::string &testo, Segno segno) {
+    std::vector<std::int16_t> numeri;
+    if (!Leggi(testo, kCapacitaNomi, numeri)) return false;
+    const Insieme insieme(numeri);
+    const Elementi &e = ElementiDi(FormTelva.TipoElemento());
+    Segna(e, segno, [&](int i) { return insieme.Contiene(e.nomi[i]); });
+    MostraSelezione();
+    return true;
 }
 
-bool SelezionaElementoPerNome(const std::string &testo) {
-    return Seleziona(testo, kCapacitaNomi,
-                     {.nodo = [](int i) { return NomeNodo[i]; },
-                      .asta = [](int b) { return NomeAsta[b]; },
-                      .guscio = [](int s) { return NomeGuscio[s]; },
-                      .numeroElCont = true});
+bool SelezionaPerMateriale(const std::string &testo, Segno segno) {
+    const Scheda asta = [](int b) { return MaterialeSezione(SezioneAsta[b]); };
+    const Scheda guscio = [](int s) { return MaterialeSpessore(SpessoreGuscio[s]); };
+    return SelezionaPerScheda(testo, segno, {nullptr, asta, guscio, asta});
 }
 
-bool SelezionaPerSezione(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return SezioneAsta[b]; }});
+bool SelezionaPerSezione(const std::string &testo, Segno segno) {
+    const Scheda asta = [](int b) { return SezioneAsta[b]; };
+    return SelezionaPerScheda(testo, segno, {nullptr, asta, nullptr, asta});
 }
 
-bool SelezionaPerSpessore(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede, {.guscio = [](int s) { return SpessoreGuscio[s]; }});
+bool SelezionaPerSpessore(const std::string &testo, Segno segno) {
+    const Scheda guscio = [](int s) { return SpessoreGuscio[s]; };
+    return SelezionaPerScheda(testo, segno, {nullptr, nullptr, guscio});
 }
 
-bool SelezionaPerOrientamento(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede, {.asta = [](int b) { return OrientAsta[b]; }});
+bool SelezionaPerOrientamento(const std::string &testo, Segno segno) {
+    const Scheda asta = [](int b) { return OrientAsta[b]; };
+    return SelezionaPerScheda(testo, segno, {nullptr, asta, nullptr, asta});
 }
 
-bool SelezionaPerSvincolo(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede,
-                     {.asta = [](int b) { return SvincoloAsta[b]; }, .elCont = false});
+bool SelezionaPerSvincolo(const std::string &testo, Segno segno) {
+    const Scheda asta = [](int b) { return SvincoloAsta[b]; };
+    return SelezionaPerScheda(testo, segno, {nullptr, asta}); // no continuous elements
 }
 
-bool SelezionaPerVincolo(const std::string &testo) {
-    return Seleziona(testo, kCapacitaSchede, {.nodo = [](int i) { return VincoloNodo[i]; }});
+bool SelezionaPerVincolo(const std::string &testo, Segno segno) {
+    const Scheda nodo = [](int i) { return VincoloNodo[i]; };
+    return SelezionaPerScheda(testo, segno, {nodo});
 }
 
 } // namespace telva

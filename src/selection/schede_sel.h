@@ -1,6 +1,8 @@
 #pragma once
 // Selection by typed lists of card numbers or element names.
 
+#include "selection/selezione.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,9 +26,9 @@ struct SchedaProprieta {
     std::uint8_t codice; // CodSottoFun
     const char *domanda;
     const char *titolo;
-    bool (*seleziona)(const std::string &testo);
+    bool (*seleziona)(const std::string &testo, Segno segno);
     // By element kind 0..4: index of the refusal in Messaggi, or one of the two below.
-    int rifiuto[5];
+    int rifiuto[kTipiElemento];
 };
 inline constexpr int kAmmesso = -1, kIgnorato = -2;
 // The property of a sub-function code, or nullptr.
@@ -40,12 +42,12 @@ void EseguiRisposta();
 
 // Each marks the active elements of the chosen kind, redraws and shows the list; a list that cannot
 // be taken shows its message and changes nothing: false.
-bool SelezionaPerMateriale(const std::string &testo);
-bool SelezionaElementoPerNome(const std::string &testo);
-bool SelezionaPerSezione(const std::string &testo);
-bool SelezionaPerSpessore(const std::string &testo);
-bool SelezionaPerOrientamento(const std::string &testo);
-bool SelezionaPerSvincolo(const std::string &testo);
-bool SelezionaPerVincolo(const std::string &testo);
+bool SelezionaPerMateriale(const std::string &testo, Segno segno);
+bool SelezionaElementoPerNome(const std::string &testo, Segno segno);
+bool SelezionaPerSezione(const std::string &testo, Segno segno);
+bool SelezionaPerSpessore(const std::string &testo, Segno segno);
+bool SelezionaPerOrientamento(const std::string &testo, Segno segno);
+bool SelezionaPerSvincolo(const std::string &testo, Segno segno);
+bool SelezionaPerVincolo(const std::string &testo, Segno segno);
 
 } // namespace telva

@@ -1,13 +1,13 @@
 #include "selection/selezione.h"
 
 #include "model/scambio_cond.h"
-#include "model/struttura.h"
 #include "platform/numeri.h"
 #include "platform/testo.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/FunzDisegno.h"
 
+#include <algorithm>
 #include <array>
-#include <initializer_list>
 
 namespace telva {
 
@@ -16,34 +16,29 @@ std::uint8_t CodSottoFun = kNessuna;
 
 namespace {
 
-std::array<VoceMenu *, 13> ComandiSelezioni() {
-    ModuloTelva &f = FormTelva;
-    return {&f.Finestra,   &f.Colore,      &f.TipoPunto,   &f.TipoLinea,
-            &f.TipoTratt,  &f.Materiale,   &f.Nome,        &f.Tutto,
-            &f.SchSezione, &f.SchSpessore, &f.SchSvincolo, &f.SchOrientamento,
-            &f.SchVincolo};
-}
-
-void Disabilita(std::initializer_list<VoceMenu *> voci) {
-    for (VoceMenu *voce : voci) voce->Enabled = false;
-}
-
-// Names and flags of one kind, as its tables hold them.
-struct Elementi {
-    const std::int16_t *nomi = nullptr;
-    std::int16_t *flag = nullptr;
-    const std::int16_t *attivi = nullptr; // continuous elements have none of their own
-    int numero = 0;
+struct ComandoSelezioni {
+    VoceMenu *voce;
+    std::vector<TipoElemento> senza = {}; // kinds for which it makes no sense
 };
 
-Elementi ElementiDi(int tipo) {
-    switch (tipo) {
-    case kNodiTipo: return {NomeNodo.Dati(), SelNodo.Dati(), AttNodo.Dati(), NumNodi};
-    case kAsteTipo: return {NomeAsta.Dati(), SelAsta.Dati(), AttAsta.Dati(), NumAste};
-    case kGusciTipo: return {NomeGuscio.Dati(), SelGuscio.Dati(), AttGuscio.Dati(), NumGusci};
-    case kElContTipo: return {NumeroElCont.Dati(), SelElCont.Dati(), nullptr, NumElCont};
-    default: return {};
-    }
+std::span<const ComandoSelezioni> ComandiSelezioni() {
+    ModuloTelva &f = FormTelva;
+    static const ComandoSelezioni kComandi[] = {
+        {&f.Finestra},
+        {&f.Colore},
+        {&f.TipoPunto, {kAsteTipo, kGusciTipo, kElContTipo}},
+        {&f.TipoLinea, {kNodiTipo, kGusciTipo}},
+        {&f.TipoTratt, {kNodiTipo, kAsteTipo, kElContTipo}},
+        {&f.Materiale, {kNodiTipo}},
+        {&f.Nome},
+        {&f.Tutto},
+        {&f.SchSezione, {kNodiTipo, kGusciTipo}},
+        {&f.SchSpessore, {kNodiTipo, kAsteTipo, kElContTipo}},
+        {&f.SchSvincolo, {kNodiTipo, kGusciTipo, kElContTipo}},
+        {&f.SchOrientamento, {kNodiTipo, kGusciTipo}},
+        {&f.SchVincolo, {kAsteTipo, kGusciTipo, kElContTipo}},
+    };
+    return kComandi;
 }
 
 // One pass of a stable counting sort by eight bits of the name.
@@ -78,34 +73,22 @@ void AzzeraInput() {
 }
 
 void AbilitaComandi() {
-    ModuloTelva &f = FormTelva;
-    for (VoceMenu *voce : ComandiSelezioni()) voce->Enabled = true;
-    switch (f.TipoElemento()) {
-    case kNodiTipo:
-        Disabilita({&f.Materiale, &f.TipoTratt, &f.TipoLinea, &f.SchSezione, &f.SchSpessore,
-                    &f.SchSvincolo, &f.SchOrientamento});
-        break;
-    case kAsteTipo: Disabilita({&f.TipoPunto, &f.TipoTratt, &f.SchSpessore, &f.SchVincolo}); break;
-    case kGusciTipo:
-        Disabilita({&f.TipoLinea, &f.TipoPunto, &f.SchSezione, &f.SchSvincolo, &f.SchOrientamento,
-                    &f.SchVincolo});
-        break;
-    case kElContTipo:
-        Disabilita({&f.TipoPunto, &f.TipoTratt, &f.SchSpessore, &f.SchSvincolo, &f.SchVincolo});
-        break;
-    default: break;
-    }
+    const int tipo = FormTelva.TipoElemento();
+    for (const ComandoSelezioni &c : ComandiSelezioni())
+        c.voce->Enabled = std::ranges::find(c.senza, tipo) == c.senza.end();
 }
 
 void DisabilitaComandi() {
-    for (VoceMenu *voce : ComandiSelezioni()) voce->Enabled = false;
+    for (const ComandoSelezioni &c : ComandiSelezioni()) c.voce->Enabled = false;
 }
 
 void InvertiSelezione() {
-    const int tipo = FormTelva.TipoElemento();
-    const Elementi e = ElementiDi(tipo);
-    for (int i = 0; i < e.numero; ++i)
-        if (e.attivi ? e.attivi[i] == 1 : ElContAttivo(i)) e.flag[i] = e.flag[i] == 1 ? 0 : 1;
+    Segna(ElementiDi(FormTelva.TipoElemento()), Segno::Invertito, [](int) { return true; });
+}
+
+void MostraSelezione() {
+    DisegnaStruttura();
+    AggiornaSelezione();
 }
 
 void AggiornaSelezione() {
@@ -121,12 +104,12 @@ void MostraStringaSel(int tipo) {
 // Names are 16-bit, so two passes of a counting sort give at once what exchanging neighbours until
 // nothing moves gives: ascending, equal names in the order of the file.
 std::vector<int> OrdinaNumeriSel(int tipo) {
-    const Elementi e = ElementiDi(tipo);
+    const Elementi &e = ElementiDi(tipo);
     const auto n = static_cast<std::size_t>(e.numero);
     std::vector<std::uint32_t> coppie(n), appoggio(n);
     for (std::size_t i = 0; i < n; ++i)
         coppie[i] = static_cast<std::uint32_t>(e.nomi[i] + 32768) << 1 |
-                    static_cast<std::uint32_t>(e.flag[i] == 1 ? 1 : 0);
+                    static_cast<std::uint32_t>(e.selezionati[i] == 1 ? 1 : 0);
     OrdinaPerByte(coppie, appoggio, 1);
     OrdinaPerByte(appoggio, coppie, 9);
     std::vector<int> nomi(n);

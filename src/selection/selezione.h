@@ -1,14 +1,14 @@
 #pragma once
 // Selection state: the running function, and what happens to the selection as a whole.
 
+#include "selection/segna.h"
+
 #include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace telva {
-
-enum TipoElemento { kNodiTipo = 0, kAsteTipo, kGusciTipo, kElContTipo, kParetiTipo };
 
 enum Funzione : std::uint8_t { kNessunaFunzione = 0, kAggiungi = 1, kRimuovi = 2 };
 
@@ -28,8 +28,8 @@ enum SottoFunzione : std::uint8_t {
 extern std::uint8_t CodFunAttiva; // Funzione
 extern std::uint8_t CodSottoFun;  // SottoFunzione
 
-// What the running function writes into a flag: 1 when adding, else 0.
-inline std::int16_t NuovoFlag() { return CodFunAttiva == kAggiungi ? 1 : 0; }
+// What the running function marks with.
+inline Segno SegnoFunzione() { return CodFunAttiva == kAggiungi ? Segno::Messo : Segno::Tolto; }
 
 // Ends the pending sub-function: code 0, labels empty, answer box empty and disabled.
 void AzzeraInput();
@@ -41,6 +41,9 @@ void DisabilitaComandi();
 
 // Toggles the flag of every active element of the chosen kind.
 void InvertiSelezione();
+
+// What follows every marking: repaints and shows the list.
+void MostraSelezione();
 
 // Rebuilds the compact list of the chosen kind and shows it.
 void AggiornaSelezione();

@@ -1,7 +1,6 @@
 #include "selection/trappola.h"
 
 #include "model/opzioni_cond.h"
-#include "model/struttura.h"
 #include "platform/numeri.h"
 #include "selection/selezione.h"
 #include "ui/controlli/FormTelva.h"
@@ -20,8 +19,8 @@ constexpr double kAstaNulla = 0.0001; // squared projected length
 constexpr double kLatoNullo = 0.0001; // extent in one direction
 
 // Colour 0 and names below 1 cannot be picked.
-bool Candidabile(int colore, int nome, int attivo) {
-    return colore >= 1 && nome >= 1 && attivo == 1;
+bool Candidabile(const Elementi &e, int i) {
+    return e.colori[i] >= 1 && e.nomi[i] >= 1 && e.attivi[i] == 1;
 }
 
 bool FuoriIngombro(double p, double estremoI, double estremoJ) {
@@ -46,55 +45,26 @@ bool AttraversaRaggio(double x, double y, double x1, double y1, double x2, doubl
     return x1 + (y - y1) / (y2 - y1) * (x2 - x1) > x;
 }
 
-bool GiaNelloStato(int tipo, int indice) {
-    const std::int16_t flag = tipo == kNodiTipo   ? SelNodo[indice]
-                              : tipo == kAsteTipo ? SelAsta[indice]
-                                                  : SelGuscio[indice];
-    return CodFunAttiva == kAggiungi ? flag == 1 : flag != 1;
-}
-
-std::int16_t Nome(int tipo, int indice) {
-    return tipo == kNodiTipo   ? NomeNodo[indice]
-           : tipo == kAsteTipo ? NomeAsta[indice]
-                               : NomeGuscio[indice];
-}
-
-bool AstaSotto(int b, double x, double y, double &distanza) {
-    return Candidabile(ColAsta[b], NomeAsta[b], AttAsta[b]) && PickAsta(b, x, y, distanza) == 1;
-}
-
-std::vector<Candidato> CandidatiNodi(double x, double y) {
+// The elements hit (nodes, bars or shells), in the order of the tables.
+template <class Colpo>
+std::vector<Candidato> Cerca(TipoElemento tipo, std::size_t massimo, Colpo colpo) {
+    const Elementi &e = ElementiDi(tipo);
     std::vector<Candidato> trovati;
     double d = 0;
-    for (int i = 0; i < NumNodi && trovati.size() < kCandidati; ++i)
-        if (Candidabile(ColNodo[i], NomeNodo[i], AttNodo[i]) && PickNodo(i, x, y, d) == 1)
-            trovati.push_back({static_cast<std::int16_t>(i), d});
+    for (int i = 0; i < e.numero && trovati.size() < massimo; ++i)
+        if (Candidabile(e, i) && colpo(i, d)) trovati.push_back({static_cast<std::int16_t>(i), d});
     return trovati;
-}
-
-std::vector<Candidato> CandidatiAste(double x, double y) {
-    std::vector<Candidato> trovati;
-    double d = 0;
-    for (int b = 0; b < NumAste && trovati.size() < kCandidati; ++b)
-        if (AstaSotto(b, x, y, d)) trovati.push_back({static_cast<std::int16_t>(b), d});
-    return trovati;
-}
-
-// The first shell in the order of the table is the only candidate.
-std::vector<Candidato> CandidatiGusci(double x, double y) {
-    for (int s = 0; s < NumGusci; ++s)
-        if (Candidabile(ColGuscio[s], NomeGuscio[s], AttGuscio[s]) && PickGuscio(s, x, y) > 0)
-            return {{static_cast<std::int16_t>(s), 0}};
-    return {};
 }
 
 // Number of the continuous element hit last: unlike shells, the later one wins.
 std::int16_t UltimoElCont(double x, double y) {
     int trovati = 0, ultimo = -1;
     double d = 0;
+    const Elementi &aste = ElementiDi(kAsteTipo);
     for (int k = 0; k < NumElCont; ++k)
         for (int j = 0; j < NumAsteElCont[k]; ++j) {
-            if (!AstaSotto(AstaElCont(k, j), x, y, d)) continue;
+            const int b = AstaElCont(k, j);
+            if (!Candidabile(aste, b) || PickAsta(b, x, y, d) != 1) continue;
             ultimo = k;
             if (++trovati == kCandidati) return NumeroElCont[ultimo];
         }
@@ -157,9 +127,11 @@ std::int16_t ScegliCandidato(std::vector<Candidato> candidati, int tipo) {
             scambiato = true;
         }
     }
+    const Elementi &e = ElementiDi(tipo);
+    const bool cercato = CodFunAttiva != kAggiungi; // the state that the function changes
     for (const Candidato &c : candidati)
-        if (!GiaNelloStato(tipo, c.indice)) return Nome(tipo, c.indice);
-    return Nome(tipo, candidati.front().indice);
+        if (e.Selezionato(c.indice) == cercato) return e.nomi[c.indice];
+    return e.nomi[candidati.front().indice];
 }
 
 std::int16_t SelezioneDiretta(double x, double y) {
@@ -168,21 +140,28 @@ std::int16_t SelezioneDiretta(double x, double y) {
     const int tipo = FormTelva.TipoElemento();
     std::vector<Candidato> candidati;
     switch (tipo) {
-    case kNodiTipo: candidati = CandidatiNodi(x, y); break;
-    case kAsteTipo: candidati = CandidatiAste(x, y); break;
-    case kGusciTipo: candidati = CandidatiGusci(x, y); break;
+    case kNodiTipo:
+        candidati = Cerca(kNodiTipo, kCandidati,
+                          [&](int i, double &d) { return PickNodo(i, x, y, d) == 1; });
+        break;
+    case kAsteTipo:
+        candidati = Cerca(kAsteTipo, kCandidati,
+                          [&](int b, double &d) { return PickAsta(b, x, y, d) == 1; });
+        break;
+    case kGusciTipo: // the first one only: overlapping shells do not compete
+        candidati = Cerca(kGusciTipo, 1, [&](int s, double &) { return PickGuscio(s, x, y) > 0; });
+        break;
     case kElContTipo: return UltimoElCont(x, y);
-    default: return 0;
+    default: break;
     }
     return candidati.empty() ? std::int16_t{0} : ScegliCandidato(std::move(candidati), tipo);
 }
 
 int NodoSottoPuntatore(double x, double y) {
     CalcolaTrappola();
-    double d = 0;
-    for (int i = 0; i < NumNodi; ++i)
-        if (Candidabile(ColNodo[i], NomeNodo[i], AttNodo[i]) && PickNodo(i, x, y, d) == 1) return i;
-    return -1;
+    const auto trovati =
+        Cerca(kNodiTipo, 1, [&](int i, double &d) { return PickNodo(i, x, y, d) == 1; });
+    return trovati.empty() ? -1 : trovati.front().indice;
 }
 
 } // namespace telva

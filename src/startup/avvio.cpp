@@ -42,13 +42,10 @@ void PrimaVista(const std::string &ingresso) {
         DisegnaStruttura();
         return;
     }
-    CodFunAttiva = kAggiungi;
-    CalcolaAttivi();
     if (Rifila(ingresso) == "0")
-        SelezionaPerColore(kOgniColore);
-    else if (!SelezionaElementoPerNome(ingresso))
+        SelezionaPerColore(kOgniColore, Segno::Messo);
+    else if (!SelezionaElementoPerNome(ingresso, Segno::Messo))
         DisegnaStruttura(); // a list that cannot be taken: the job is shown all the same
-    CodFunAttiva = kNessunaFunzione;
 }
 
 void LeggiTabelle() {

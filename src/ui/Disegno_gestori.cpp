@@ -126,7 +126,7 @@ void Scegli(double x, double y) {
         AttendiFinestra(Gesto::AutomaticaAttesa);
         PrimoAngoloRettangolo(Gesto::AutomaticaAperta, x, y);
     } else {
-        SelezionaElementoPerNome(TestoNumero(nome));
+        SelezionaElementoPerNome(TestoNumero(nome), SegnoFunzione());
     }
     FormTelva.MousePointer = Puntatore::Predefinito;
 }
@@ -148,7 +148,7 @@ void SecondoAngoloFinestra(double x, double y) {
     Entra(automatica ? Gesto::AutomaticaAttesa : Gesto::FinestraAttesa);
     if (SenzaArea(r)) return;
     FormTelva.MousePointer = Puntatore::Clessidra;
-    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height);
+    SelezionaFinestra(r.Left, r.Top, r.Width, r.Height, SegnoFunzione());
     FormTelva.MousePointer = Puntatore::Predefinito;
     if (automatica) RiprendiDiretta();
 }

@@ -6,15 +6,14 @@
 #include "platform/tasti.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/vista_gestori.h"
-#include "view/salva_dis_cond.h"
+#include "view/colori.h"
 
 #include <cmath>
 
 namespace telva {
 namespace {
 
-constexpr const char *kNomiColori[] = {"Nero",   "Bianco",      "Blu",     "Rosso",   "Verde",
-                                       "Giallo", "Verde scuro", "Magenta", "Azzurro", "Arancione"};
+static_assert(ModuloOpt::kCampioni == kNumeroColori);
 
 int coloreTesto = 0;
 bool applicate = false; // "Salva" has run since the dialog opened
@@ -107,7 +106,8 @@ void MostraOpzioni() {
     FormOpt.EvColSel.Value = OpzioneAttiva(kOpzColoreSel);
     FormOpt.EvColNonSel.Value = !OpzioneAttiva(kOpzColoreSel);
     const double colore = std::trunc(OpzioneNumero(kOpzColoreTesto));
-    coloreTesto = colore >= 0 && colore < FormOpt.LabelCol.Numero() ? static_cast<int>(colore) : 1;
+    coloreTesto =
+        colore >= 0 && colore < FormOpt.LabelCol.Numero() ? static_cast<int>(colore) : kBianco;
     EvidColAtt();
     ControllaSpessore();
     ControllaNumerazioneAtt();
@@ -143,8 +143,8 @@ void ChiudiFormOpt() { FormOpt.Chiudi(); }
 void CollegaFormOpt() {
     ModuloOpt &f = FormOpt;
     for (int k = 0; k < f.LabelCol.Numero(); ++k) {
-        f.LabelCol[k].didascalia = kNomiColori[k];
-        f.LabelCol[k].BackColor = ColoreRGB(k);
+        f.LabelCol[k].didascalia = kTinte[k].nome;
+        f.LabelCol[k].BackColor = kTinte[k].rgb;
         f.LabelCol[k].Click = [k] { LabelCol_Click(k); };
     }
     f.CheckSpGus.Click = ControllaSpessore;

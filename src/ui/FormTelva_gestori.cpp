@@ -67,10 +67,8 @@ void Aggiungi_Click() { IniziaFunzione(kAggiungi, "Aggiungi selezione"); }
 void Rimuovi_Click() { IniziaFunzione(kRimuovi, "Rimuovi selezione"); }
 
 void RimTutto_Click() {
-    const std::uint8_t funzione = CodFunAttiva, sottoFunzione = CodSottoFun;
-    CodFunAttiva = kRimuovi;
-    SelezionaPerColore(kOgniColore);
-    CodFunAttiva = funzione;
+    const std::uint8_t sottoFunzione = CodSottoFun;
+    SelezionaPerColore(kOgniColore, Segno::Tolto);
     CodSottoFun = sottoFunzione;
     if (CodFunAttiva != kNessunaFunzione) AbilitaComandi();
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta"; // whatever the sub-function is
@@ -78,8 +76,7 @@ void RimTutto_Click() {
 
 void Inverti_Click() {
     InvertiSelezione();
-    DisegnaStruttura();
-    AggiornaSelezione();
+    MostraSelezione();
 }
 
 void Interrompi_Click() {

@@ -9,6 +9,7 @@
 #include "ui/gesto.h"
 #include "ui/icone.h"
 #include "ui/vista_gestori.h"
+#include "view/colori.h"
 
 namespace telva {
 namespace {
@@ -16,22 +17,22 @@ namespace {
 template <std::int16_t Codice>
 void Colore() {
     FinisciGesti();
-    SelezionaPerColore(Codice);
+    SelezionaPerColore(Codice, SegnoFunzione());
 }
 template <std::int16_t Codice>
 void Punto() {
     FinisciGesti();
-    SelezionaPerTipoPunto(Codice);
+    SelezionaPerTipoPunto(Codice, SegnoFunzione());
 }
 template <std::int16_t Codice>
 void Linea() {
     FinisciGesti();
-    SelezionaPerTipoLinea(Codice);
+    SelezionaPerTipoLinea(Codice, SegnoFunzione());
 }
 template <std::int16_t Codice>
 void Tratto() {
     FinisciGesti();
-    SelezionaPerTratteggio(Codice);
+    SelezionaPerTratteggio(Codice, SegnoFunzione());
 }
 template <std::uint8_t Codice>
 void Scheda() {
@@ -59,15 +60,15 @@ const Comando kComandi[] = {
     {&f.Selezioni, 0, "&Selezioni"},
     {&f.Finestra, 1, "&Finestra", 0, Finestra_Click},
     {&f.Colore, 1, "&Colore"},
-    {&f.Bianco, 2, "Bianco", 0, Colore<1>},
-    {&f.Blu, 2, "Blu", 0, Colore<2>},
-    {&f.Rosso, 2, "Rosso", 0, Colore<3>},
-    {&f.Verde, 2, "Verde", 0, Colore<4>},
-    {&f.Giallo, 2, "Giallo", 0, Colore<5>},
-    {&f.VerdeScuro, 2, "Verde scuro", 0, Colore<6>},
-    {&f.Magenta, 2, "Magenta", 0, Colore<7>},
-    {&f.Azzurro, 2, "Azzurro", 0, Colore<8>},
-    {&f.Arancione, 2, "Arancione", 0, Colore<9>},
+    {&f.Bianco, 2, kTinte[kBianco].nome, 0, Colore<kBianco>},
+    {&f.Blu, 2, kTinte[kBlu].nome, 0, Colore<kBlu>},
+    {&f.Rosso, 2, kTinte[kRosso].nome, 0, Colore<kRosso>},
+    {&f.Verde, 2, kTinte[kVerde].nome, 0, Colore<kVerde>},
+    {&f.Giallo, 2, kTinte[kGiallo].nome, 0, Colore<kGiallo>},
+    {&f.VerdeScuro, 2, kTinte[kVerdeScuro].nome, 0, Colore<kVerdeScuro>},
+    {&f.Magenta, 2, kTinte[kMagenta].nome, 0, Colore<kMagenta>},
+    {&f.Azzurro, 2, kTinte[kAzzurro].nome, 0, Colore<kAzzurro>},
+    {&f.Arancione, 2, kTinte[kArancione].nome, 0, Colore<kArancione>},
     {&f.TuttiCol, 2, "Tutti", 0, Colore<kOgniColore>},
     {&f.TipoPunto, 1, "Tipo &punto"},
     {&f.TipoPt1, 2, "1", 0, Punto<0>},

@@ -21,8 +21,7 @@ void Ottimizza_Click() {
 void Ridis_Click() {
     ProiettaNodi();
     Adatta();
-    DisegnaStruttura();
-    AggiornaSelezione();
+    MostraSelezione();
 }
 
 void VisAssi_Click() {

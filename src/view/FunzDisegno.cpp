@@ -1,15 +1,15 @@
 #include "view/FunzDisegno.h"
 
 #include "model/opzioni_cond.h"
-#include "model/tabelle_cond.h"
+#include "model/struttura.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/assi.h"
+#include "view/colori.h"
 #include "view/etichette.h"
-#include "view/inquadra.h"
 #include "view/proiezione.h"
 #include "view/retini.h"
-#include "view/salva_dis_cond.h"
+#include "view/visibile.h"
 
 #include <algorithm>
 #include <array>
@@ -17,14 +17,6 @@
 
 namespace telva {
 namespace {
-
-constexpr std::uint32_t kColoreEvidenza = 0xFFFF00; // cyan
-
-bool GuscioSottile(int s) {
-    const int scheda = SpessoreGuscio[s];
-    return OpzioneAttiva(kOpzNascondiSottili) && scheda >= 1 && scheda <= NumSpessori &&
-           ValSpessore[scheda - 1] < OpzioneNumero(kOpzSpessoreMinimo);
-}
 
 int Penna(int opzione) {
     return static_cast<int>(
@@ -108,17 +100,6 @@ void DisegnaNodi(const Stile &stile) {
 }
 
 } // namespace
-
-bool NodoDisegnato(int i) {
-    return NomeNodo[i] > 0 && ColNodo[i] < kColoreNascosto && AttNodo[i] == 1;
-}
-bool AstaDisegnata(int b) {
-    return NomeAsta[b] > 0 && ColAsta[b] < kColoreNascosto && AttAsta[b] == 1;
-}
-bool GuscioDisegnato(int s) {
-    return NomeGuscio[s] > 0 && ColGuscio[s] < kColoreNascosto && AttGuscio[s] == 1 &&
-           !GuscioSottile(s);
-}
 
 void DisegnaStruttura() {
     RiquadroDisegno &d = FormTelva.Disegno;

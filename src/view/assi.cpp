@@ -2,6 +2,7 @@
 
 #include "model/opzioni_cond.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/colori.h"
 #include "view/proiezione.h"
 #include "view/salva_dis_cond.h"
 
@@ -32,9 +33,7 @@ void DisegnaAssi() {
     const double bordo = kMarginePixel * unita + lettera;
     const double ox = d.ScaleLeft - sinistra + bordo;
     const double oy = d.ScaleTop + d.ScaleHeight - basso + bordo;
-    // A code that is no 16-bit number is no colour of the table either, and those are white.
-    const double codice = std::clamp(std::trunc(OpzInt[5]), -1.0, 10.0);
-    const auto colore = static_cast<std::int16_t>(codice);
+    const std::int16_t colore = CodiceDaNumero(OpzInt[5]);
     d.DrawWidth = 1;
     static constexpr const char *kLettere[3] = {"X", "Y", "Z"};
     for (int k = 0; k < 3; ++k) {

@@ -6,9 +6,10 @@
 #include "platform/numeri.h"
 #include "platform/testo.h"
 #include "ui/controlli/FormTelva.h"
-#include "view/FunzDisegno.h"
+#include "view/colori.h"
 #include "view/proiezione.h"
 #include "view/salva_dis_cond.h"
+#include "view/visibile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,8 +33,7 @@ struct Scrittura {
     double base = OpzioneNumero(kOpzBaseTesto);
     double altezza = OpzioneNumero(kOpzAltezzaTesto);
     double distanza = OpzioneNumero(kOpzDistanzaTesto);
-    std::int16_t colore = static_cast<std::int16_t>(
-        std::clamp(std::trunc(OpzioneNumero(kOpzColoreTesto)), -1.0, 10.0));
+    std::int16_t colore = CodiceDaNumero(OpzioneNumero(kOpzColoreTesto));
 
     // Room that a text of n characters may take up around (x, y), in any direction.
     bool InVista(double x, double y, std::size_t n) const {

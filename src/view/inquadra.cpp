@@ -3,8 +3,9 @@
 #include "model/struttura.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
-#include "view/FunzDisegno.h"
+#include "view/colori.h"
 #include "view/proiezione.h"
+#include "view/visibile.h"
 
 #include <algorithm>
 #include <array>
@@ -24,16 +25,6 @@ constexpr double kFinestraMinimaRotella = 0.1; // drawing units
 constexpr double kPassoRotella = 0.1;
 constexpr double kMargine = 0.1;
 
-// Coordinate intervals of the side bar: whole numbers, so half a unit belongs to either end. The
-// small tolerance covers the sums' own rounding.
-struct Intervallo {
-    double minimo, massimo;
-    explicit Intervallo(Schiera<CasellaTesto, 2> &campi)
-        : minimo(ValoreNumerico(campi[0].Text()) - 0.5 - 1e-6),
-          massimo(ValoreNumerico(campi[1].Text()) + 0.5 + 1e-6) {}
-    bool Comprende(double valore) const { return valore >= minimo && valore <= massimo; }
-};
-
 std::array<std::string, 6> intervalliValidi; // texts of the boxes as last taken over
 
 // A text that is no number is told and gives way to the last one that was.
@@ -49,25 +40,6 @@ void AccogliIntervalli() {
                 Rifiuta(casella, valido, "Intervallo di coordinate non valido: ");
         }
 }
-
-Tabella<bool, kNodi> nodoDentro{"NomeNodo"};
-
-void CalcolaNodiDentro() {
-    const Intervallo x(FormTelva.IntX), y(FormTelva.IntY), z(FormTelva.IntZ);
-    // Bars may name a node that the file does not hold: it stands at point 0, as everywhere.
-    for (int i = 0; i < kNodi; ++i) {
-        const int p = PuntoNodo[i];
-        nodoDentro[i] = x.Comprende(PuntoX[p]) && y.Comprende(PuntoY[p]) && z.Comprende(PuntoZ[p]);
-    }
-}
-
-struct Filtri {
-    bool selezionati = FormTelva.ElSelez.Value;
-    bool nonSelezionati = FormTelva.ElNonSelez.Value;
-    std::int16_t Flag(bool dentro, bool tipoAttivo, std::int16_t sel) const {
-        return dentro && tipoAttivo && (sel == 1 ? selezionati : nonSelezionati) ? 1 : 0;
-    }
-};
 
 class Estensione {
   public:
@@ -152,25 +124,8 @@ bool ApplicaRotella(double d) {
            std::abs(f.primaY - f.secondaY) >= kFinestraMinimaRotella;
 }
 
-void CalcolaAttivi() {
-    AccogliIntervalli();
-    CalcolaNodiDentro();
-    const Filtri filtri;
-    const bool nodi = FormTelva.NodiAtt.Value, aste = FormTelva.AsteAtt.Value,
-               gusci = FormTelva.GusciAtt.Value;
-    for (int i = 0; i < NumNodi; ++i) AttNodo[i] = filtri.Flag(nodoDentro[i], nodi, SelNodo[i]);
-    for (int b = 0; b < NumAste; ++b)
-        AttAsta[b] =
-            filtri.Flag(nodoDentro[NodoIAsta[b]] && nodoDentro[NodoJAsta[b]], aste, SelAsta[b]);
-    for (int s = 0; s < NumGusci; ++s) {
-        bool dentro = true;
-        for (int c = 0; c < NumeroAngoli(s); ++c)
-            dentro = dentro && nodoDentro[NodiGuscio[s][static_cast<std::size_t>(c)]];
-        AttGuscio[s] = filtri.Flag(dentro, gusci, SelGuscio[s]);
-    }
-}
-
 void Adatta() {
+    AccogliIntervalli();
     CalcolaAttivi();
     AggiornaFinestraVista();
     FinestraDisegno f = FinestraVista;

@@ -1,5 +1,5 @@
 #pragma once
-// Which part of the projected structure fills the picture box, and what of it is active.
+// Which part of the projected structure fills the picture box.
 
 namespace telva {
 
@@ -27,12 +27,9 @@ void AggiornaFinestraVista();
 // Wheel by d steps (positive = zoom in). False when the window has become too small to redraw.
 bool ApplicaRotella(double d);
 
-// Active flags of all elements, from the coordinate intervals and the side bar's check boxes. An
-// interval box whose text is no number gets its last one back, and a message says so.
-void CalcolaAttivi();
-
 // Activation, then the user scale of Disegno: the chosen window undistorted, centred, with
-// margins. A window without area leaves the scale as it is.
+// margins. A window without area leaves the scale as it is. An interval box whose text is no number
+// gets its last one back, and a message says so.
 void Adatta();
 
 void AzzeraVista();

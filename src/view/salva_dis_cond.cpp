@@ -4,6 +4,7 @@
 #include "platform/disegno.h"
 #include "platform/messaggi.h"
 #include "platform/testo.h"
+#include "view/colori.h"
 
 #include <array>
 #include <cmath>
@@ -41,13 +42,6 @@ void RegistraTesto(std::string_view testo, double x, double y) {
 }
 
 } // namespace
-
-std::uint32_t ColoreRGB(std::int32_t codice) {
-    static constexpr std::array<std::uint32_t, 10> kColori = {
-        0x000000, 0xFFFFFF, 0xC00000, 0x0000FF, 0x00FF00,
-        0x00FFFF, 0x008000, 0xFF00FF, 0xFAC5A0, 0x46A3FF};
-    return codice >= 0 && codice < 10 ? kColori[static_cast<std::size_t>(codice)] : 0xFFFFFF;
-}
 
 std::int32_t AggiungiCoordinata(double x, double y) {
     for (std::int32_t i = NumCoordDis - 1; i >= 0 && i >= NumCoordDis - 1 - kRicerca; --i)

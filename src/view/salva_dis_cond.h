@@ -1,5 +1,5 @@
 #pragma once
-// Drawing library: colours by code, segments and texts, drawn on a target or, without one,
+// Drawing library: segments and texts, drawn on a target or, without one,
 // recorded in the display list.
 
 #include "platform/tabella.h"
@@ -30,9 +30,6 @@ struct TestoDis {
     double x = 0, y = 0;
 };
 extern std::vector<TestoDis> TestiDis; // at most kTestiDis
-
-// Colour value 0x00BBGGRR of a colour code; white for a code that is none.
-std::uint32_t ColoreRGB(std::int32_t codice);
 
 // Place of the point in the coordinate table, shared with one of the last 31 if it is there;
 // -1 when the table is full.

@@ -1,8 +1,10 @@
 #include "model/opzioni_cond.h"
+#include "model/struttura.h"
 #include "sostegno/Banco.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
+#include "view/visibile.h"
 #include <set>
 using namespace telva;
 using namespace telva::prove;

@@ -1,4 +1,5 @@
 #include "model/opzioni_cond.h"
+#include "model/struttura.h"
 #include "sostegno/Banco.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"

@@ -6,6 +6,8 @@
 namespace telva {
 
 struct ModuloOpt : Modulo {
+    static constexpr int kCampioni = 10; // one for each colour of the program
+
     ModuloOpt();
 
     Cornice FrameElementi{this, "FrameElementi"};
@@ -37,8 +39,8 @@ struct ModuloOpt : Modulo {
     Etichetta LabelDistTxt{this, "LabelDistTxt", &FrameNum};
     CasellaTesto DistTxt{this, "DistTxt", &FrameNum};
     Etichetta LabelColoreTxt{this, "LabelColoreTxt", &FrameNum};
-    Schiera<Campione, 10> LabelCol{this, "LabelCol", &FrameNum};
-    Schiera<Campione, 10> LabelBordCol{this, "LabelBordCol", &FrameNum};
+    Schiera<Campione, kCampioni> LabelCol{this, "LabelCol", &FrameNum};
+    Schiera<Campione, kCampioni> LabelBordCol{this, "LabelBordCol", &FrameNum};
 
     Pulsante Salva{this, "Salva"};
     Pulsante Chiudi_{this, "Chiudi"};
