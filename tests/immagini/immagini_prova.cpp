@@ -10,6 +10,7 @@
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
 #include "view/proiezione.h"
+#include "view/visibile.h"
 
 #include <algorithm>
 #include <cmath>
