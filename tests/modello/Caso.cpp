@@ -1,0 +1,185 @@
+#include "modello/Caso.h"
+
+#include "ui/controlli/FormTelva.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace telva::prove {
+namespace {
+
+// A place as it is printed: short steps in the story of a failure.
+float SeiCifre(double v) {
+    char testo[32];
+    std::snprintf(testo, sizeof testo, "%.6g", static_cast<double>(static_cast<float>(v)));
+    return std::strtof(testo, nullptr);
+}
+
+} // namespace
+
+// --- a job
+
+int Caso::Nome() { return Tira(8) ? 1 + Tira(nomi_) : Una({0, -3, 20000, 1}); }
+
+int Caso::Colore() { return Tira(6) ? 1 + Tira(3) : Tira(14); }
+
+double Caso::Coordinata() {
+    if (Tira(40) == 0) return Una({-7.0, 6000.0, 40000.0});
+    return passo_ * (griglia_ ? Tira(4) : Tira(80) / 4.0);
+}
+
+void Caso::Nodi(LavoroProva &l) {
+    for (int n = 2 + Tira(14); n > 0; --n) {
+        const double x = Coordinata();
+        const double y = Tira(2) ? Coordinata() : 0;
+        const double z = Coordinata();
+        l.punti.push_back({x, y, z});
+    }
+    l.punti[1] = {1, 2, 3};
+    const bool pochi = Tira(4) != 0;
+    for (int n = 1 + Tira(pochi ? 20 : 99); n > 0; --n)
+        l.nodi.push_back({.punto = Tira(l.punti.size()),
+                          .nome = Nome(),
+                          .colore = Colore(),
+                          .tipo = Tira(4),
+                          .vincolo = Tira(4)});
+}
+
+void Caso::Elementi(LavoroProva &l) {
+    const auto nodo = [&] { return Tira(l.nodi.size()); };
+    for (int n = Tira(20); n > 0; --n)
+        l.aste.push_back({.i = nodo(),
+                          .j = nodo(),
+                          .nome = Nome(),
+                          .colore = Colore(),
+                          .tipo = Tira(6),
+                          .sezione = Tira(5),
+                          .svincolo = Tira(4),
+                          .orientamento = Tira(3)});
+    for (int n = Tira(10); n > 0; --n) {
+        const int quarto = Tira(3) ? -Tira(2) : nodo();
+        l.gusci.push_back({.nodi = {nodo(), nodo(), nodo(), quarto},
+                           .nome = Nome(),
+                           .colore = Colore(),
+                           .tratto = Tira(10),
+                           .spessore = Tira(5)});
+    }
+    for (int n = Tira(6); n > 0; --n) {
+        l.elementi.push_back({.numero = Nome(), .nome = "Elemento", .aste = {}});
+        for (int k = Tira(4); k > 0; --k) { // mostly bars that there are
+            const bool ignota = l.aste.empty() || Tira(6) == 0;
+            l.elementi.back().aste.push_back(ignota ? 1 + Tira(30)
+                                                    : std::abs(l.aste[Tira(l.aste.size())].nome));
+        }
+    }
+}
+
+LavoroProva Caso::Lavoro() {
+    LavoroProva l;
+    griglia_ = Tira(2) != 0;
+    passo_ = Una({1, 10, 50});
+    nomi_ = 4 + Tira(30);
+    Nodi(l);
+    Elementi(l);
+    for (int n = Tira(5); n > 0; --n)
+        l.spessori.push_back({.materiale = Tira(4), .valore = Tira(2) ? 20 : 0.5});
+    for (int n = Tira(5); n > 0; --n) l.sezioni.push_back(Tira(4));
+    return l;
+}
+
+// --- a step
+
+std::string Caso::Elenco() {
+    std::string s = std::to_string(Tira(25));
+    for (int n = Tira(5); n > 0; --n) {
+        const std::string fine = Tira(3) ? "" : "-" + std::to_string(Tira(40));
+        s += "," + std::to_string(Tira(25)) + fine;
+    }
+    if (Tira(5)) return s;
+    return Testo({"", "1-99", "0-100", "0-99", "1-20001", "5,32768", "-3", "8-5", "abc,7", "4 , 5x",
+                  "1-3-5", "2,,4", "2.9", "1e1", "99999-1"});
+}
+
+// At a node, between nodes or anywhere; or beside, where a rule ends.
+Punto Caso::Posto(const Modello &m) {
+    const auto punto = [&] { return m.punti[Tira(m.punti.size())]; };
+    const Punto a = punto(), b = punto(), c = punto();
+    const double s = Tira(5) / 4.0, u = Tira(1000) / 1e3, v = Tira(1000) / 1e3;
+    const Punto p =
+        Una<Punto>({{m.scala.sinistra + m.scala.larghezza * u, m.scala.alto + m.scala.altezza * v},
+                    a,
+                    {a.x + s * (b.x - a.x), a.y + s * (b.y - a.y)},
+                    {(a.x + b.x + c.x) / 3, (a.y + b.y + c.y) / 3}});
+    const double t = m.RaggioTrappola();
+    const auto scarto = [&] {
+        return Una({0., 0., 1., -1., 1.25, -0.75, 1.003, 0.995 * t, -1.005 * t, 0.7 * t, 0.4 * t,
+                    -1.3 * t});
+    };
+    const float y = SeiCifre(p.y + scarto()), x = SeiCifre(p.x + scarto());
+    return {x, y};
+}
+
+PassoCasuale Caso::Filtri() {
+    const auto asse = static_cast<Asse>(Tira(3));
+    const auto filtro = static_cast<Filtro>(Tira(5));
+    return Una<PassoCasuale>({passi::Mostra{filtro}, passi::Tutto{asse}, passi::Tutto{Asse::X},
+                              passi::Tutto{Asse::Y}, passi::Tutto{Asse::Z}, passi::Larghezza{5550},
+                              passi::Larghezza{7000}, passi::Larghezza{99}});
+}
+
+PassoCasuale Caso::Vista(const Modello &m, const passi::Trascina &trascina) {
+    const Punto p = Posto(m);
+    return Una<PassoCasuale>({trascina, passi::Rotella{1}, passi::Rotella{-1}, passi::Rotella{-3},
+                              passi::Rotella{2}, passi::DoppioClic{},
+                              passi::ClicDestro{static_cast<float>(p.x), static_cast<float>(p.y)},
+                              passi::Lettera{}, passi::Menu{"Ottimizza"}});
+}
+
+PassoCasuale Caso::Passo(const Modello &m) {
+    const int py = Tira(250), px = Tira(160), qx = Tira(160);
+    const passi::Trascina trascina{{{px, py}, {qx, 99}, {px, py}}};
+    if (m.funzione == Modello::Niente && Tira(2))
+        return passi::Menu{Testo({"Aggiungi", "Aggiungi", "Rimuovi"})};
+    if (m.risposta && Tira(3) == 0) return passi::Risposta{Elenco()};
+    const int quale = Tira(22);
+    switch (quale) {
+    case 1: return passi::Menu{Testo({"Aggiungi", "Aggiungi", "Rimuovi", "Finestra"})};
+    case 2: return passi::Tipo{Una({0, 1, 2, 2, 3, 4})};
+    case 3: return Filtri();
+    case 4: {
+        const std::string testo =
+            Testo({"9", "17", "2.5", "7.5", "1000", "-1000", "abc", "", "100"});
+        const auto estremo = static_cast<Estremo>(Tira(6));
+        return passi::Intervallo{estremo, testo, Tira(2) == 0};
+    }
+    case 5: {
+        const std::string testo = Testo({"0", "0", "0", "30", "-75", "22.5", "90", "x1", ""});
+        const auto asse = static_cast<Asse>(Tira(3));
+        return passi::Angolo{asse, testo, Tira(2) == 0};
+    }
+    case 6:
+    case 7: return passi::Risposta{Elenco()};
+    case 8: {
+        const std::string testo =
+            Testo({"8", "8", "30", "2", "-7.6", "200", "2000", "12abc", "", "abc", "0.9"});
+        return passi::Trappola{testo, Tira(2) == 0};
+    }
+    case 9: return Vista(m, trascina);
+    case 10: {
+        const std::string voce =
+            Testo({"", "Ottimizza", "ZoomIn", "ZoomIn", "Sposta", "RimTutto", "Inverti"});
+        if (voce.empty()) return passi::Esc{};
+        return passi::Menu{voce};
+    }
+    case 11:
+    case 12:
+    case 13: return passi::Menu{FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo()};
+    default: break;
+    }
+    const Punto p = Posto(m);
+    const auto x = static_cast<float>(p.x), y = static_cast<float>(p.y);
+    if (quale == 0) return passi::Muovi{x, y};
+    return passi::Clic{x, y};
+}
+
+} // namespace telva::prove

@@ -1,0 +1,40 @@
+#pragma once
+// Chance: a small job, and the next thing that a user does in it. The same seed draws the same
+// numbers in every build, so every draw is a statement of its own.
+
+#include "modello/Modello.h"
+#include "modello/Passi.h"
+
+#include <random>
+
+namespace telva::prove {
+
+class Caso {
+  public:
+    explicit Caso(unsigned seme) : numeri_(seme) {}
+    LavoroProva Lavoro();
+    PassoCasuale Passo(const Modello &m);
+
+  private:
+    int Tira(std::size_t n) { return static_cast<int>(numeri_() % n); } // 0..n-1
+    template <class T>
+    T Una(std::initializer_list<T> scelte) {
+        return scelte.begin()[Tira(scelte.size())];
+    }
+    std::string Testo(std::initializer_list<const char *> scelte) { return Una(scelte); }
+    std::string Elenco();
+    Punto Posto(const Modello &m);
+    PassoCasuale Filtri();
+    PassoCasuale Vista(const Modello &m, const passi::Trascina &trascina);
+    void Nodi(LavoroProva &l);
+    void Elementi(LavoroProva &l);
+    int Nome();
+    int Colore();
+    double Coordinata();
+
+    std::mt19937 numeri_;
+    bool griglia_ = false; // points on whole steps
+    int passo_ = 1, nomi_ = 1;
+};
+
+} // namespace telva::prove

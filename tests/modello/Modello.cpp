@@ -1,0 +1,227 @@
+#include "modello/Modello.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+namespace telva::prove {
+namespace {
+
+constexpr double kPi = 3.14159265359;
+constexpr double kUguale = 1e-4;    // drawing units: nearer than this is the same
+constexpr double kZoomMinimo = 0.1; // drawing units
+constexpr int kCritica = 0;
+
+double Numero(const std::string &testo) { return std::strtod(testo.c_str(), nullptr); }
+
+} // namespace
+
+Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro_(lavoro) {
+    const auto punto = [&](int nodo) { return lavoro.nodi[nodo].punto; };
+    for (const auto &n : lavoro.nodi)
+        elementi[Nodi].push_back({.nome = n.nome,
+                                  .colore = n.colore,
+                                  .tipo = n.tipo,
+                                  .schede = {{Sotto::Vincolo, n.vincolo}},
+                                  .punti = {n.punto}});
+    for (const auto &a : lavoro.aste) {
+        const bool scheda = a.sezione > 0 && a.sezione <= std::ssize(lavoro.sezioni);
+        elementi[Aste].push_back(
+            {.nome = a.nome,
+             .colore = a.colore,
+             .tipo = a.tipo,
+             .schede = {{Sotto::Materiale, scheda ? lavoro.sezioni[a.sezione - 1] : 0},
+                        {Sotto::Sezione, a.sezione},
+                        {Sotto::Orientamento, a.orientamento},
+                        {Sotto::Svincolo, a.svincolo}},
+             .punti = {punto(a.i), punto(a.j)}});
+    }
+    for (const auto &g : lavoro.gusci) {
+        const bool scheda = g.spessore > 0 && g.spessore <= std::ssize(lavoro.spessori);
+        const LavoroProva::Spessore s =
+            scheda ? lavoro.spessori[g.spessore - 1] : LavoroProva::Spessore{0, 0};
+        Elemento e{.nome = g.nome,
+                   .colore = g.colore,
+                   .tipo = g.tratto,
+                   .schede = {{Sotto::Materiale, s.materiale}, {Sotto::Spessore, g.spessore}},
+                   .punti = {punto(g.nodi[0]), punto(g.nodi[1]), punto(g.nodi[2])},
+                   .sottile = scheda && s.valore < 1,
+                   .triangolo = g.nodi[3] <= 0}; // node 0 as a corner is drawn, but not picked
+        if (g.nodi[3] >= 0) e.punti.push_back(punto(g.nodi[3]));
+        elementi[Gusci].push_back(e);
+    }
+    for (const auto &c : lavoro.elementi) {
+        Elemento e{.nome = c.numero};
+        for (const int nome : c.aste) { // a name that no bar has is taken for a place
+            const auto &aste = elementi[Aste];
+            const auto asta = std::ranges::find(aste, nome, &Elemento::nome);
+            const auto posto = asta == aste.end() ? nome : asta - aste.begin();
+            e.aste.push_back(posto < std::ssize(aste) ? static_cast<int>(posto) : -1);
+        }
+        elementi[Continui].push_back(e);
+    }
+}
+
+void Modello::Dice(const std::string &testo, const char *titolo, int icona) {
+    messaggi += titolo + std::to_string(icona) + testo;
+}
+
+void Modello::Avvio() {
+    for (int asse = 0; asse < 3; ++asse) Estremi(asse);
+    Ottimizza();
+}
+
+// --- the view
+
+// The whole extent of the nodes into an interval, in whole numbers.
+void Modello::Estremi(int asse) {
+    const auto valore = [&](const auto &n) { return lavoro_.punti[n.punto][asse]; };
+    const auto [minimo, massimo] = std::ranges::minmax(lavoro_.nodi, {}, valore);
+    const auto intero = [&](const auto &n) {
+        return std::to_string(static_cast<int>(std::floor(valore(n) + 0.5)));
+    };
+    intervalli[2 * asse] = intero(minimo);
+    intervalli[2 * asse + 1] = intero(massimo);
+}
+
+// False when an angle is no number: it goes back to what it was, and the picture stays.
+bool Modello::Proietta() {
+    bool errore = false;
+    for (int k = 0; k < 3; ++k) {
+        if (!angoli[k].empty() && angoli[k] != "x1") continue;
+        Dice("Angolo di vista non valido: " + angoli[k], "ERRORE", kCritica);
+        angoli[k] = validi_[k];
+        errore = true;
+    }
+    if (errore) return false;
+    validi_ = angoli;
+    const auto radianti = [&](int k) { return std::stod(validi_[k]) * kPi / 180; };
+    const double a = radianti(0), b = -radianti(1), c = radianti(2);
+    for (std::size_t n = 0; n < punti.size(); ++n) {
+        const auto &[x, y, z] = lavoro_.punti[n];
+        punti[n].x = cos(b) * cos(c) * x - sin(b) * y + cos(b) * sin(c) * z;
+        punti[n].y = (sin(a) * sin(b) * cos(c) - cos(a) * sin(c)) * x + sin(a) * cos(b) * y +
+                     (sin(a) * sin(b) * sin(c) + cos(a) * cos(c)) * z;
+    }
+    return true;
+}
+
+// The intervals are whole numbers: half a unit more on either side.
+bool Modello::Dentro(const Elemento &e) const {
+    for (const int p : e.punti)
+        for (int asse = 0; asse < 3; ++asse) {
+            const double v = lavoro_.punti[p][asse];
+            if (Numero(intervalli[2 * asse]) - v > 0.5) return false;
+            if (v - Numero(intervalli[2 * asse + 1]) > 0.5) return false;
+        }
+    return true;
+}
+
+bool Modello::Zoomata() const { return std::abs(zoom.maxX - zoom.minX) >= kUguale; }
+
+bool Modello::Piccola() const {
+    return std::min(std::abs(zoom.maxX - zoom.minX), std::abs(zoom.maxY - zoom.minY)) < kZoomMinimo;
+}
+
+// Into `vista`: the zoom window, or else what is drawn and active.
+void Modello::Inquadra() {
+    // The point that is there from the beginning; while the first node is hidden, none far out.
+    std::size_t primo = 0;
+    const auto lontano = [](double v) { return std::abs(v) >= 5000; };
+    while (elementi[Nodi][0].colore >= 10 && std::ranges::any_of(lavoro_.punti[primo], lontano))
+        ++primo;
+    vista = {punti[primo].x, punti[primo].x, punti[primo].y, punti[primo].y};
+    for (const auto &tabella : elementi)
+        for (const Elemento &e : tabella) {
+            if (e.nome <= 0 || e.colore >= 10 || !e.attivo || e.sottile) continue;
+            for (const int p : e.punti) {
+                vista.maxX = std::max(vista.maxX, punti[p].x);
+                vista.minX = std::min(vista.minX, punti[p].x);
+                vista.maxY = std::max(vista.maxY, punti[p].y);
+                vista.minY = std::min(vista.minY, punti[p].y);
+            }
+        }
+    if (Zoomata()) vista = zoom;
+}
+
+void Modello::ControllaIntervalli() {
+    for (int k = 0; k < 6; ++k) {
+        if (intervalli[k].empty() || intervalli[k] == "abc") {
+            Dice("Intervallo di coordinate non valido: " + intervalli[k], "ERRORE", kCritica);
+            intervalli[k] = ultimi_[k];
+        }
+        ultimi_[k] = intervalli[k];
+    }
+}
+
+void Modello::Adatta() {
+    ControllaIntervalli();
+    for (int t = Nodi; t <= Gusci; ++t)
+        for (Elemento &e : elementi[t])
+            e.attivo = Dentro(e) && filtri_[t] && filtri_[e.selezionato ? 3 : 4];
+    Inquadra();
+    auto [maxX, minX, maxY, minY] = vista;
+    if (std::abs((maxX - minX) * (maxY - minY)) < kUguale) return;
+    // A tenth more on either side, the second one of what the first has widened.
+    maxX += 0.1 * std::abs(maxX - minX);
+    minX -= 0.1 * std::abs(maxX - minX);
+    maxY += 0.1 * std::abs(maxY - minY);
+    minY -= 0.1 * std::abs(maxY - minY);
+    const double r = std::min(largo / std::abs(maxX - minX), alto / std::abs(maxY - minY));
+    scala = {(maxX + minX - largo / r) / 2, (maxY + minY + alto / r) / 2, largo / r, -alto / r};
+    scalaNota = true;
+}
+
+void Modello::Ridisegna() {
+    Proietta();
+    Adatta();
+    AggiornaLista();
+}
+
+void Modello::Ottimizza() {
+    if (!Proietta()) return;
+    zoom = {};
+    Adatta();
+}
+
+void Modello::Trasla(const Riquadro &da, double dx, double dy) {
+    zoom = {da.maxX - dx, da.minX - dx, da.maxY - dy, da.minY - dy};
+    Ridisegna();
+}
+
+// --- steps of the view
+
+void Modello::Rotella(int passi) {
+    if (Piccola()) zoom = vista;
+    const double dx = (zoom.maxX - zoom.minX) * passi * 0.1;
+    const double dy = (zoom.maxY - zoom.minY) * passi * 0.1;
+    zoom = {zoom.maxX - dx, zoom.minX + dx, zoom.maxY - dy, zoom.minY + dy};
+    if (!Piccola()) Ridisegna();
+}
+
+void Modello::Ridimensionata(double larghezza) {
+    if (larghezza >= 5550) Adatta(); // below, the window only goes back to its smallest size
+}
+
+void Modello::Mostra(int filtro) {
+    filtri_[filtro] = !filtri_[filtro];
+    Ridisegna();
+}
+
+void Modello::Tutto(int asse) {
+    Estremi(asse);
+    Ridisegna();
+}
+
+void Modello::Intervallo(int quale, const std::string &testo, bool invio) {
+    intervalli[quale] = testo;
+    if (invio) Ridisegna();
+}
+
+void Modello::Angolo(int asse, const std::string &testo, bool invio) {
+    angoli[asse] = testo;
+    if (invio) Ridisegna();
+}
+
+} // namespace telva::prove

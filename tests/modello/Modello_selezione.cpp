@@ -1,0 +1,317 @@
+#include "modello/Modello.h"
+
+#include "startup/basCommon_cond.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace telva::prove {
+namespace {
+
+constexpr int kEsclamazione = 1, kInformazione = 2;
+constexpr int kOgniColore = 10;
+
+const std::vector<std::string> kVociSelezioni = {
+    "Finestra",   "Colore",     "TipoPunto",   "TipoLinea",       "TipoTratt",
+    "Materiale",  "SchSezione", "SchSpessore", "SchOrientamento", "SchSvincolo",
+    "SchVincolo", "Nome",       "Tutto"};
+
+// What each kind of element can be selected by.
+const std::set<std::string> kAbilitate[] = {
+    {"Finestra", "Colore", "TipoPunto", "SchVincolo", "Nome", "Tutto"},
+    {"Finestra", "Colore", "TipoLinea", "Materiale", "SchSezione", "SchOrientamento", "SchSvincolo",
+     "Nome", "Tutto"},
+    {"Finestra", "Colore", "TipoTratt", "Materiale", "SchSpessore", "Nome", "Tutto"},
+    {"Finestra", "Colore", "TipoLinea", "Materiale", "SchSezione", "SchOrientamento", "Nome",
+     "Tutto"},
+    {kVociSelezioni.begin(), kVociSelezioni.end()}};
+
+// The display attributes: the kinds that have them, and the code that stands for all of them.
+struct FamigliaAttributo {
+    std::set<int> tipi;
+    int tutti;
+};
+const std::map<std::string, FamigliaAttributo> kAttributi = {
+    {"Colore",
+     {{Modello::Nodi, Modello::Aste, Modello::Gusci, Modello::Continui, Modello::Pareti},
+      kOgniColore}},
+    {"TipoPunto", {{Modello::Nodi}, 8}},
+    {"TipoLinea", {{Modello::Aste, Modello::Continui}, 5}},
+    {"TipoTratt", {{Modello::Gusci, Modello::Pareti}, 9}}};
+
+const std::map<std::string, Sotto> kProprieta = {{"Materiale", Sotto::Materiale},
+                                                 {"SchSezione", Sotto::Sezione},
+                                                 {"SchSpessore", Sotto::Spessore},
+                                                 {"SchOrientamento", Sotto::Orientamento},
+                                                 {"SchSvincolo", Sotto::Svincolo},
+                                                 {"SchVincolo", Sotto::Vincolo},
+                                                 {"Nome", Sotto::Nome}};
+
+const std::map<Sotto, std::string> kTitoli = {{Sotto::Materiale, "materiale"},
+                                              {Sotto::Nome, "nome elemento"},
+                                              {Sotto::Sezione, "sezione"},
+                                              {Sotto::Spessore, "spessore"},
+                                              {Sotto::Orientamento, "orientamento"},
+                                              {Sotto::Svincolo, "svincolo"},
+                                              {Sotto::Vincolo, "vincolo"}};
+
+// The refusal of a property that a kind does not have, by its number in the table of messages.
+const std::map<Sotto, std::map<int, int>> kRifiuti = {
+    {Sotto::Materiale, {{Modello::Nodi, 3}}},
+    {Sotto::Nome, {}},
+    {Sotto::Sezione, {{Modello::Nodi, 7}, {Modello::Gusci, 11}}},
+    {Sotto::Spessore, {{Modello::Nodi, 8}, {Modello::Aste, 16}, {Modello::Continui, 20}}},
+    {Sotto::Orientamento, {{Modello::Nodi, 10}, {Modello::Gusci, 13}}},
+    {Sotto::Svincolo, {{Modello::Nodi, 9}, {Modello::Gusci, 12}, {Modello::Continui, 21}}},
+    {Sotto::Vincolo, {{Modello::Aste, 15}, {Modello::Gusci, 14}, {Modello::Continui, 22}}}};
+
+// An item of the menus of attributes.
+struct VoceAttributo {
+    const char *nome;
+    const char *menu;
+    int codice;
+};
+const VoceAttributo kVociAttributi[] = {
+    {"Bianco", "Colore", 1},     {"Blu", "Colore", 2},        {"Rosso", "Colore", 3},
+    {"Verde", "Colore", 4},      {"Giallo", "Colore", 5},     {"VerdeScuro", "Colore", 6},
+    {"Magenta", "Colore", 7},    {"Azzurro", "Colore", 8},    {"Arancione", "Colore", 9},
+    {"TuttiCol", "Colore", 10},  {"TipoPt1", "TipoPunto", 0}, {"TipoPt2", "TipoPunto", 1},
+    {"TipoPt3", "TipoPunto", 2}, {"TipoPt4", "TipoPunto", 3}, {"TuttiPt", "TipoPunto", 8},
+    {"TipoLn1", "TipoLinea", 0}, {"TipoLn2", "TipoLinea", 1}, {"TipoLn3", "TipoLinea", 2},
+    {"TipoLn4", "TipoLinea", 3}, {"TipoLn5", "TipoLinea", 4}, {"TuttiLn", "TipoLinea", 5},
+    {"TipoTr1", "TipoTratt", 1}, {"TipoTr2", "TipoTratt", 2}, {"TipoTr3", "TipoTratt", 3},
+    {"TipoTr4", "TipoTratt", 4}, {"TipoTr5", "TipoTratt", 5}, {"TipoTr6", "TipoTratt", 6},
+    {"TipoTr7", "TipoTratt", 7}, {"TipoTr8", "TipoTratt", 8}, {"TuttiTr", "TipoTratt", 9}};
+
+// Numbers of a list; what is wrong with it is said in `troppi` and `fuori`.
+struct ElencoLetto {
+    std::vector<int> numeri;
+    bool troppi = false, fuori = false;
+};
+
+ElencoLetto LeggiElenco(const std::string &elenco, std::size_t capacita) {
+    ElencoLetto letto;
+    std::string pezzo;
+    int da = 0;
+    bool aperto = false; // a "-" waits for its end
+    for (const char c : elenco + ",") {
+        if (c != ' ' && c != ',' && c != '-') pezzo += c;
+        if (c != ',' && c != '-') continue;
+        const double v = std::floor(std::strtod(pezzo.c_str(), nullptr));
+        if (v > 32767) {
+            letto.fuori = true;
+            return letto;
+        }
+        for (int n = aperto ? da : static_cast<int>(v); c == ',' && n <= v; ++n)
+            letto.numeri.push_back(n);
+        if (letto.numeri.size() > capacita) {
+            letto.troppi = true;
+            return letto;
+        }
+        aperto = c == '-';
+        da = static_cast<int>(v);
+        pezzo.clear();
+    }
+    return letto;
+}
+
+} // namespace
+
+// --- the compact list
+
+void Modello::AggiornaLista() {
+    if (tipo == Pareti) return;
+    std::vector<Elemento> ordinati = elementi[tipo];
+    std::ranges::stable_sort(ordinati, {}, &Elemento::nome);
+    std::string &lista = liste[tipo] = "";
+    int inizio = 0, ultimo = 0;
+    const auto nuovo = [&](int nome) { // closes the run and begins another
+        if (inizio > 0) lista += (lista.empty() ? "" : ",") + std::to_string(inizio);
+        if (inizio > 0 && ultimo > inizio) lista += "-" + std::to_string(ultimo);
+        inizio = ultimo = nome;
+    };
+    for (const Elemento &e : ordinati) {
+        // Not selected counts as a negative name; a name that is not positive stays as it is.
+        const int nome = e.nome > 0 && !e.selezionato ? -e.nome : e.nome;
+        const bool testa = &e == ordinati.data();
+        if (testa && nome > 0) lista = std::to_string(nome); // the first one is written twice
+        if (testa || (nome > 0 && nome != ultimo + 1))
+            nuovo(nome);
+        else if (nome > 0)
+            (inizio < 1 ? inizio : ultimo) = nome;
+    }
+    nuovo(0);
+}
+
+// --- functions
+
+void Modello::AzzeraInput() {
+    sotto = Sotto::Nessuna;
+    risposta = false;
+    sottoFunAttiva = domanda = testoRisposta = "";
+}
+
+void Modello::Abilita() {
+    if (funzione != Niente) abilitate = kAbilitate[tipo];
+}
+
+void Modello::Annulla() {
+    primoAngolo = spostaInCorso = modoZoom = modoSposta = lineaSposta = false;
+}
+
+void Modello::Interrompi() {
+    funzione = Niente;
+    finestraAutomatica = false;
+    abilitate.clear();
+    Annulla();
+    AzzeraInput();
+}
+
+void Modello::RimuoviTutto() {
+    const Funzione vera = funzione;
+    const Sotto veraSotto = sotto;
+    funzione = Rimuovere;
+    Attributo("Colore", kOgniColore);
+    funzione = vera;
+    sotto = veraSotto;
+    sottoFunAttiva = "Selezione diretta"; // whatever the sub-function is
+}
+
+void Modello::Inverti() {
+    Segna([](const Elemento &) { return true; },
+          [](Elemento &e) { e.selezionato = !e.selezionato; });
+    AggiornaLista();
+}
+
+// --- attributes and lists of properties
+
+void Modello::Attributo(const std::string &menu, int codice) {
+    const FamigliaAttributo &famiglia = kAttributi.at(menu);
+    AzzeraInput();
+    if (famiglia.tipi.contains(tipo)) {
+        const int vero = tipo;
+        if (tipo == Pareti) tipo = Gusci; // walls are drawn from the shells
+        const auto vale = [&](const Elemento &e) {
+            return codice == famiglia.tutti || codice == (menu == "Colore" ? e.colore : e.tipo);
+        };
+        Segna(vale, [&](Elemento &e) { e.selezionato = funzione == Aggiungere; });
+        tipo = vero;
+    }
+    AggiornaLista();
+    sotto = Sotto::Diretta;
+}
+
+void Modello::Numeri(Sotto proprieta, const std::string &elenco) {
+    const bool nomi = proprieta == Sotto::Nome;
+    const ElencoLetto letto = LeggiElenco(elenco, nomi ? 20000 : 100);
+    if (letto.fuori)
+        return Dice(" Numero fuori dai limiti ammessi (da -32768 a 32767) ", "ERRORE",
+                    kEsclamazione);
+    if (letto.troppi) return Dice(Messaggi[18], "ERRORE", kEsclamazione);
+    const bool suo = tipo == Continui && nomi; // a continuous element's own number
+    for (const int numero : letto.numeri) {
+        const auto vale = [&](const Elemento &e) {
+            return suo || (nomi ? e.nome : e.schede.at(proprieta)) == numero;
+        };
+        Segna(vale, [&](Elemento &e) {
+            if (!suo || e.nome == numero) e.selezionato = funzione == Aggiungere;
+        });
+    }
+    AggiornaLista();
+}
+
+void Modello::ChiediProprieta(Sotto proprieta) {
+    sotto = proprieta;
+    risposta = true;
+    const std::string &titolo = kTitoli.at(proprieta);
+    sottoFunAttiva = "Seleziona per " + titolo;
+    domanda =
+        "Inserire i " +
+        (proprieta == Sotto::Nome ? "nomi degli elementi" : "numeri delle schede di " + titolo) +
+        " e premere INVIO";
+}
+
+void Modello::Invio(const std::string &testo) {
+    if (risposta) testoRisposta = testo;
+    const auto rifiuti = kRifiuti.find(sotto);
+    if (rifiuti == kRifiuti.end()) return; // nothing has been asked
+    if (const auto r = rifiuti->second.find(tipo); r != rifiuti->second.end())
+        return Dice(Messaggi[r->second], "INFORMAZIONE", kInformazione);
+    const bool perPareti = sotto == Sotto::Materiale || sotto == Sotto::Nome;
+    if (tipo == Pareti && !perPareti) return; // walls have no cards: nothing happens
+    if (!testoRisposta.empty()) Numeri(sotto, testoRisposta);
+}
+
+// --- steps
+
+void Modello::Esc() { Interrompi(); }
+
+void Modello::ScegliTipo(int nuovo) {
+    tipo = nuovo;
+    Abilita();
+}
+
+void Modello::Trappola(const std::string &testo) {
+    trappola = std::abs(std::floor(std::strtod(testo.c_str(), nullptr)));
+    if (trappola == 0) Dice(Messaggi[17], "ATTENZIONE", kEsclamazione);
+}
+
+bool Modello::VoceSelezioni(const std::string &menu, int codice) {
+    if (!abilitate.contains(menu)) return false;
+    Annulla();
+    AzzeraInput();
+    finestraAutomatica = false;
+    const auto proprieta = kProprieta.find(menu);
+    if (proprieta != kProprieta.end()) {
+        ChiediProprieta(proprieta->second);
+        return true;
+    }
+    if (menu == "Finestra") {
+        sotto = Sotto::Finestra;
+        Didascalia();
+    } else {
+        Attributo(menu == "Tutto" ? "Colore" : menu, menu == "Tutto" ? kOgniColore : codice);
+    }
+    return true;
+}
+
+bool Modello::Menu(const std::string &voce) {
+    const auto attributo = std::ranges::find(kVociAttributi, voce, &VoceAttributo::nome);
+    if (attributo != std::end(kVociAttributi))
+        return VoceSelezioni(attributo->menu, attributo->codice);
+    if (kAttributi.contains(voce)) return true; // only opens its own items
+    if (std::ranges::count(kVociSelezioni, voce)) return VoceSelezioni(voce, 0);
+    if (voce == "Interrompi" && funzione == Niente) return false;
+    if (voce == "Trappola" || voce == "Salva" || voce == "Esci") return false; // not this way
+    if (voce == "Aggiungi" || voce == "Rimuovi") {
+        Interrompi();
+        funzione = voce == "Aggiungi" ? Aggiungere : Rimuovere;
+        sotto = Sotto::Diretta;
+        Abilita();
+        Didascalia();
+    }
+    if (voce == "RimTutto") RimuoviTutto();
+    if (voce == "Inverti") Inverti();
+    if (voce == "Interrompi") Interrompi();
+    if (voce == "ZoomIn" || voce == "Sposta" || voce == "Rappresentazione")
+        if (primoAngolo && !modoZoom) { // the window that is being drawn ends
+            primoAngolo = false;
+            RiprendiDiretta();
+        }
+    if (voce == "ZoomIn" || voce == "Sposta") {
+        Annulla();
+        (voce == "ZoomIn" ? modoZoom : modoSposta) = true;
+        sottoFunAttiva = voce == "ZoomIn" ? "Zoom" : "Sposta";
+    }
+    if (voce == "Ottimizza") Ottimizza();
+    if (voce == "VisCoord") {
+        coordinate = !coordinate;
+        labCoord = "";
+    }
+    if (voce == "Ridis" || voce == "VisAssi") Ridisegna();
+    if (voce == "BarraLat" || voce == "BarraIcone") Adatta();
+    return true;
+}
+
+} // namespace telva::prove
