@@ -61,8 +61,9 @@ void CasellaSpunta::Premi() {
 
 void BottoneOpzione::Seleziona() {
     for (Controllo *c : Proprietario()->controlli)
-        if (c != this && c->TipoControllo() == Tipo::BottoneOpzione && c->Genitore() == Genitore())
-            static_cast<BottoneOpzione *>(c)->Value = false;
+        if (auto *altro = dynamic_cast<BottoneOpzione *>(c);
+            altro && altro != this && altro->Genitore() == Genitore())
+            altro->Value = false;
     Value = true;
     if (Click) Click();
 }

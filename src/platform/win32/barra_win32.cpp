@@ -1,7 +1,6 @@
 #include "platform/win32/barra_win32.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace telva {
 namespace {
@@ -38,15 +37,24 @@ HBITMAP Immagine(const std::vector<std::uint32_t> &pixel, int lato) {
 
 } // namespace
 
-BarraWin32::BarraWin32(BarraStrumenti &barra, const Nascita &nascita, UINT dpi) : barra_(barra) {
+HWND BarraWin32::Crea(const Nascita &nascita) {
     hwnd_ = nascita.Crea(TOOLBARCLASSNAMEW, L"Barra degli strumenti",
                          TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | CCS_NORESIZE | CCS_NODIVIDER |
                              CCS_NOPARENTALIGN);
     SendMessageW(hwnd_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-    ImpostaDpi(dpi);
+    MettiImmagini();
+    MettiBottoni();
+    return hwnd_;
+}
+
+BarraWin32::~BarraWin32() {
+    if (immagini_) ImageList_Destroy(immagini_);
+}
+
+void BarraWin32::MettiBottoni() const {
     std::vector<TBBUTTON> bottoni;
     int posto = 0;
-    for (const BottoneBarra &b : barra.Bottoni) {
+    for (const BottoneBarra &b : controllo_.Bottoni) {
         TBBUTTON t{};
         if (b.nuovoGruppo) {
             t.fsStyle = BTNS_SEP;
@@ -55,25 +63,21 @@ BarraWin32::BarraWin32(BarraStrumenti &barra, const Nascita &nascita, UINT dpi) 
         t = {};
         t.iBitmap = posto;
         t.idCommand = kPrimoBottone + posto++;
-        t.fsState = TBSTATE_ENABLED;
+        t.fsState = !b.voce || b.voce->Enabled ? TBSTATE_ENABLED : 0;
         t.fsStyle = BTNS_BUTTON;
         bottoni.push_back(t);
     }
     SendMessageW(hwnd_, TB_ADDBUTTONSW, bottoni.size(), reinterpret_cast<LPARAM>(bottoni.data()));
-    AggiornaAbilitati();
 }
 
-BarraWin32::~BarraWin32() {
-    if (immagini_) ImageList_Destroy(immagini_);
-}
-
-void BarraWin32::ImpostaDpi(UINT dpi) {
+void BarraWin32::MettiImmagini() {
+    const auto dpi = static_cast<UINT>(finestra_.Dpi());
     const int lato = static_cast<int>(16 * dpi / 96);
     const HIMAGELIST nuove = Richiesto(
-        ImageList_Create(lato, lato, ILC_COLOR32, static_cast<int>(barra_.Bottoni.size()), 0),
+        ImageList_Create(lato, lato, ILC_COLOR32, static_cast<int>(controllo_.Bottoni.size()), 0),
         "ImageList_Create");
-    for (const BottoneBarra &b : barra_.Bottoni) {
-        const HBITMAP bitmap = Immagine(barra_.Icona(b.chiave, lato), lato);
+    for (const BottoneBarra &b : controllo_.Bottoni) {
+        const HBITMAP bitmap = Immagine(controllo_.Icona(b.chiave, lato), lato);
         if (ImageList_Add(nuove, bitmap, nullptr) < 0) GuastoWindows("ImageList_Add");
         DeleteObject(bitmap);
     }
@@ -84,23 +88,40 @@ void BarraWin32::ImpostaDpi(UINT dpi) {
     immagini_ = nuove;
 }
 
-const BottoneBarra *BarraWin32::Bottone(WORD id) const {
+void BarraWin32::ColoriCambiati() {
+    MettiImmagini();
+    PariWin32::ColoriCambiati();
+}
+
+const BottoneBarra *BarraWin32::Bottone(UINT_PTR id) const {
     const auto posto = static_cast<std::size_t>(id - kPrimoBottone);
-    return id >= kPrimoBottone && posto < barra_.Bottoni.size() ? &barra_.Bottoni[posto] : nullptr;
+    return id >= kPrimoBottone && posto < controllo_.Bottoni.size() ? &controllo_.Bottoni[posto]
+                                                                    : nullptr;
 }
 
-void BarraWin32::AggiornaAbilitati() const {
+void BarraWin32::Comando(WORD, WORD id) {
+    const BottoneBarra *b = Bottone(id);
+    if (!b || !controllo_.ButtonClick) return;
+    finestra_.Evento([this, chiave = b->chiave] { controllo_.ButtonClick(chiave); });
+}
+
+void BarraWin32::VoceCambiata(const VoceMenu &voce) {
     WPARAM id = kPrimoBottone;
-    for (const BottoneBarra &b : barra_.Bottoni)
-        SendMessageW(hwnd_, TB_ENABLEBUTTON, id++, MAKELPARAM(!b.voce || b.voce->Enabled, 0));
+    for (const BottoneBarra &b : controllo_.Bottoni) {
+        if (b.voce == &voce)
+            SendMessageW(hwnd_, TB_ENABLEBUTTON, id, MAKELPARAM(voce.Enabled(), 0));
+        ++id;
+    }
 }
 
-void BarraWin32::Suggerimento(NMTTDISPINFOW &info) {
-    const BottoneBarra *b = Bottone(static_cast<WORD>(info.hdr.idFrom));
-    if (!b) return;
+bool BarraWin32::Notifica(const NMHDR &notifica) {
+    const BottoneBarra *b = notifica.code == TTN_GETDISPINFOW ? Bottone(notifica.idFrom) : nullptr;
+    if (!b) return false;
+    auto &info = reinterpret_cast<NMTTDISPINFOW &>(const_cast<NMHDR &>(notifica));
     suggerimento_ = ALargo(b->suggerimento);
     info.lpszText = suggerimento_.data();
     info.hinst = nullptr;
+    return true;
 }
 
 } // namespace telva

@@ -1,29 +1,32 @@
 #pragma once
-// The native tool bar of a BarraStrumenti.
+// Tool bar.
 
-#include "platform/controlli.h"
-#include "platform/win32/base_win32.h"
+#include "platform/win32/pari_win32.h"
 
 namespace telva {
 
-class BarraWin32 {
+class BarraWin32 : public PariDi<BarraStrumenti> {
   public:
-    BarraWin32(BarraStrumenti &barra, const Nascita &nascita, UINT dpi);
-    ~BarraWin32();
-    BarraWin32(const BarraWin32 &) = delete;
+    using PariDi::PariDi;
+    ~BarraWin32() override;
 
-    HWND Maniglia() const { return hwnd_; }
-    // Button of a WM_COMMAND number, or nullptr.
-    const BottoneBarra *Bottone(WORD id) const;
-    void AggiornaAbilitati() const;
-    // New pictures for a new DPI, or for new colours of the system.
-    void ImpostaDpi(UINT dpi);
-    // Answers TTN_GETDISPINFO.
-    void Suggerimento(NMTTDISPINFOW &info);
+    void Comando(WORD codice, WORD id) override;
+    // Answers what tip a button has.
+    bool Notifica(const NMHDR &notifica) override;
+    void DpiCambiato() override { MettiImmagini(); }
+    void ColoriCambiati() override;
+    void VoceCambiata(const VoceMenu &voce) override;
+    bool CopreSfondo() const override { return false; } // it is flat
+
+  protected:
+    HWND Crea(const Nascita &nascita) override;
 
   private:
-    BarraStrumenti &barra_;
-    HWND hwnd_ = nullptr;
+    // Button of a WM_COMMAND number, or nullptr.
+    const BottoneBarra *Bottone(UINT_PTR id) const;
+    void MettiBottoni() const;
+    void MettiImmagini();
+
     HIMAGELIST immagini_ = nullptr;
     std::wstring suggerimento_;
 };

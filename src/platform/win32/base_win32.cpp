@@ -1,30 +1,8 @@
 #include "platform/win32/base_win32.h"
 
 #include "platform/guasto.h"
-#include "platform/numeri.h"
-
-#include <algorithm>
 
 namespace telva {
-namespace {
-
-// Newer functions of the system, looked up so that the program starts on older Windows too.
-template <class F>
-F Cerca(const wchar_t *libreria, const char *nome) {
-    const HMODULE modulo = LoadLibraryExW(libreria, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (!modulo) return nullptr;
-    return reinterpret_cast<F>(reinterpret_cast<void *>(GetProcAddress(modulo, nome)));
-}
-
-UINT DpiDiSistema() {
-    const HDC schermo = GetDC(nullptr);
-    if (!schermo) return 96;
-    const int dpi = GetDeviceCaps(schermo, LOGPIXELSX);
-    ReleaseDC(nullptr, schermo);
-    return dpi > 0 ? static_cast<UINT>(dpi) : 96;
-}
-
-} // namespace
 
 std::wstring ALargo(std::string_view utf8) {
     const int byte = static_cast<int>(utf8.size());
@@ -50,6 +28,12 @@ std::string TestoFinestra(HWND finestra) {
     return DaLargo(std::wstring_view(testo).substr(0, static_cast<std::size_t>(letti)));
 }
 
+bool MostraTesto(HWND finestra, const std::string &testo) {
+    if (TestoFinestra(finestra) == testo) return false;
+    SetWindowTextW(finestra, ALargo(testo).c_str());
+    return true;
+}
+
 void GuastoWindows(const char *chiamata) {
     throw Guasto("Chiamata di sistema non riuscita: " + std::string(chiamata) + " (errore " +
                  std::to_string(GetLastError()) + ")");
@@ -65,31 +49,16 @@ HWND Nascita::Crea(const wchar_t *classe, const std::wstring &testo, DWORD altro
                      "CreateWindowEx");
 }
 
-UINT DpiDi(HWND finestra) {
-    using Funzione = UINT(WINAPI *)(HWND);
-    static const auto dpiFinestra = Cerca<Funzione>(L"user32.dll", "GetDpiForWindow");
-    const UINT dpi = finestra && dpiFinestra ? dpiFinestra(finestra) : 0;
-    return dpi > 0 ? dpi : DpiDiSistema();
+void RegistraClasse(WNDCLASSEXW classe) {
+    classe.cbSize = sizeof classe;
+    classe.hInstance = GetModuleHandleW(nullptr);
+    if (!RegisterClassExW(&classe) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
+        GuastoWindows("RegisterClassEx");
 }
 
-SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi) {
-    using Funzione = BOOL(WINAPI *)(RECT *, DWORD, BOOL, DWORD, UINT);
-    static const auto perDpi = Cerca<Funzione>(L"user32.dll", "AdjustWindowRectExForDpi");
-    RECT r{0, 0, interna.cx, interna.cy};
-    if (!perDpi || !perDpi(&r, stile, menu, stileEsteso, dpi))
-        Richiesto(AdjustWindowRectEx(&r, stile, menu, stileEsteso), "AdjustWindowRectEx");
-    return {r.right - r.left, r.bottom - r.top};
-}
-
-RECT RettangoloVisibile(HWND finestra) {
-    using Funzione = HRESULT(WINAPI *)(HWND, DWORD, void *, DWORD);
-    static const auto attributo = Cerca<Funzione>(L"dwmapi.dll", "DwmGetWindowAttribute");
-    constexpr DWORD kBordiEstesi = 9; // DWMWA_EXTENDED_FRAME_BOUNDS
-    RECT visibile{}, intero{};
-    if (!GetWindowRect(finestra, &intero)) return intero;
-    const bool trovato =
-        attributo && SUCCEEDED(attributo(finestra, kBordiEstesi, &visibile, sizeof visibile));
-    return trovato && visibile.right > visibile.left ? visibile : intero;
+void CambiaStile(HWND finestra, LONG_PTR stile, bool acceso) {
+    const LONG_PTR attuale = GetWindowLongPtrW(finestra, GWL_STYLE);
+    SetWindowLongPtrW(finestra, GWL_STYLE, acceso ? attuale | stile : attuale & ~stile);
 }
 
 int Luce(std::uint32_t rgb) {
@@ -107,22 +76,6 @@ void AssegnaNome(HWND finestra, const std::string &nome) {
 void TogliNome(HWND finestra) {
     const HANDLE atomo = RemovePropW(finestra, L"TelvaNome");
     if (atomo) GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(atomo)));
-}
-
-RECT AreaDiLavoro(const RECT &r) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    return GetMonitorInfoW(MonitorFromRect(&r, MONITOR_DEFAULTTONEAREST), &info) ? info.rcWork : r;
-}
-
-void PortaNelloSchermo(RECT &r) {
-    const RECT area = AreaDiLavoro(r);
-    const LONG l = std::min(r.right - r.left, area.right - area.left);
-    const LONG a = std::min(r.bottom - r.top, area.bottom - area.top);
-    r.left = std::clamp(r.left, area.left, area.right - l);
-    r.top = std::clamp(r.top, area.top, area.bottom - a);
-    r.right = r.left + l;
-    r.bottom = r.top + a;
 }
 
 } // namespace telva

@@ -1,5 +1,5 @@
 #pragma once
-// What every file of the window system shares: the Windows headers, texts, results, DPI.
+// What every file of the window system shares: the Windows headers, texts, results, windows.
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -21,6 +21,8 @@ std::wstring ALargo(std::string_view utf8);
 std::string DaLargo(std::wstring_view largo);
 // Text of a native window.
 std::string TestoFinestra(HWND finestra);
+// Shows a text in it, if it is another one; true when it was.
+bool MostraTesto(HWND finestra, const std::string &testo);
 
 // A Windows call that cannot be done without: on failure a Guasto names it and its error number.
 template <class T>
@@ -42,13 +44,14 @@ struct Nascita {
               DWORD esteso = 0) const;
 };
 
-// DPI of the monitor a window stands on; of the system before there is a window.
-UINT DpiDi(HWND finestra);
-// Outer size of a window with this inner size.
-SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi);
-// Rectangle of a top-level window as it is seen, and how far the invisible part of its frame
-// reaches beyond it.
-RECT RettangoloVisibile(HWND finestra);
+// Classes of the main window and of the dialogs.
+inline constexpr const wchar_t *kClasseFinestra = L"TelvaFinestra",
+                               *kClasseDialogo = L"TelvaDialogo";
+// Registers a window class, to which the size and the program's instance are added; once is
+// enough, more do no harm.
+void RegistraClasse(WNDCLASSEXW classe);
+// Sets or clears bits of a window's style.
+void CambiaStile(HWND finestra, LONG_PTR stile, bool acceso);
 
 // Brightness of a colour, 0..255; the order of red and blue hardly matters.
 int Luce(std::uint32_t rgb);
@@ -58,11 +61,5 @@ bool FacciaScura();
 // A control's name, on its native window, for tools that look at the program from outside.
 void AssegnaNome(HWND finestra, const std::string &nome);
 void TogliNome(HWND finestra);
-
-// Work area of the monitor nearest to a rectangle; the rectangle itself when the system cannot
-// tell.
-RECT AreaDiLavoro(const RECT &r);
-// Brings a rectangle into the work area of its nearest monitor: moved first, then made smaller.
-void PortaNelloSchermo(RECT &r);
 
 } // namespace telva

@@ -1,7 +1,6 @@
 #include "platform/win32/disegno_win32.h"
 
 #include "platform/messaggi.h"
-#include "platform/win32/finestra_win32.h"
 
 #include <windowsx.h>
 
@@ -20,32 +19,6 @@ void Copia(HDC dc, const Superficie &s, int y) {
                       static_cast<UINT>(a), s.Riga(0), &info, DIB_RGB_COLORS);
 }
 
-void Dipingi(HWND hwnd, const RiquadroDisegno &disegno) {
-    PAINTSTRUCT p{};
-    const HDC dc = BeginPaint(hwnd, &p);
-    if (!dc) return;
-    const Superficie &s = disegno.Immagine();
-    const int l = s.Larghezza(), a = s.Altezza();
-    if (l > 0 && !disegno.ElasticiVisibili()) Copia(dc, s, 0);
-    if (l > 0 && disegno.ElasticiVisibili()) {
-        constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
-        static Superficie striscia;
-        for (int y = 0; y < a; y += kRighe) {
-            disegno.ComponiElastici(striscia, y, std::min(kRighe, a - y));
-            Copia(dc, striscia, y);
-        }
-    }
-    RECT client{};
-    GetClientRect(hwnd, &client);
-    const auto nero = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
-    if (const RECT destra{l, 0, client.right, client.bottom}; l < client.right)
-        FillRect(dc, &destra, nero);
-    if (const RECT sotto{0, a, client.right, client.bottom}; a < client.bottom)
-        FillRect(dc, &sotto, nero);
-    if (FacciaScura()) FrameRect(dc, &client, GetSysColorBrush(COLOR_BTNTEXT)); // black on black
-    EndPaint(hwnd, &p);
-}
-
 int Tasti(WPARAM w) {
     return ((w & MK_LBUTTON) ? 1 : 0) | ((w & MK_RBUTTON) ? 2 : 0) | ((w & MK_MBUTTON) ? 4 : 0);
 }
@@ -55,79 +28,107 @@ int Maiuscoli(WPARAM w) {
            (GetKeyState(VK_MENU) < 0 ? 4 : 0);
 }
 
-using GestoreMouse = std::function<void(int, int, float, float)>;
+} // namespace
 
-void Mouse(const RiquadroDisegno &d, const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l) {
+void DisegnoWin32::Dipingi() const {
+    PAINTSTRUCT p{};
+    const HDC dc = BeginPaint(hwnd_, &p);
+    if (!dc) return;
+    const Superficie &s = controllo_.Immagine();
+    const int l = s.Larghezza(), a = s.Altezza();
+    if (l > 0 && !controllo_.ElasticiVisibili()) Copia(dc, s, 0);
+    if (l > 0 && controllo_.ElasticiVisibili()) {
+        constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
+        static Superficie striscia;
+        for (int y = 0; y < a; y += kRighe) {
+            controllo_.ComponiElastici(striscia, y, std::min(kRighe, a - y));
+            Copia(dc, striscia, y);
+        }
+    }
+    RECT client{};
+    GetClientRect(hwnd_, &client);
+    const auto nero = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+    if (const RECT destra{l, 0, client.right, client.bottom}; l < client.right)
+        FillRect(dc, &destra, nero);
+    if (const RECT sotto{0, a, client.right, client.bottom}; a < client.bottom)
+        FillRect(dc, &sotto, nero);
+    if (FacciaScura()) FrameRect(dc, &client, GetSysColorBrush(COLOR_BTNTEXT)); // black on black
+    EndPaint(hwnd_, &p);
+}
+
+void DisegnoWin32::Evento(const std::function<void()> &gestore) {
+    if (gestore) finestra_.Evento(gestore);
+}
+
+void DisegnoWin32::Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l) {
     if (!gestore) return;
-    const auto x = static_cast<float>(d.XDaPixel(GET_X_LPARAM(l)));
-    const auto y = static_cast<float>(d.YDaPixel(GET_Y_LPARAM(l)));
-    gestore(tasti, Maiuscoli(w), x, y);
+    const auto x = static_cast<float>(controllo_.XDaPixel(GET_X_LPARAM(l)));
+    const auto y = static_cast<float>(controllo_.YDaPixel(GET_Y_LPARAM(l)));
+    const int maiuscoli = Maiuscoli(w);
+    finestra_.Evento([&] { gestore(tasti, maiuscoli, x, y); });
 }
 
-void TastoPremuto(HWND hwnd, const RiquadroDisegno &d, int tasto, WPARAM w, LPARAM l) {
+void DisegnoWin32::TastoPremuto(int tasto, WPARAM w, LPARAM l) {
     // A held button keeps the mouse, so that a drag goes on outside the drawing.
-    if (tasto == 4) SetCapture(hwnd);
-    Mouse(d, d.MouseDown, tasto, w, l);
+    if (tasto == 4) SetCapture(hwnd_);
+    Mouse(controllo_.MouseDown, tasto, w, l);
 }
 
-LRESULT Tratta(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
-    auto *d = reinterpret_cast<RiquadroDisegno *>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-    if (!d) return DefWindowProcW(hwnd, messaggio, w, l);
+void DisegnoWin32::TastoLasciato(int tasto, WPARAM w, LPARAM l) {
+    Mouse(controllo_.MouseUp, tasto, w, l);
+    if (tasto == 4 && GetCapture() == hwnd_) ReleaseCapture();
+}
+
+LRESULT DisegnoWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     switch (messaggio) {
-    case WM_PAINT: Dipingi(hwnd, *d); return 0;
+    case WM_PAINT: Dipingi(); return 0;
     case WM_ERASEBKGND: return 1;
-    case WM_LBUTTONDOWN: TastoPremuto(hwnd, *d, 1, w, l); return 0;
-    case WM_RBUTTONDOWN: TastoPremuto(hwnd, *d, 2, w, l); return 0;
-    case WM_MBUTTONDOWN: TastoPremuto(hwnd, *d, 4, w, l); return 0;
-    case WM_LBUTTONUP: Mouse(*d, d->MouseUp, 1, w, l); return 0;
-    case WM_RBUTTONUP: Mouse(*d, d->MouseUp, 2, w, l); return 0;
-    case WM_MBUTTONUP:
-        Mouse(*d, d->MouseUp, 4, w, l);
-        if (GetCapture() == hwnd) ReleaseCapture();
-        return 0;
-    case WM_MOUSEMOVE: Mouse(*d, d->MouseMove, Tasti(w), w, l); return 0;
+    case WM_LBUTTONDOWN: TastoPremuto(1, w, l); return 0;
+    case WM_RBUTTONDOWN: TastoPremuto(2, w, l); return 0;
+    case WM_MBUTTONDOWN: TastoPremuto(4, w, l); return 0;
+    case WM_LBUTTONUP: TastoLasciato(1, w, l); return 0;
+    case WM_RBUTTONUP: TastoLasciato(2, w, l); return 0;
+    case WM_MBUTTONUP: TastoLasciato(4, w, l); return 0;
+    case WM_MOUSEMOVE: Mouse(controllo_.MouseMove, Tasti(w), w, l); return 0;
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDBLCLK:
-        if (d->DblClick) d->DblClick();
-        return 0;
-    case WM_CAPTURECHANGED:
-        if (d->CatturaPersa) d->CatturaPersa();
-        return 0;
-    default: return DefWindowProcW(hwnd, messaggio, w, l);
+    case WM_MBUTTONDBLCLK: Evento(controllo_.DblClick); return 0;
+    case WM_CAPTURECHANGED: Evento(controllo_.CatturaPersa); return 0;
+    default: return DefWindowProcW(hwnd_, messaggio, w, l);
     }
 }
 
-LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+LRESULT CALLBACK DisegnoWin32::Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+    auto *questo = reinterpret_cast<DisegnoWin32 *>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!questo) return DefWindowProcW(hwnd, messaggio, w, l);
     LRESULT esito = 0;
-    EseguiProtetto([&] { esito = Tratta(hwnd, messaggio, w, l); });
+    EseguiProtetto([&] { esito = questo->Messaggio(messaggio, w, l); });
     return esito;
 }
 
-} // namespace
-
-void RegistraDisegno() {
+HWND DisegnoWin32::Crea(const Nascita &nascita) {
     WNDCLASSEXW classe{};
-    classe.cbSize = sizeof classe;
     classe.style = CS_DBLCLKS;
     classe.lpfnWndProc = Procedura;
-    classe.hInstance = GetModuleHandleW(nullptr);
     classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     classe.lpszClassName = kClasse;
-    Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
+    RegistraClasse(classe);
+    hwnd_ = nascita.Crea(kClasse, L"Disegno della struttura", 0);
+    SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    return hwnd_;
 }
 
-HWND CreaDisegno(RiquadroDisegno &disegno, const Nascita &nascita) {
-    const HWND hwnd = nascita.Crea(kClasse, L"Disegno della struttura", 0);
-    SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&disegno));
-    return hwnd;
+void DisegnoWin32::Mostra(Campo campo) {
+    switch (campo) {
+    case Campo::Immagine:
+        finestra_.ApplicaPosizioni(); // it must have its size before it shows the picture for it
+        InvalidateRect(hwnd_, nullptr, FALSE);
+        UpdateWindow(hwnd_);
+        break;
+    case Campo::Elastici: InvalidateRect(hwnd_, nullptr, FALSE); break;
+    case Campo::Puntatore: finestra_.AggiornaPuntatore(); break;
+    default: break;
+    }
 }
-
-void MostraImmagine(HWND disegno) {
-    InvalidateRect(disegno, nullptr, FALSE);
-    UpdateWindow(disegno);
-}
-
-void MostraElastici(HWND disegno) { InvalidateRect(disegno, nullptr, FALSE); }
 
 } // namespace telva

@@ -1,15 +1,31 @@
 #pragma once
-// The native picture box: shows the finished surface and forwards the mouse.
+// Picture box: shows the finished surface and forwards the mouse.
 
 #include "platform/disegno.h"
-#include "platform/win32/base_win32.h"
+#include "platform/win32/pari_win32.h"
 
 namespace telva {
 
-void RegistraDisegno();
-HWND CreaDisegno(RiquadroDisegno &disegno, const Nascita &nascita);
-// Shows a new picture at once; MostraElastici at the next painting.
-void MostraImmagine(HWND disegno);
-void MostraElastici(HWND disegno);
+class DisegnoWin32 : public PariDi<RiquadroDisegno> {
+  public:
+    using PariDi::PariDi;
+
+    Puntatore FormaPuntatore() const override { return controllo_.MousePointer; }
+    bool PrendeRotella() const override { return true; }
+
+  protected:
+    HWND Crea(const Nascita &nascita) override;
+    void Mostra(Campo campo) override;
+
+  private:
+    using GestoreMouse = std::function<void(int, int, float, float)>;
+    static LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l);
+    LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
+    void Dipingi() const;
+    void Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l);
+    void TastoPremuto(int tasto, WPARAM w, LPARAM l);
+    void TastoLasciato(int tasto, WPARAM w, LPARAM l);
+    void Evento(const std::function<void()> &gestore);
+};
 
 } // namespace telva

@@ -32,9 +32,9 @@ MENUITEMINFOW Stato(const VoceMenu &voce, std::wstring &testo) {
 
 } // namespace
 
-MenuWin32::MenuWin32(Modulo &modulo, HWND finestra) : modulo_(modulo), finestra_(finestra) {
+MenuWin32::MenuWin32(Modulo &modulo, OspiteWin32 &finestra) : modulo_(modulo), finestra_(finestra) {
     barra_ = Costruisci(modulo.barraMenu, Richiesto(CreateMenu(), "CreateMenu"));
-    Richiesto(SetMenu(finestra, barra_), "SetMenu");
+    Richiesto(SetMenu(finestra.Maniglia(), barra_), "SetMenu");
     std::vector<ACCEL> tasti;
     for (const VoceMenu *voce : modulo.voci)
         if (voce->scorciatoia)
@@ -44,9 +44,11 @@ MenuWin32::MenuWin32(Modulo &modulo, HWND finestra) : modulo_(modulo), finestra_
         scorciatoie_ =
             Richiesto(CreateAcceleratorTableW(tasti.data(), static_cast<int>(tasti.size())),
                       "CreateAcceleratorTable");
+    for (VoceMenu *voce : modulo.voci) voce->pari = this;
 }
 
 MenuWin32::~MenuWin32() {
+    for (VoceMenu *voce : modulo_.voci) voce->pari = nullptr;
     if (scorciatoie_) DestroyAcceleratorTable(scorciatoie_);
 }
 
@@ -79,8 +81,22 @@ VoceMenu *MenuWin32::Voce(WORD id) const {
     return id >= kPrimaVoce && posto < modulo_.voci.size() ? modulo_.voci[posto] : nullptr;
 }
 
+void MenuWin32::Comando(WORD id) const {
+    const VoceMenu *voce = Voce(id);
+    if (voce && voce->Click && voce->Enabled) finestra_.Evento(voce->Click);
+}
+
 bool MenuWin32::TraduciScorciatoia(MSG &messaggio) const {
-    return scorciatoie_ && TranslateAcceleratorW(finestra_, scorciatoie_, &messaggio) != 0;
+    return scorciatoie_ &&
+           TranslateAcceleratorW(finestra_.Maniglia(), scorciatoie_, &messaggio) != 0;
+}
+
+void MenuWin32::Cambia(Controllo &controllo, Campo) {
+    for (const VoceMenu *voce : modulo_.voci)
+        if (voce == &controllo) {
+            Aggiorna(*voce);
+            finestra_.VoceCambiata(*voce);
+        }
 }
 
 void MenuWin32::Aggiorna(const VoceMenu &voce) const {
@@ -89,7 +105,7 @@ void MenuWin32::Aggiorna(const VoceMenu &voce) const {
     std::wstring testo;
     MENUITEMINFOW info = Stato(voce, testo);
     SetMenuItemInfoW(posto->second.menu, posto->second.posizione, TRUE, &info);
-    if (posto->second.menu == barra_) DrawMenuBar(finestra_);
+    if (posto->second.menu == barra_) DrawMenuBar(finestra_.Maniglia());
 }
 
 LRESULT MenuWin32::Lettera(HMENU menu, wchar_t lettera) const {
@@ -120,7 +136,7 @@ void MenuWin32::Popup(const VoceMenu &menu) const {
     POINT p{};
     if (posto == posti_.end() || !posto->second.figlio || !GetCursorPos(&p)) return;
     TrackPopupMenu(posto->second.figlio, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, p.x, p.y,
-                   0, finestra_, nullptr);
+                   0, finestra_.Maniglia(), nullptr);
 }
 
 } // namespace telva

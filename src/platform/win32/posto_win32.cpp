@@ -1,6 +1,6 @@
 #include "platform/win32/posto_win32.h"
 
-#include "platform/win32/finestra_win32.h"
+#include "platform/win32/schermo_win32.h"
 
 #include <array>
 #include <cmath>
@@ -16,7 +16,7 @@ using Numeri = std::array<std::int32_t, 5>;
 // Whether another window of the program stands with its corner just there.
 bool Occupato(const RECT &r, HWND questa) {
     RECT altra{};
-    for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, L"TelvaFinestra", nullptr)) != nullptr;)
+    for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, kClasseFinestra, nullptr)) != nullptr;)
         if (h != questa && IsWindowVisible(h) && GetWindowRect(h, &altra) && altra.left == r.left &&
             altra.top == r.top)
             return true;
@@ -46,15 +46,24 @@ void ScriviPosto(const PostoFinestra &posto) {
     RegSetKeyValueW(HKEY_CURRENT_USER, kChiave, kValore, REG_BINARY, n.data(), sizeof n);
 }
 
-// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone,
-// nor hide another one exactly.
-void FinestraWin32::Sposta(LONG left, LONG top) {
-    RECT r{};
-    if (!GetWindowRect(hwnd_, &r)) return;
-    OffsetRect(&r, left - r.left, top - r.top);
+PostoFinestra PostoDi(HWND finestra, double larghezza, double altezza) {
+    WINDOWPLACEMENT p{};
+    p.length = sizeof p;
+    GetWindowPlacement(finestra, &p);
+    RECT r = p.rcNormalPosition;
+    const bool ridotta = IsIconic(finestra) != 0;
+    bool grande = IsZoomed(finestra) != 0;
+    if (!ridotta && !grande) GetWindowRect(finestra, &r);
+    if (ridotta) grande = (p.flags & WPF_RESTORETOMAXIMIZED) != 0;
+    return {r.left, r.top, larghezza, altezza, grande};
+}
+
+// A window must not reach below the taskbar of a small screen, nor stand on a monitor that is gone.
+RECT PostoLibero(RECT r, POINT angolo, HWND finestra, double dpi) {
+    OffsetRect(&r, angolo.x - r.left, angolo.y - r.top);
     PortaNelloSchermo(r);
-    const int scarto = MulDiv(26, static_cast<int>(modulo_.dpi), 96);
-    for (int n = 0; n < 10 && Occupato(r, hwnd_); ++n) {
+    const int scarto = MulDiv(26, static_cast<int>(dpi), 96);
+    for (int n = 0; n < 10 && Occupato(r, finestra); ++n) {
         const RECT prima = r;
         OffsetRect(&r, scarto, scarto);
         PortaNelloSchermo(r);
@@ -62,20 +71,7 @@ void FinestraWin32::Sposta(LONG left, LONG top) {
         const RECT area = AreaDiLavoro(r); // no room further on: from the beginning
         OffsetRect(&r, area.left - r.left, area.top - r.top);
     }
-    SetWindowPos(hwnd_, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-PostoFinestra FinestraWin32::Posto() const {
-    WINDOWPLACEMENT p{};
-    p.length = sizeof p;
-    GetWindowPlacement(hwnd_, &p);
-    RECT r = p.rcNormalPosition;
-    const bool ridotta = IsIconic(hwnd_) != 0;
-    bool grande = IsZoomed(hwnd_) != 0;
-    if (!ridotta && !grande) GetWindowRect(hwnd_, &r);
-    if (ridotta) grande = (p.flags & WPF_RESTORETOMAXIMIZED) != 0;
-    return {r.left, r.top, larghezzaNormale_, altezzaNormale_, grande};
+    return r;
 }
 
 } // namespace telva

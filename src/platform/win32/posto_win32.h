@@ -17,5 +17,11 @@ struct PostoFinestra {
 std::optional<PostoFinestra> LeggiPosto();
 // A place that cannot be written is forgotten without a word.
 void ScriviPosto(const PostoFinestra &posto);
+// Where a window stands, or will stand once it is neither minimised nor maximised; its visible size
+// then is known to itself.
+PostoFinestra PostoDi(HWND finestra, double larghezza, double altezza);
+// The rectangle brought to a corner, or as near as the screen allows, where it hides no other
+// window of the program exactly.
+RECT PostoLibero(RECT r, POINT angolo, HWND finestra, double dpi);
 
 } // namespace telva

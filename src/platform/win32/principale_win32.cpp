@@ -2,7 +2,7 @@
 #include "main.h"
 #include "platform/messaggi.h"
 #include "platform/win32/finestra_win32.h"
-#include "platform/win32/posto_win32.h"
+#include "platform/win32/schermo_win32.h"
 
 #include <algorithm>
 #include <memory>
@@ -23,7 +23,7 @@ class Sistema : public SistemaFinestre {
 
     void Mostra(Modulo &modulo) override {
         principale_ = std::make_unique<FinestraWin32>(modulo, nullptr);
-        if (posto_) principale_->Sposta(posto_->left, posto_->top);
+        if (posto_) principale_->Misura().Sposta(posto_->left, posto_->top);
         principale_->Mostra(posto_ && posto_->massimizzata ? SW_SHOWMAXIMIZED : SW_SHOWDEFAULT);
     }
 
@@ -72,7 +72,8 @@ class Sistema : public SistemaFinestre {
         for (const FinestraWin32 *dialogo : dialoghi_) dialogo->TogliNomi();
         if (!principale_) return;
         principale_->TogliNomi();
-        if (codice == 0) ScriviPosto(principale_->Posto()); // a faulty program keeps nothing
+        if (codice == 0)
+            ScriviPosto(principale_->Misura().Posto()); // a faulty program keeps nothing
     }
 
     bool HaFinestra() const { return principale_ != nullptr; }
@@ -128,7 +129,6 @@ int Esegui() {
         ExitProcess(static_cast<UINT>(codice));
     });
     ImpostaSistemaFinestre(&IlSistema());
-    EseguiProtetto(FinestraWin32::RegistraClassi);
     Principale(Argomento());
     MSG m{};
     while (IlSistema().HaFinestra() && GetMessageW(&m, nullptr, 0, 0) > 0) Sistema::Tratta(m);

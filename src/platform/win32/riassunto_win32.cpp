@@ -5,6 +5,8 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
 constexpr int kMargine = 4;
+// What lies beyond the field cannot be seen: the system need not measure a megabyte of list.
+constexpr std::size_t kMassimo = 4000;
 
 std::wstring Testo(HWND hwnd) { return ALargo(TestoFinestra(hwnd)); }
 
@@ -22,9 +24,8 @@ void Dipingi(HWND hwnd) {
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
     RECT dentro = r;
     InflateRect(&dentro, -kMargine, 0);
-    // What lies beyond the field cannot be seen: the system need not measure a megabyte of list.
     std::wstring testo = Testo(hwnd);
-    if (testo.size() > 4000) testo.resize(4000);
+    if (testo.size() > kMassimo) testo.resize(kMassimo);
     DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &dentro,
               DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(dc, prima);
@@ -70,25 +71,27 @@ LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
     return DefWindowProcW(hwnd, messaggio, w, l);
 }
 
-} // namespace
-
-void RegistraRiassunto() {
-    WNDCLASSEXW classe{};
-    classe.cbSize = sizeof classe;
-    classe.lpfnWndProc = Procedura;
-    classe.hInstance = GetModuleHandleW(nullptr);
-    classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    classe.lpszClassName = kClasse;
-    Richiesto(RegisterClassExW(&classe), "RegisterClassEx");
+// A list has no blanks to break lines at: a tip breaks it after commas.
+std::wstring SpezzaElenco(std::wstring_view elenco) {
+    constexpr std::size_t kColonne = 90;
+    std::wstring righe;
+    std::size_t colonna = 0;
+    for (const wchar_t c : elenco) {
+        righe += c;
+        if (c == L',' && ++colonna > kColonne) {
+            righe += L"\r\n";
+            colonna = 0;
+        } else {
+            ++colonna;
+        }
+    }
+    return righe;
 }
 
-HWND CreaRiassunto(const Nascita &nascita, const std::wstring &testo) {
-    return nascita.Crea(kClasse, testo, WS_TABSTOP, WS_EX_STATICEDGE);
-}
-
-bool RiassuntoTagliato(HWND hwnd) {
+// True when the whole text does not fit into the field.
+bool Tagliato(HWND hwnd) {
     const std::wstring testo = Testo(hwnd);
-    if (testo.size() > 4000) return true;
+    if (testo.size() > kMassimo) return true;
     const HDC dc = GetDC(hwnd);
     if (!dc) return false;
     const HGDIOBJ prima = SelectObject(dc, Font(hwnd));
@@ -99,6 +102,28 @@ bool RiassuntoTagliato(HWND hwnd) {
     RECT r{};
     GetClientRect(hwnd, &r);
     return misura.cx > r.right - 2 * kMargine;
+}
+
+} // namespace
+
+HWND RiassuntoWin32::Crea(const Nascita &nascita) {
+    WNDCLASSEXW classe{};
+    classe.lpfnWndProc = Procedura;
+    classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    classe.lpszClassName = kClasse;
+    RegistraClasse(classe);
+    return nascita.Crea(kClasse, ALargo(controllo_.Caption()), WS_TABSTOP, WS_EX_STATICEDGE);
+}
+
+void RiassuntoWin32::Mostra(Campo campo) {
+    if (campo != Campo::Didascalia || !MostraTesto(hwnd_, controllo_.Caption)) return;
+    InvalidateRect(hwnd_, nullptr, TRUE);
+    AggiornaSuggerimento();
+}
+
+std::wstring RiassuntoWin32::TestoSuggerito() const {
+    return Tagliato(hwnd_) ? SpezzaElenco(ALargo(controllo_.Caption()))
+                           : EtichettaWin32::TestoSuggerito();
 }
 
 } // namespace telva

@@ -1,0 +1,66 @@
+#include "platform/win32/controlli_win32.h"
+
+#include "platform/win32/pari_crea_win32.h"
+
+#include <utility>
+
+namespace telva {
+namespace {
+
+// Pixels copied from the old place may carry what a neighbour has painted there since.
+constexpr UINT kModo = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
+constexpr int kPrimoControllo = 100;
+
+} // namespace
+
+void ControlliWin32::Crea(const Modulo &modulo, OspiteWin32 &finestra) {
+    const PariWin32 *precedente = nullptr;
+    int id = kPrimoControllo;
+    for (Controllo *c : modulo.controlli) {
+        tutti_.push_back(CreaPari(*c, finestra));
+        tutti_.back()->Nasci(precedente, id++);
+        precedente = tutti_.back().get();
+    }
+}
+
+bool ControlliWin32::TuttiInsieme() const {
+    HDWP gruppo = BeginDeferWindowPos(static_cast<int>(daPosizionare_.size()));
+    for (const PariWin32 *p : daPosizionare_) {
+        const RECT r = p->Rettangolo();
+        if (gruppo)
+            gruppo = DeferWindowPos(gruppo, p->Maniglia(), nullptr, r.left, r.top, r.right - r.left,
+                                    r.bottom - r.top, kModo);
+    }
+    return gruppo && EndDeferWindowPos(gruppo);
+}
+
+void ControlliWin32::UnoPerUno() const {
+    for (const PariWin32 *p : daPosizionare_) {
+        const RECT r = p->Rettangolo();
+        SetWindowPos(p->Maniglia(), nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                     kModo);
+    }
+}
+
+void ControlliWin32::ApplicaPosizioni(HWND finestra) {
+    if (daPosizionare_.empty()) return;
+    if (!TuttiInsieme()) UnoPerUno();
+    // The frames let what is under them show through, so what has moved leaves its traces there.
+    RedrawWindow(finestra, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    for (PariWin32 *p : std::exchange(daPosizionare_, {})) p->Spostato();
+}
+
+void ControlliWin32::CancellaSfondo(HWND finestra, HDC dc) const {
+    const int stato = SaveDC(dc);
+    for (const auto &p : tutti_) {
+        if (!p->CopreSfondo() || !IsWindowVisible(p->Maniglia())) continue;
+        const RECT r = p->Rettangolo();
+        ExcludeClipRect(dc, r.left, r.top, r.right, r.bottom);
+    }
+    RECT tutto{};
+    GetClientRect(finestra, &tutto);
+    FillRect(dc, &tutto, GetSysColorBrush(COLOR_BTNFACE));
+    RestoreDC(dc, stato);
+}
+
+} // namespace telva

@@ -1,0 +1,40 @@
+#pragma once
+// Labels: the plain ones, and the one whose text stands in the middle of its height. The label that
+// shows data stands in riassunto_win32.h.
+
+#include "platform/win32/pari_win32.h"
+
+namespace telva {
+
+class EtichettaWin32 : public PariDi<Etichetta> {
+  public:
+    using PariDi::PariDi;
+
+  protected:
+    HWND Crea(const Nascita &nascita) override {
+        return nascita.Crea(L"STATIC", ALargo(controllo_.Caption()), Stile());
+    }
+    void Mostra(Campo campo) override {
+        if (campo == Campo::Didascalia && MostraTesto(hwnd_, controllo_.Caption))
+            InvalidateRect(hwnd_, nullptr, TRUE);
+    }
+    bool ConFontPiccolo() const override { return controllo_.stile == StileEtichetta::Pedice; }
+    virtual DWORD Stile() const {
+        const bool unaRiga = controllo_.stile == StileEtichetta::Semplice;
+        return SS_NOPREFIX | SS_NOTIFY |
+               (controllo_.stile == StileEtichetta::SuPiuRighe ? SS_LEFT : SS_LEFTNOWORDWRAP) |
+               (unaRiga ? SS_CENTERIMAGE | SS_ENDELLIPSIS : 0);
+    }
+};
+
+// On several lines, centred in its height: the window has it painted.
+class EtichettaCentrataWin32 : public EtichettaWin32 {
+  public:
+    using EtichettaWin32::EtichettaWin32;
+    void Disegna(const DRAWITEMSTRUCT &d) const override;
+
+  protected:
+    DWORD Stile() const override { return SS_OWNERDRAW; }
+};
+
+} // namespace telva
