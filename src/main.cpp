@@ -1,4 +1,4 @@
-#include "main.h"
+#include "platform/programma.h"
 
 #include "platform/messaggi.h"
 #include "startup/avvio.h"

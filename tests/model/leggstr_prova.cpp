@@ -1,3 +1,4 @@
+#include "Generatore.h"
 #include "ScriviLavoro.h"
 #include "model/leggstr_cond.h"
 #include "model/struttura.h"

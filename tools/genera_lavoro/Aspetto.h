@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Cantiere.h"
-#include "Generatore.h"
+#include "Lavoro.h"
 
 #include <vector>
 

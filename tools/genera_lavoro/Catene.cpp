@@ -1,6 +1,6 @@
 #include "Catene.h"
 
-#include "Generatore.h"
+#include "Lavoro.h"
 
 #include <algorithm>
 #include <array>

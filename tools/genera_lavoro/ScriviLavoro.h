@@ -2,7 +2,7 @@
 // Windows-1252 text, lines ended by CR LF.
 #pragma once
 
-#include "Generatore.h"
+#include "Lavoro.h"
 
 #include <filesystem>
 #include <optional>

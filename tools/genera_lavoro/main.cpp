@@ -1,4 +1,5 @@
 // Command line of the job generator.
+#include "Generatore.h"
 #include "ScriviLavoro.h"
 
 #include <charconv>
