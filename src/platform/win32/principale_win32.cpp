@@ -1,6 +1,6 @@
 // The process: argument string, message loop, windows and boxes of the system.
-#include "platform/programma.h"
 #include "platform/messaggi.h"
+#include "platform/programma.h"
 #include "platform/win32/finestra_win32.h"
 #include "platform/win32/schermo_win32.h"
 
