@@ -1,6 +1,6 @@
 #include "platform/controlli.h"
 
-#include <cmath>
+#include "platform/interi.h"
 
 namespace telva {
 namespace {
@@ -14,9 +14,7 @@ SistemaFinestre *&Sistema() {
 
 void ImpostaSistemaFinestre(SistemaFinestre *sistema) { Sistema() = sistema; }
 
-int APixel(double twip, double dpi) {
-    return static_cast<int>(std::floor(twip * dpi / 1440 + 0.5));
-}
+int APixel(double twip, double dpi) { return InteroVicino(twip * dpi / 1440); }
 double ATwip(double pixel, double dpi) { return pixel * 1440 / dpi; }
 
 Controllo::Controllo(Modulo *proprietario, std::string nome, Tipo tipo, Controllo *genitore)

@@ -1,5 +1,7 @@
 #include "platform/disegno.h"
 
+#include "platform/interi.h"
+
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -8,8 +10,6 @@ namespace telva {
 namespace {
 
 constexpr double kLimitePixel = 1 << 28;
-
-int Vicino(double v) { return static_cast<int>(std::floor(v + 0.5)); }
 
 // Rubber bands: dashes of light over dark, to be seen on every colour of the drawing.
 constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
@@ -71,7 +71,7 @@ Pixel RiquadroDisegno::InPixel(double x, double y, bool &fuori) const {
         px = limita(px);
         py = limita(py);
     }
-    return {Vicino(px), Vicino(py)};
+    return {InteroVicino(px), InteroVicino(py)};
 }
 
 void RiquadroDisegno::Cls() {
@@ -122,8 +122,8 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
     if (fuori) {
         double px1 = XPixel(x1), py1 = YPixel(y1), px2 = XPixel(x2), py2 = YPixel(y2);
         if (!RitagliaLontano(px1, py1, px2, py2)) return;
-        a = {Vicino(px1), Vicino(py1)};
-        b = {Vicino(px2), Vicino(py2)};
+        a = {InteroVicino(px1), InteroVicino(py1)};
+        b = {InteroVicino(px2), InteroVicino(py2)};
     }
     const std::uint32_t rgb = APixelRGB(colore);
     if (DrawWidth > 1)
@@ -157,13 +157,13 @@ void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t co
     const Pixel centro = InPixel(x, y, fuori);
     if (fuori) return;
     const double r = std::min(raggio / UnitaPerPixel(), double{Superficie::kRaggioMassimo});
-    superficie_.Cerchio(centro, Vicino(std::max(r, 0.0)), std::max(DrawWidth, 1),
+    superficie_.Cerchio(centro, InteroVicino(std::max(r, 0.0)), std::max(DrawWidth, 1),
                         APixelRGB(colore));
 }
 
 void RiquadroDisegno::ComponiElastici(Superficie &striscia, int daRiga, int righe) const {
     striscia.CopiaRighe(superficie_, daRiga, righe);
-    const int spessore = std::max(1, Vicino(Proprietario()->dpi / 96));
+    const int spessore = std::max(1, InteroVicino(Proprietario()->dpi / 96));
     const auto punto = [&](double x, double y) {
         bool fuori = false;
         const Pixel p = InPixel(x, y, fuori);

@@ -1,18 +1,26 @@
 #include "platform/superficie.h"
 
+#include "platform/interi.h"
+
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 
 namespace telva {
 namespace {
 
 // Rounds towards minus infinity; b > 0.
-constexpr std::int64_t DivBasso(std::int64_t a, std::int64_t b) {
-    const std::int64_t q = a / b;
+template <class Intero>
+constexpr Intero DivBasso(Intero a, Intero b) {
+    const Intero q = a / b;
     return q * b > a ? q - 1 : q;
 }
-constexpr std::int64_t DivAlto(std::int64_t a, std::int64_t b) { return -DivBasso(-a, b); }
+template <class Intero>
+constexpr Intero DivAlto(Intero a, Intero b) {
+    return -DivBasso<Intero>(-a, b);
+}
 
 // Horizontal run of pixels whose centres lie within `raggio` of the centre, at distance dy.
 double MezzaCorda(double raggio, double dy) {
@@ -45,61 +53,100 @@ void Superficie::CopiaRighe(const Superficie &altra, int daRiga, int righe) {
     pixel_.assign(altra.Riga(daRiga), altra.Riga(daRiga + righe));
 }
 
-void Superficie::Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint32_t colore) {
-    xDa = std::max<std::int64_t>(xDa, 0);
-    xA = std::min<std::int64_t>(xA, larghezza_ - 1);
-    if (xDa > xA || y < 0 || y >= altezza_) return;
-    std::uint32_t *riga = Riga(y);
-    std::fill(riga + xDa, riga + xA + 1, colore);
+// A run of pixels, both ends included, that lies inside the surface. Four at a time: wide pens are
+// made of millions of runs of a few pixels each.
+void Superficie::Stendi(std::uint32_t *da, std::ptrdiff_t quanti, std::uint32_t colore) {
+    if (quanti < 4) {
+        for (std::ptrdiff_t k = 0; k < quanti; ++k) da[k] = colore;
+        return;
+    }
+    const std::uint32_t quattro[4] = {colore, colore, colore, colore};
+    for (std::ptrdiff_t k = 0; k + 4 < quanti; k += 4) std::memcpy(da + k, quattro, sizeof quattro);
+    std::memcpy(da + quanti - 4, quattro, sizeof quattro); // the rest, over what is there already
 }
 
-// Walks the line along its longer direction: step i = 0..maggiore stands at
-// minor coordinate floor((2*minore*i + maggiore) / (2*maggiore)). Which steps fall inside the
-// surface is solved beforehand, so the loop itself tests nothing. Calls scrivi(offset, step).
-template <class Scrivi>
-void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
-    const bool ripida = std::abs(std::int64_t{b.y} - a.y) > std::abs(std::int64_t{b.x} - a.x);
-    // From here on u is the longer direction and v the other one.
-    std::int64_t u0 = ripida ? a.y : a.x, v0 = ripida ? a.x : a.y;
-    std::int64_t u1 = ripida ? b.y : b.x, v1 = ripida ? b.x : b.y;
-    if (u1 < u0) {
-        std::swap(u0, u1);
-        std::swap(v0, v1);
-    }
-    const std::int64_t uFine = (ripida ? altezza_ : larghezza_) - 1;
-    const std::int64_t vFine = (ripida ? larghezza_ : altezza_) - 1;
-    if (u1 < 0 || u0 > uFine || std::max(v0, v1) < 0 || std::min(v0, v1) > vFine) return;
-    const std::int64_t maggiore = u1 - u0;
-    const std::int64_t minore = std::abs(v1 - v0);
-    const std::int64_t segno = v1 < v0 ? -1 : 1;
-    // Clip: steps da..fino with u inside, then with v inside (v moves monotonously).
-    std::int64_t da = std::max<std::int64_t>(0, -u0);
-    std::int64_t fino = std::min(maggiore, uFine - u0);
+void Superficie::Orizzontale(int xDa, int xA, int y, std::uint32_t colore) {
+    if (y < 0 || y >= altezza_) return;
+    xDa = std::max(xDa, 0);
+    xA = std::min(xA, larghezza_ - 1);
+    if (xDa <= xA) Stendi(Riga(y) + xDa, xA - xDa + 1, colore);
+}
+
+namespace {
+
+// A line along its longer direction u: step i = 0..maggiore stands at minor coordinate
+// v0 + segno * floor((2*minore*i + maggiore) / (2*maggiore)).
+struct Percorso {
+    int u0, v0, maggiore, minore, segno;
+    // The steps inside the surface; how far v has advanced at the first of them, and what is left
+    // of the division there.
+    int da, fino, fatti, resto;
+};
+
+// Cuts the steps to u in 0..uFine, v in 0..vFine, solved in whole numbers (v moves monotonously).
+// False when none is left. `Intero` holds the product of two sizes.
+template <class Intero>
+bool Taglia(Percorso &p, Intero uFine, Intero vFine) {
+    const Intero u0 = p.u0, v0 = p.v0, maggiore = p.maggiore, minore = p.minore;
+    Intero da = std::max<Intero>(0, -u0);
+    Intero fino = std::min(maggiore, uFine - u0);
     if (minore > 0) {
-        const std::int64_t vEntra = segno > 0 ? -v0 : v0 - vFine; // advance at which v gets inside
-        const std::int64_t vEsce = segno > 0 ? vFine - v0 : v0;   // last advance still inside
+        const Intero vEntra = p.segno > 0 ? -v0 : v0 - vFine; // advance at which v gets inside
+        const Intero vEsce = p.segno > 0 ? vFine - v0 : v0;   // last advance still inside
         if (vEntra > 0) da = std::max(da, DivAlto((2 * vEntra - 1) * maggiore, 2 * minore));
         if (vEsce < minore)
             fino = std::min(fino, DivAlto((2 * vEsce + 1) * maggiore, 2 * minore) - 1);
     }
-    if (da > fino) return;
-    const std::int64_t avanzo = 2 * minore * da + maggiore;
-    const std::int64_t fatti = maggiore > 0 ? avanzo / (2 * maggiore) : 0;
-    std::int64_t errore = maggiore > 0 ? avanzo - fatti * 2 * maggiore : 0;
-    const std::int64_t u = u0 + da;
-    const std::int64_t v = v0 + segno * fatti;
-    std::ptrdiff_t posto =
-        static_cast<std::ptrdiff_t>(ripida ? u * larghezza_ + v : v * larghezza_ + u);
+    if (da > fino) return false;
+    const Intero avanzo = 2 * minore * da + maggiore;
+    const Intero fatti = maggiore > 0 ? avanzo / (2 * maggiore) : 0;
+    p.da = static_cast<int>(da);
+    p.fino = static_cast<int>(fino);
+    p.fatti = static_cast<int>(fatti);
+    p.resto = maggiore > 0 ? static_cast<int>(avanzo - fatti * 2 * maggiore) : 0;
+    return true;
+}
+
+} // namespace
+
+// Which steps of the line fall inside the surface is solved beforehand, so the loop itself tests
+// nothing. Calls scrivi(offset, step).
+template <class Scrivi>
+void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
+    const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+    int u0 = ripida ? a.y : a.x, v0 = ripida ? a.x : a.y;
+    int u1 = ripida ? b.y : b.x, v1 = ripida ? b.x : b.y;
+    if (u1 < u0) {
+        std::swap(u0, u1);
+        std::swap(v0, v1);
+    }
+    const int uFine = (ripida ? altezza_ : larghezza_) - 1;
+    const int vFine = (ripida ? larghezza_ : altezza_) - 1;
+    const int vMinimo = std::min(v0, v1), vMassimo = std::max(v0, v1);
+    if (u1 < 0 || u0 > uFine || vMassimo < 0 || vMinimo > vFine) return;
+    Percorso p{u0, v0, u1 - u0, vMassimo - vMinimo, v1 < v0 ? -1 : 1, 0, u1 - u0, 0, u1 - u0};
+    if (u0 < 0 || u1 > uFine || vMinimo < 0 || vMassimo > vFine) {
+        // Divisions of 64 bits only for ends far away: 32-bit programs pay dearly for them.
+        constexpr int kLontano = 1 << 13;
+        const bool vicina = u0 > -kLontano && u1 < kLontano && vMinimo > -kLontano &&
+                            vMassimo < kLontano && std::max(uFine, vFine) < kLontano;
+        if (!(vicina ? Taglia<std::int32_t>(p, uFine, vFine)
+                     : Taglia<std::int64_t>(p, uFine, vFine)))
+            return;
+    }
     const std::ptrdiff_t passoU = ripida ? larghezza_ : 1;
-    const std::ptrdiff_t passoV =
-        static_cast<std::ptrdiff_t>(segno) * (ripida ? 1 : static_cast<std::ptrdiff_t>(larghezza_));
-    for (std::int64_t i = da;; ++i) {
+    const std::ptrdiff_t passoV = p.segno * (ripida ? 1 : std::ptrdiff_t{larghezza_});
+    std::ptrdiff_t posto = (p.u0 + p.da) * passoU +
+                           (p.v0 + p.segno * p.fatti) * (ripida ? 1 : std::ptrdiff_t{larghezza_});
+    const int piu = 2 * p.minore, meno = 2 * p.maggiore;
+    int errore = p.resto - meno; // below 0 until v advances
+    for (int i = p.da;; ++i) {
         scrivi(posto, i);
-        if (i == fino) break;
+        if (i == p.fino) break;
         posto += passoU;
-        errore += 2 * minore;
-        if (errore >= 2 * maggiore) {
-            errore -= 2 * maggiore;
+        errore += piu;
+        if (errore >= 0) {
+            errore -= meno;
             posto += passoV;
         }
     }
@@ -111,14 +158,13 @@ void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
         return;
     }
     std::uint32_t *pixel = pixel_.data();
-    Percorri(a, b, [=](std::ptrdiff_t posto, std::int64_t) { pixel[posto] = colore; });
+    Percorri(a, b, [=](std::ptrdiff_t posto, int) { pixel[posto] = colore; });
 }
 
 void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t) {
     std::uint32_t *pixel = pixel_.data();
-    const std::int64_t periodo = t.periodo;
-    Percorri(a, b, [=](std::ptrdiff_t posto, std::int64_t passo) {
-        if ((t.bit >> (passo % periodo)) & 1u) pixel[posto] = colore;
+    Percorri(a, b, [=](std::ptrdiff_t posto, int passo) {
+        if ((t.bit >> (passo % t.periodo)) & 1u) pixel[posto] = colore;
     });
 }
 
@@ -137,10 +183,9 @@ void Tratti::Aggiungi(double x1, double y1, double x2, double y2) {
 }
 
 void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {
-    const auto pixel = [](double v) { return static_cast<int>(std::floor(v + 0.5)); };
     Pixel da{};
     for (const Tratti::Punto &punto : t.punti) {
-        const Pixel a{pixel(x + punto.x), pixel(y + punto.y)};
+        const Pixel a{InteroVicino(x + punto.x), InteroVicino(y + punto.y)};
         if (!punto.inizio) Linea(da, a, colore);
         da = a;
     }
@@ -149,7 +194,7 @@ void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t 
 void Timbro::Riempi(const Tratti &t, double x, double y) {
     pixel.clear();
     if (t.punti.empty()) return;
-    const auto basso = [](double v) { return static_cast<int>(std::floor(v)) - 1; };
+    const auto basso = [](double v) { return InteroBasso(v) - 1; };
     const Pixel angolo{basso(t.minX + x), basso(t.minY + y)};
     Superficie foglio;
     foglio.Ridimensiona(basso(t.maxX + x) + 4 - angolo.x, basso(t.maxY + y) + 4 - angolo.y);
@@ -186,8 +231,7 @@ const std::vector<Superficie::Tratto> &Superficie::Disco(int larghezza) {
         for (int y = -larghezza; y <= larghezza; ++y) {
             const double corda = MezzaCorda(raggio, y - centro);
             if (corda < 0) continue;
-            disco.push_back({y, static_cast<int>(std::ceil(centro - corda)),
-                             static_cast<int>(std::floor(centro + corda))});
+            disco.push_back({y, InteroAlto(centro - corda), InteroBasso(centro + corda)});
         }
     }
     return disco;
@@ -200,11 +244,11 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
     anello_.clear();
     const double fuori = raggio + larghezza / 2.0 - 1e-3; // or an even pen would be one too wide
     const double dentro = raggio - larghezza / 2.0;
-    const int limite = static_cast<int>(std::ceil(fuori));
+    const int limite = InteroAlto(fuori);
     for (int y = -limite; y <= limite; ++y) {
-        const int corda = static_cast<int>(std::floor(MezzaCorda(fuori, y)));
+        const int corda = InteroBasso(MezzaCorda(fuori, y));
         if (corda < 0) continue;
-        const int buco = dentro > 0 ? static_cast<int>(std::ceil(MezzaCorda(dentro, y))) : -1;
+        const int buco = dentro > 0 ? InteroAlto(MezzaCorda(dentro, y)) : -1;
         if (buco <= 0) { // the hole begins beyond the middle, or there is none
             anello_.push_back({y, -corda, corda});
         } else {
@@ -216,8 +260,7 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
 }
 
 void Superficie::TimbraForma(const std::vector<Tratto> &forma, Pixel c, std::uint32_t colore) {
-    for (const Tratto &t : forma)
-        Orizzontale(std::int64_t{c.x} + t.xDa, std::int64_t{c.x} + t.xA, c.y + t.y, colore);
+    for (const Tratto &t : forma) Orizzontale(c.x + t.xDa, c.x + t.xA, c.y + t.y, colore);
 }
 
 void Superficie::Cerchio(Pixel c, int raggio, int larghezza, std::uint32_t colore) {
@@ -230,45 +273,76 @@ void Superficie::Cerchio(Pixel c, int raggio, int larghezza, std::uint32_t color
     TimbraForma(raggio == 0 ? Disco(larghezza) : Anello(raggio, larghezza), c, colore);
 }
 
+namespace {
+
+// The two long edges of a wide line from a to b, which lies not above a.
+class Fascia {
+  public:
+    Fascia(Pixel a, Pixel b, int larghezza) {
+        const double centro = larghezza % 2 == 0 ? -0.5 : 0;
+        const double dx = b.x - a.x, dy = b.y - a.y;
+        const double k = larghezza / 2.0 / std::sqrt(dx * dx + dy * dy);
+        const double nx = dy * k, ny = -dx * k; // to the right of the way down from a to b
+        if (dy > 0) pendenza_ = dx / dy;
+        sinistraDa_ = a.y + centro - ny;
+        destraDa_ = a.y + centro + ny;
+        if (dy > 0) sinistraA_ = b.y + centro - ny;
+        if (dy > 0) destraA_ = b.y + centro + ny;
+        sinistra_ = a.x + centro - nx;
+        destra_ = a.x + centro + nx;
+    }
+    // Whether the row meets the edge, and in which pixel.
+    bool ASinistra(int y) const { return y >= sinistraDa_ && y <= sinistraA_; }
+    bool ADestra(int y) const { return y >= destraDa_ && y <= destraA_; }
+    int Sinistra(int y) const { return InteroAlto(sinistra_ + (y - sinistraDa_) * pendenza_); }
+    int Destra(int y) const { return InteroBasso(destra_ + (y - destraDa_) * pendenza_); }
+
+  private:
+    static constexpr double kMai = -1e300; // the ends of a level line's edges, which no row meets
+    double sinistra_, destra_, pendenza_ = 0;
+    double sinistraDa_, sinistraA_ = kMai, destraDa_, destraA_ = kMai;
+};
+
+} // namespace
+
 // The band between two discs is convex: every row of it is one run, whose ends are the outermost
-// of the two discs and of the two long edges that touch both.
+// of the two discs and of the two long edges that touch both. Rows between the discs have their
+// ends on the edges alone.
 void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore) {
     larghezza = std::clamp(larghezza, 1, kPennaMassima);
+    if (std::max(a.x, b.x) < -larghezza || std::min(a.x, b.x) > larghezza_ + larghezza ||
+        std::max(a.y, b.y) < -larghezza || std::min(a.y, b.y) > altezza_ + larghezza)
+        return;
     const std::vector<Tratto> &disco = Disco(larghezza);
     if (a == b) {
-        if (a.x >= -larghezza && a.x <= larghezza_ + larghezza) TimbraForma(disco, a, colore);
+        TimbraForma(disco, a, colore);
         return;
     }
     if (a.y > b.y) std::swap(a, b);
-    const double centro = larghezza % 2 == 0 ? -0.5 : 0;
-    const double dx = static_cast<double>(b.x) - a.x, dy = static_cast<double>(b.y) - a.y;
-    const double k = larghezza / 2.0 / std::sqrt(dx * dx + dy * dy);
-    const double nx = dy * k, ny = -dx * k; // to the right of the way down from a to b
-    const int yDisco = disco.front().y;
-    const auto quanti = static_cast<std::int64_t>(disco.size());
-    const std::int64_t yDa = std::max<std::int64_t>(std::int64_t{a.y} + yDisco, 0);
-    const std::int64_t yA = std::min<std::int64_t>(b.y + yDisco + quanti - 1, altezza_ - 1);
-    const double pendenza = dy > 0 ? dx / dy : 0;
-    const double sinistraDa = a.y + centro - ny, sinistraA = b.y + centro - ny;
-    const double destraDa = a.y + centro + ny, destraA = b.y + centro + ny;
-    for (std::int64_t y = yDa; y <= yA; ++y) {
-        std::int64_t xDa = INT64_MAX, xA = INT64_MIN;
+    const Fascia fascia(a, b, larghezza);
+    const int sopra = disco.front().y, sotto = disco.back().y;
+    const auto righe = [&](int da, int fino, auto riga) {
+        fino = std::min(fino, altezza_ - 1);
+        for (int y = std::max(da, 0); y <= fino; ++y) riga(y);
+    };
+    const auto capo = [&](int y) { // with a part of one disc or both
+        int xDa = INT_MAX, xA = INT_MIN;
         for (const Pixel &p : {a, b}) {
-            const std::int64_t i = y - p.y - yDisco;
-            if (i < 0 || i >= quanti) continue;
+            const int i = y - p.y - sopra;
+            if (i < 0 || i > sotto - sopra) continue;
             const Tratto &t = disco[static_cast<std::size_t>(i)];
-            xDa = std::min<std::int64_t>(xDa, std::int64_t{p.x} + t.xDa);
-            xA = std::max<std::int64_t>(xA, std::int64_t{p.x} + t.xA);
+            xDa = std::min(xDa, p.x + t.xDa);
+            xA = std::max(xA, p.x + t.xA);
         }
-        const auto yy = static_cast<double>(y);
-        if (dy > 0 && yy >= sinistraDa && yy <= sinistraA)
-            xDa = std::min(xDa, static_cast<std::int64_t>(
-                                    std::ceil(a.x + centro - nx + (yy - sinistraDa) * pendenza)));
-        if (dy > 0 && yy >= destraDa && yy <= destraA)
-            xA = std::max(xA, static_cast<std::int64_t>(
-                                  std::floor(a.x + centro + nx + (yy - destraDa) * pendenza)));
-        Orizzontale(xDa, xA, static_cast<int>(y), colore);
-    }
+        if (fascia.ASinistra(y)) xDa = std::min(xDa, fascia.Sinistra(y));
+        if (fascia.ADestra(y)) xA = std::max(xA, fascia.Destra(y));
+        Orizzontale(xDa, xA, y, colore);
+    };
+    const int finoA = std::min(a.y + sotto, b.y + sotto), daB = std::max(b.y + sopra, finoA + 1);
+    righe(a.y + sopra, finoA, capo);
+    righe(finoA + 1, daB - 1,
+          [&](int y) { Orizzontale(fascia.Sinistra(y), fascia.Destra(y), y, colore); });
+    righe(daB, b.y + sotto, capo);
 }
 
 } // namespace telva

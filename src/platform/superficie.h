@@ -78,7 +78,8 @@ class Superficie {
     struct Tratto { // pixels xDa..xA of one row, relative to the centre
         int y, xDa, xA;
     };
-    void Orizzontale(std::int64_t xDa, std::int64_t xA, int y, std::uint32_t colore);
+    static void Stendi(std::uint32_t *da, std::ptrdiff_t quanti, std::uint32_t colore);
+    void Orizzontale(int xDa, int xA, int y, std::uint32_t colore);
     template <class Scrivi>
     void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
     const std::vector<Tratto> &Disco(int larghezza);

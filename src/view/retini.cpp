@@ -1,12 +1,12 @@
 #include "view/retini.h"
 
 #include "model/struttura.h"
+#include "platform/interi.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/proiezione.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdlib>
 
 namespace telva {
@@ -39,23 +39,23 @@ constexpr std::array<Retino, 9> kRetini = {{
 
 constexpr int kLatoMinimo = 12; // pixels; below this a hatch would only fill the shell
 
+// Corners within +-2^28, so that the values of a family's lines there, and their differences, keep
+// within 32 bits.
 struct Poligono {
     std::array<Pixel, 4> vertici;
     std::size_t numero = 0;
+    std::array<int, 4> valori{}; // a*x + b*y of the family at hand
 };
 
 // Where the line a*x + b*y = c enters and leaves the polygon, as places along x (along y for
 // upright lines), in order. A polygon whose sides cross (a warped shell seen from the edge) may be
 // met four times: consecutive pairs are inside.
-std::size_t Incontri(const Poligono &p, const Famiglia &f, std::int64_t c,
-                     std::array<double, 4> &posti) {
+std::size_t Incontri(const Poligono &p, const Famiglia &f, int c, std::array<double, 4> &posti) {
     std::size_t quanti = 0;
-    const auto valore = [&](const Pixel &v) {
-        return std::int64_t{f.a} * v.x + std::int64_t{f.b} * v.y - c;
-    };
     for (std::size_t k = 0; k < p.numero; ++k) {
-        const Pixel &da = p.vertici[k], &a = p.vertici[(k + 1) % p.numero];
-        const std::int64_t v0 = valore(da), v1 = valore(a);
+        const std::size_t dopo = k + 1 < p.numero ? k + 1 : 0;
+        const Pixel &da = p.vertici[k], &a = p.vertici[dopo];
+        const int v0 = p.valori[k] - c, v1 = p.valori[dopo] - c;
         if ((v0 < 0) == (v1 < 0)) continue;
         const double t = static_cast<double>(v0) / static_cast<double>(v0 - v1);
         posti[quanti++] = f.b != 0 ? da.x + t * (a.x - da.x) : da.y + t * (a.y - da.y);
@@ -83,30 +83,26 @@ void DisegnaTratto(Superficie &s, const Famiglia &f, int c, int da, int a, std::
         s.Linea({x, c}, {x + 1, c}, rgb);
 }
 
-void DisegnaFamiglia(Superficie &s, const Poligono &p, const Famiglia &f, std::uint32_t rgb) {
+void DisegnaFamiglia(Superficie &s, Poligono &p, const Famiglia &f, std::uint32_t rgb) {
     // Only lines that meet both the polygon and the picture.
-    std::int64_t minimo = INT64_MAX, massimo = INT64_MIN;
+    int minimo = INT32_MAX, massimo = INT32_MIN;
     for (std::size_t k = 0; k < p.numero; ++k) {
-        const std::int64_t v =
-            std::int64_t{f.a} * p.vertici[k].x + std::int64_t{f.b} * p.vertici[k].y;
+        const int v = p.valori[k] = f.a * p.vertici[k].x + f.b * p.vertici[k].y;
         minimo = std::min(minimo, v);
         massimo = std::max(massimo, v);
     }
     const int l = s.Larghezza(), h = s.Altezza();
-    minimo = std::max<std::int64_t>(minimo, std::min(0, f.b * h));
-    massimo = std::min<std::int64_t>(massimo, f.a * l + std::max(0, f.b * h));
-    const std::int64_t resto = (minimo % f.passo + f.passo) % f.passo;
+    minimo = std::max(minimo, std::min(0, f.b * h));
+    massimo = std::min(massimo, f.a * l + std::max(0, f.b * h));
+    const int resto = (minimo % f.passo + f.passo) % f.passo;
     std::array<double, 4> posti{};
-    for (std::int64_t c = resto == 0 ? minimo : minimo + f.passo - resto; c <= massimo;
-         c += f.passo) {
+    for (int c = resto == 0 ? minimo : minimo + f.passo - resto; c <= massimo; c += f.passo) {
         const std::size_t quanti = Incontri(p, f, c, posti);
         for (std::size_t k = 0; k + 1 < quanti; k += 2) {
             // Cut to the picture too: dots are counted out one by one.
-            const double da = std::max(std::ceil(posti[k]), 0.0);
-            const double a = std::min(std::floor(posti[k + 1]), double(std::max(l, h)));
-            if (da <= a)
-                DisegnaTratto(s, f, static_cast<int>(c), static_cast<int>(da), static_cast<int>(a),
-                              rgb);
+            const int da = std::max(InteroAlto(posti[k]), 0);
+            const int a = std::min(InteroBasso(posti[k + 1]), std::max(l, h));
+            if (da <= a) DisegnaTratto(s, f, c, da, a, rgb);
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "model/legfont_cond.h"
 #include "platform/disegno.h"
+#include "platform/interi.h"
 #include "platform/messaggi.h"
 #include "platform/testo.h"
 #include "view/colori.h"
@@ -110,14 +111,13 @@ class CaratteriInScala {
         }
         Carattere &c = Prepara(codice);
         if (c.tratti.punti.empty()) return;
-        const double qx = std::floor(d.XPixel(x) * kFrazioni + 0.5);
-        const double qy = std::floor(d.YPixel(y) * kFrazioni + 0.5);
-        if (!c.piccolo || d.DrawWidth > 1 ||
-            !(std::abs(qx) < kLontano && std::abs(qy) < kLontano)) {
+        const int ix = InteroVicino(d.XPixel(x) * kFrazioni);
+        const int iy = InteroVicino(d.YPixel(y) * kFrazioni);
+        const bool vicino = ix > -kLontano && ix < kLontano && iy > -kLontano && iy < kLontano;
+        if (!c.piccolo || d.DrawWidth > 1 || !vicino) {
             d.LineeTratti(c.tratti, x, y, colore);
             return;
         }
-        const int ix = static_cast<int>(qx), iy = static_cast<int>(qy);
         const int fx = ix & (kFrazioni - 1), fy = iy & (kFrazioni - 1);
         const auto forma = static_cast<std::size_t>(fy * kFrazioni + fx);
         if (!c.fatti[forma]) {
@@ -129,7 +129,8 @@ class CaratteriInScala {
 
   private:
     static constexpr int kFrazioni = 4;
-    static constexpr double kLontano = 1 << 24, kGrande = 64;
+    static constexpr int kLontano = 1 << 24;
+    static constexpr double kGrande = 64;
 
     struct Chiave {
         Misura misura{0, 0, 0};
