@@ -59,7 +59,7 @@ bool OpzioneAttiva(int voce) { return OpzioneNumero(voce) == 1; }
 
 void LeggiOpzioni() {
     FileTesto file;
-    TogliProvvisorio(File("TelOpzio.txt"));
+    TogliProvvisori(File("TelOpzio.txt"));
     if (!file.Apri(File("TelOpzio.txt"))) {
         OpzioniPredefinite();
         return;

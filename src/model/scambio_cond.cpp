@@ -31,7 +31,7 @@ std::string &StrSel(int tipo) {
 }
 
 void LeggiIngresso(std::string &sel) {
-    TogliProvvisorio(FileUscita());
+    TogliProvvisori(FileUscita());
     FileTesto file;
     TitoloIn.clear();
     if (!file.Apri(DirLavoro + "\\TelvaIn.txt")) {

@@ -11,13 +11,17 @@ namespace telva {
 // locked); `contenuto` is then empty.
 bool LeggiFile(const std::string &percorso, std::string &contenuto);
 
-// Writes the file whole or not at all: first a temporary beside it, then put in its place. Where
-// the folder takes no new file, an existing file is written in place. False on any failure; what
-// stood in the file before is then still there, and no temporary stays behind.
+// Writes the file whole or not at all: first a temporary of a name of its own beside it, then put
+// in its place. Where the folder takes no temporary, or somebody holds the file open for good, it
+// is written in place, and made when there is none. Several programs may write one file at once:
+// each answer is whole, the last one stays. False on any failure; what stood in the file before is
+// then still there, and no temporary stays behind. Waits up to about a second for somebody who
+// holds the file.
 bool ScriviFile(const std::string &percorso, std::string_view contenuto);
 
-// Removes the temporary of a ScriviFile that was killed in its last moment, if there is one.
-void TogliProvvisorio(const std::string &percorso);
+// Removes the temporaries of this file that killed programs have left; one that a running program
+// is writing stays.
+void TogliProvvisori(const std::string &percorso);
 
 // True when the path names an existing file (not a folder).
 bool EsisteFile(const std::string &percorso);

@@ -1,12 +1,12 @@
 #include "fuzz/bersagli.h"
 
+#include "fuzz/DiscoFinto.h"
 #include "model/legfont_cond.h"
 #include "model/leggstr_cond.h"
 #include "model/opzioni_cond.h"
 #include "model/scambio_cond.h"
 #include "model/struttura.h"
 #include "model/tabelle_cond.h"
-#include "platform/archivio_prova.h"
 #include "platform/messaggi.h"
 #include "platform/testo.h"
 #include "selection/schede_sel.h"
@@ -38,7 +38,8 @@ struct Fine {}; // of the program
 const std::string kRadice = "c:\\t", kLavoro = kRadice + "\\lavori\\prova1",
                   kOpzioni = kRadice + "\\custom\\TelOpzio.txt";
 std::vector<std::string> pezzi; // bytes of each target in this run
-FileInMemoria file;
+DiscoFinto disco;
+auto &file = disco.file;
 
 void Esigi(bool vero, const std::string &che) {
     if (!vero) throw std::logic_error(che);
@@ -241,13 +242,13 @@ void Esegui(const Bersaglio &b, const std::string &byte) {
         Installa(b.nome == "programma" ? Dividi(byte, '#') : std::vector<std::string>{});
     if (quale < pezzi.size()) pezzi[quale] = byte;
     if (!b.file.empty()) file[b.file] = byte;
-    const std::unique_ptr<FileInMemoria, void (*)(FileInMemoria *)> aperti(
-        FileFinti() = &file, [](FileInMemoria *) { FileFinti() = nullptr; });
+    const DiscoInUso inUso(disco);
     ImpostaMessaggi([](auto &&...) {});
     ImpostaFine([](int) { throw Fine(); });
     DirRoot = kRadice, DirCustom = kRadice + "\\custom", DirProgra = kRadice + "\\progra";
     DirLavoro = kLavoro;
-    FileInMemoria prima = b.esegui == Programma ? file : FileInMemoria{};
+    DiscoFinto::FileInMemoria prima;
+    if (b.esegui == Programma) prima = file;
     try {
         b.esegui();
     } catch (const Guasto &g) {

@@ -1,6 +1,6 @@
 #include "model/opzioni_cond.h"
-#include "platform/archivio_prova.h"
 #include "sostegno/Banco.h"
+#include "sostegno/DiscoGuasto.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
 namespace telva::prove {
@@ -18,7 +18,8 @@ TEST_F(Banco, QuelCheSiScriveNelleOpzioniSiRilegge) {
     const auto scritte = Opzioni;
     EXPECT_EQ(ScriviOpzioni(), " Opzioni salvate ");
     EXPECT_EQ(Leggi("TelOpzio.txt").find("0\r\n12.5\r\n\"a,b\"\r\n\r\ncitt\xE0\r\n"), 0u);
-    GuastoScrittura().scritturaPiena = true;
+    DiscoGuasto disco;
+    disco.spazio = 0;
     EXPECT_EQ(ScriviOpzioni(), " Problemi nel salvataggio delle opzioni ");
     AzzeraOpzioni();
     LeggiOpzioni();

@@ -1,6 +1,6 @@
 #include "model/scambio_cond.h"
-#include "platform/archivio_prova.h"
 #include "sostegno/Banco.h"
+#include "sostegno/DiscoGuasto.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
 #include "ui/FormTelva_gestori.h"
@@ -24,8 +24,9 @@ TEST_F(Banco, SiLeggeLIngressoESiScriveLUscita) {
     }
     EXPECT_EQ(letti, "|prima|0|||\nCittà, alta|1-5 , 7|0|1-5 , 7||\nT|3|1||3|\n T |3|2|||3\n"
                      "T|3|3|||\nT|3|4|||\nT|3|0|||\nT|3|0|||\nT|3|0|||\nT|prima|0|||\n");
+    DiscoGuasto disco;
     for (const char *lista : {" 1-5,7 ", "  ", "", "disco pieno"}) {
-        GuastoScrittura().scritturaPiena = *lista == 'd';
+        if (*lista == 'd') disco.spazio = 0;
         FormTelva.StringaSel.Caption = lista;
         EXPECT_TRUE(!Esegui(Salva_Click) && codiceFine == 0);
         EXPECT_EQ(Leggi("TelvaOut.txt"), lista == std::string(" 1-5,7 ") ? "1-5,7\r\n" : " \r\n");

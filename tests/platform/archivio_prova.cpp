@@ -1,22 +1,162 @@
-#include "platform/archivio_prova.h"
 #include "platform/archivio.h"
 #include "sostegno/Banco.h"
+#include "sostegno/DiscoGuasto.h"
+
 #include <algorithm>
 #include <filesystem>
+#include <set>
+#include <thread>
+
 namespace telva::prove {
-TEST_F(Banco, UnaScritturaRiesceInteraOLasciaIlFileCheCEra) {
-    std::string cartella = Radice();
-    std::replace(cartella.begin(), cartella.end(), '\\', '/');
-    for (int caso = 0; caso < 8; ++caso) {
-        const bool cEra = caso & 1, pieno = caso & 2, nessunNuovo = caso & 4;
-        if (cEra) Scrivi("f.txt", "vecchio contenuto\r\n");
-        const std::string prima = Leggi("f.txt");
-        GuastoScrittura() = {pieno, nessunNuovo};
-        const bool riuscita = ScriviFile(Radice() + "\\f.txt", "nuovo");
-        EXPECT_EQ(riuscita, !pieno && (cEra || !nessunNuovo)) << caso;
-        EXPECT_EQ(Leggi("f.txt"), riuscita ? "nuovo" : prima) << caso;
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kVecchio = "vecchio contenuto\r\n";
+const std::string kNuovo = "nuovo contenuto, più lungo del vecchio\r\n";
+
+class Scritture : public Banco {
+  protected:
+    std::string File() const { return Radice() + "\\f.txt"; }
+    fs::path Cartella() const {
+        std::string cartella = Radice();
+        std::ranges::replace(cartella, '\\', '/');
+        return cartella;
+    }
+    std::set<std::string> Nomi() const {
+        std::set<std::string> nomi;
+        for (const auto &voce : fs::directory_iterator(Cartella()))
+            nomi.insert(voce.path().filename().string());
+        return nomi;
+    }
+};
+
+struct Caso {
+    const char *quando;
+    bool cEra = true;
+    std::size_t spazio = std::string::npos;
+    bool nessunFileNuovo = false;
+    bool nessunProvvisorio = false;
+    int sostituzioniNegate = 0;
+    int apertureNegate = 0;
+    bool riesce = true;
+};
+
+const Caso kCasi[] = {
+    {.quando = "tutto va"},
+    {.quando = "il file non c'era", .cEra = false},
+    {.quando = "disco pieno", .spazio = kVecchio.size(), .riesce = false},
+    {.quando = "disco pieno, il file non c'era", .cEra = false, .spazio = 9, .riesce = false},
+    {.quando = "cartella chiusa ai file nuovi", .nessunFileNuovo = true},
+    {.quando = "cartella chiusa, il file non c'era",
+     .cEra = false,
+     .nessunFileNuovo = true,
+     .riesce = false},
+    {.quando = "cartella chiusa e disco pieno a meta'",
+     .spazio = kVecchio.size(),
+     .nessunFileNuovo = true,
+     .riesce = false},
+    {.quando = "nessun provvisorio", .nessunProvvisorio = true},
+    {.quando = "nessun provvisorio, il file non c'era", .cEra = false, .nessunProvvisorio = true},
+    {.quando = "nessun provvisorio, il file non c'era, disco pieno",
+     .cEra = false,
+     .spazio = 9,
+     .nessunProvvisorio = true,
+     .riesce = false},
+    {.quando = "qualcuno tiene il file per poco", .sostituzioniNegate = 5},
+    {.quando = "qualcuno tiene il file per sempre", .sostituzioniNegate = 1000000},
+    {.quando = "un altro lo sta scrivendo", .nessunFileNuovo = true, .apertureNegate = 5},
+    {.quando = "un altro lo scrive per sempre",
+     .nessunFileNuovo = true,
+     .apertureNegate = 1000000,
+     .riesce = false},
+};
+
+} // namespace
+
+TEST_F(Scritture, UnaScritturaRiesceInteraOLasciaIlFileCheCEra) {
+    for (const Caso &caso : kCasi) {
         Cancella("f.txt");
-        EXPECT_TRUE(std::filesystem::is_empty(cartella)) << "temporary left, " << caso;
+        if (caso.cEra) Scrivi("f.txt", kVecchio);
+        const std::string prima = Leggi("f.txt");
+        const std::set<std::string> nomiPrima = Nomi();
+        DiscoGuasto disco;
+        disco.spazio = caso.spazio;
+        disco.nessunFileNuovo = caso.nessunFileNuovo;
+        disco.nessunProvvisorio = caso.nessunProvvisorio;
+        disco.sostituzioniNegate = caso.sostituzioniNegate;
+        disco.apertureNegate = caso.apertureNegate;
+        EXPECT_EQ(ScriviFile(File(), kNuovo), caso.riesce) << caso.quando;
+        EXPECT_EQ(Leggi("f.txt"), caso.riesce ? kNuovo : prima) << caso.quando;
+        EXPECT_EQ(Nomi(), caso.riesce ? std::set<std::string>{"f.txt"} : nomiPrima) << caso.quando;
     }
 }
+
+TEST_F(Scritture, ChiTieneIlFilePerPocoNonLoFaScrivereSulPosto) {
+    Scrivi("f.txt", kVecchio);
+    DiscoGuasto disco;
+    disco.sostituzioniNegate = 5;
+    disco.apertureNegate = 1000000; // in place it could not be done
+    EXPECT_TRUE(ScriviFile(File(), kNuovo));
+    EXPECT_EQ(disco.attese, 5);
+}
+
+TEST_F(Scritture, UnNomeProvvisorioGiaPresoNonSiTocca) {
+    Scrivi("f.txt.~1", "di un programma ucciso");
+    Scrivi("f.txt.~2/dentro.txt", "");
+    Scrivi("altrui.txt", "altrui");
+    std::error_code senzaLegami;
+    fs::create_symlink("altrui.txt", Cartella() / "f.txt.~3", senzaLegami);
+    DiscoGuasto disco;
+    disco.segni = {"4", "3", "2", "1"};
+    EXPECT_TRUE(ScriviFile(File(), kNuovo));
+    EXPECT_EQ(Leggi("f.txt"), kNuovo);
+    EXPECT_EQ(Leggi("f.txt.~1"), "di un programma ucciso");
+    EXPECT_EQ(Leggi("f.txt.~2/dentro.txt"), "");
+    EXPECT_EQ(Leggi("altrui.txt"), "altrui");
+    EXPECT_EQ(Nomi().count("f.txt.~4"), 0u);
+}
+
+TEST_F(Scritture, UnaCartellaColNomeDelFileNonSiTocca) {
+    Scrivi("f.txt/dentro.txt", "");
+    EXPECT_FALSE(ScriviFile(File(), kNuovo));
+    EXPECT_EQ(Nomi(), std::set<std::string>{"f.txt"});
+}
+
+TEST_F(Scritture, SiTolgonoIProvvisoriAbbandonatiENullAltro) {
+    for (const char *nome : {"f.txt", "f.txt.~", "f.txt.~1a2b", "f.txt.~nota", "altro.txt.~12"})
+        Scrivi(nome, "x");
+    Scrivi("f.txt.~c/dentro.txt", "x");
+    auto inScrittura = DiscoDelSistema().Crea(File() + ".~77");
+    ASSERT_TRUE(inScrittura);
+    ASSERT_TRUE(inScrittura->Scrivi(kNuovo));
+    TogliProvvisori(File());
+    EXPECT_EQ(Nomi(), (std::set<std::string>{"altro.txt.~12", "f.txt", "f.txt.~77", "f.txt.~c",
+                                             "f.txt.~nota"}));
+    EXPECT_TRUE(inScrittura->Tieni(File()));
+    inScrittura.reset();
+    EXPECT_EQ(Leggi("f.txt"), kNuovo);
+}
+
+TEST_F(Scritture, QuelCheScrivonoInTreInsiemeEUnoDeiTreIntero) {
+    constexpr int kProgrammi = 3, kGiri = 60;
+    std::vector<std::string> testi;
+    for (int p = 0; p < kProgrammi; ++p)
+        testi.push_back(std::string(static_cast<std::size_t>(5000 * (p + 1)), char('a' + p)));
+    for (int giro = 0; giro < kGiri; ++giro) {
+        bool riuscite[kProgrammi] = {};
+        std::vector<std::thread> programmi;
+        for (int p = 0; p < kProgrammi; ++p)
+            programmi.emplace_back(
+                [&, p] { riuscite[p] = ScriviFile(File(), testi[static_cast<std::size_t>(p)]); });
+        for (std::thread &programma : programmi) programma.join();
+        for (int p = 0; p < kProgrammi; ++p)
+            EXPECT_TRUE(riuscite[p]) << "programma " << p << ", giro " << giro;
+        const std::string rimasto = Leggi("f.txt");
+        EXPECT_EQ(std::ranges::count(testi, rimasto), 1)
+            << rimasto.size() << " byte, giro " << giro;
+        EXPECT_EQ(Nomi(), std::set<std::string>{"f.txt"}) << "giro " << giro;
+    }
+}
+
 } // namespace telva::prove

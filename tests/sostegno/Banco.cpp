@@ -1,6 +1,5 @@
 #include "sostegno/Banco.h"
 
-#include "platform/archivio_prova.h"
 #include "startup/avvio.h"
 #include "startup/direttori_cond.h"
 #include "ui/FormTelva_gestori.h"
@@ -68,7 +67,6 @@ void PrintTo(const Messaggio &m, std::ostream *os) {
 Banco::Banco() : prima_(fs::current_path()), temporanea_(CartellaNuova()), radice_(kRadice) {
     fs::current_path(temporanea_);
     AzzeraProgramma();
-    GuastoScrittura() = {};
     ImpostaMessaggi([this](const std::string &testo, Icona icona, const std::string &titolo) {
         messaggi.push_back({testo, icona, titolo});
     });
