@@ -1,6 +1,7 @@
 #include "model/legfont_cond.h"
 
 #include "platform/archivio.h"
+#include "platform/citazione.h"
 #include "platform/file_testo.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
@@ -31,8 +32,8 @@ bool Coordinata(std::string_view riga, std::size_t posto, std::int16_t &dove) {
     return true;
 }
 
-bool LeggiCarattere(std::string_view riga) {
-    const auto codice = static_cast<unsigned char>(riga[0]);
+// One byte for each character of the line.
+bool LeggiCarattere(int codice, std::string_view riga) {
     CarFont[codice] = DaWindows1252(riga.substr(0, 1));
     const double tratti = ArrotondaPari(static_cast<double>(riga.size() - 1) / 8);
     const int punti = static_cast<int>(std::min(2 * tratti, double(kPuntiMassimi)));
@@ -55,10 +56,14 @@ bool LeggiCaratteri(FileTesto &file) {
     if (!intero) return false;
     SpazioFont = *intero;
     file.FinisciRiga();
-    std::string_view riga;
-    while (file.LeggiRiga(riga)) {
-        riga = riga.substr(0, riga.find_last_not_of(' ') + 1);
-        if (!riga.empty() && !LeggiCarattere(riga)) return false;
+    std::string riga;
+    while (file.LeggiRigaTesto(riga)) {
+        riga.resize(riga.find_last_not_of(' ') + 1);
+        if (riga.empty()) continue;
+        std::size_t posto = 0;
+        const int codice = CodiceAnsi(ProssimoCarattere(riga, posto));
+        if (codice < 0) break; // a character beyond the table ends the reading
+        if (!LeggiCarattere(codice, AWindows1252(riga))) return false;
     }
     return true;
 }
@@ -79,10 +84,11 @@ void LeggiFont() {
         percorso = DirRoot + "\\font.001";
     FileTesto file;
     if (!EsisteFile(percorso))
-        MostraMessaggio("File " + percorso + " inesistente!", Icona::Critica, "Problema");
-    else if (!file.Apri(percorso) || !LeggiCaratteri(file))
-        MostraMessaggio("Errore in lettura del file " + percorso + " !", Icona::Critica,
+        MostraMessaggio("File " + CitaPercorso(percorso) + " inesistente!", Icona::Critica,
                         "Problema");
+    else if (!file.Apri(percorso) || !LeggiCaratteri(file))
+        MostraMessaggio("Errore in lettura del file " + CitaPercorso(percorso) + " !",
+                        Icona::Critica, "Problema");
 }
 
 } // namespace telva

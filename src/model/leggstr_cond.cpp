@@ -1,6 +1,7 @@
 #include "model/leggstr_cond.h"
 
 #include "model/struttura.h"
+#include "platform/citazione.h"
 #include "platform/file_testo.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
@@ -82,7 +83,7 @@ class LettoreStruttura {
         const auto intero = Intero16(valore);
         if (!intero)
             GuastoInFile(file_.Percorso(), file_.Riga(),
-                         "numero fuori dai limiti di 16 bit: " + TestoNumero(valore));
+                         "numero fuori dai limiti di 16 bit: " + CitaNumero(valore));
         return *intero;
     }
 
@@ -108,7 +109,7 @@ class LettoreStruttura {
         const double valore = ValoreCampo(ProssimoCampo(riga));
         if (valore > capacita)
             GuastoInFile(file_.Percorso(), file_.Riga(),
-                         std::string(troppe) + ": " + TestoNumero(valore) + " (al massimo " +
+                         std::string(troppe) + ": " + CitaNumero(valore) + " (al massimo " +
                              TestoNumero(capacita) + ")");
         return std::max<std::int16_t>(A16(valore), 0);
     }
@@ -220,7 +221,7 @@ class LettoreStruttura {
     void LeggiTesti() {
         NumTestiFinali = Conteggio(kTesti, "troppi testi finali");
         for (int i = 0; i < NumTestiFinali; ++i) {
-            TestoFinale[i] = DaWindows1252(RigaDovuta());
+            TestoFinale[i] = file_.Testo(RigaDovuta());
             RigaDovuta();
         }
     }

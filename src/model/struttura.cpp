@@ -1,5 +1,6 @@
 #include "model/struttura.h"
 
+#include "platform/citazione.h"
 #include "platform/numeri.h"
 #include "startup/direttori_cond.h"
 
@@ -48,7 +49,7 @@ int NumeroAngoli(int guscio) { return NodiGuscio[guscio][3] < 0 ? 3 : 4; }
 int AstaElCont(int k, int j) {
     const int asta = AsteElCont(k, j);
     if (asta < 0 || asta >= kAste)
-        throw Guasto("File " + DirLavoro + "\\el_conti.tmp, elemento continuo " +
+        throw Guasto("File " + CitaPercorso(DirLavoro + "\\el_conti.tmp") + ", elemento continuo " +
                      TestoNumero(NumeroElCont[k]) + ": l'asta " + TestoNumero(asta) +
                      " non esiste");
     return asta;

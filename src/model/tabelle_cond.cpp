@@ -1,6 +1,7 @@
 #include "model/tabelle_cond.h"
 
 #include "model/struttura.h"
+#include "platform/citazione.h"
 #include "platform/file_testo.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
@@ -72,7 +73,7 @@ void LeggiUnElCont(FileTesto &file, int k) {
 std::string LeggiSpessori() {
     FileTesto file;
     if (!file.Apri(DirLavoro + "\\spessori"))
-        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\spessori";
+        return Messaggi[kMsgFileIllegibile] + CitaPercorso(DirLavoro + "\\spessori");
     NumSpessori = LeggiConteggio(file, kSchedeSpessore, kMsgTroppiSpessori);
     if (NumSpessori == 0) std::fill_n(MatSpessore.Dati(), kSchedeSpessore, std::int16_t{0});
     for (int n = 0; n < NumSpessori; ++n) {
@@ -88,7 +89,7 @@ std::string LeggiSpessori() {
 std::string LeggiSezioni() {
     FileTesto file;
     if (!file.Apri(DirLavoro + "\\sezioni_"))
-        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\sezioni_";
+        return Messaggi[kMsgFileIllegibile] + CitaPercorso(DirLavoro + "\\sezioni_");
     NumSezioni = LeggiConteggio(file, kSchedeSezione, kMsgTroppeSezioni);
     if (NumSezioni == 0) std::fill_n(MatSezione.Dati(), kSchedeSezione, std::int16_t{0});
     for (int n = 0; n < NumSezioni; ++n) {
@@ -102,7 +103,7 @@ std::string LeggiSezioni() {
 std::string LeggiElCont() {
     FileTesto file;
     if (!file.Apri(DirLavoro + "\\el_conti.tmp"))
-        return Messaggi[kMsgFileIllegibile] + DirLavoro + "\\el_conti.tmp";
+        return Messaggi[kMsgFileIllegibile] + CitaPercorso(DirLavoro + "\\el_conti.tmp");
     double numero = 0;
     if (file.LeggiNumero(numero) != Lettura::Riuscita)
         GuastoInFile(file.Percorso(), std::max(file.Riga(), 1), "numero intero errato");

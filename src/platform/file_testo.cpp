@@ -4,11 +4,14 @@
 #include "platform/numeri.h"
 #include "platform/testo.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
 namespace telva {
 namespace {
+
+constexpr char kFineFile = '\x1A';
 
 bool FineRiga(char c) { return c == '\n' || c == '\r'; }
 bool FineNumero(char c) { return c == ',' || c == ' ' || c == '\t' || FineRiga(c); }
@@ -51,10 +54,24 @@ bool FileTesto::Apri(const std::string &percorso) {
 }
 
 void FileTesto::ApriContenuto(std::string contenuto) {
-    byte_ = std::move(contenuto);
-    posto_ = byte_.starts_with("\xEF\xBB\xBF") ? 3 : 0;
+    const std::string_view marca = std::string_view(contenuto).substr(0, 2);
+    utf8_ = true;
+    if (contenuto.starts_with("\xEF\xBB\xBF")) {
+        byte_ = Utf8Risanato(std::string_view(contenuto).substr(3));
+    } else if (marca == "\xFF\xFE" || marca == "\xFE\xFF") {
+        byte_ = DaUtf16(std::string_view(contenuto).substr(2), marca == "\xFE\xFF");
+    } else {
+        utf8_ = false;
+        byte_ = std::move(contenuto);
+    }
+    byte_.resize(std::min(byte_.find(kFineFile), byte_.size()));
+    posto_ = 0;
     righePassate_ = 0;
     riga_ = 0;
+}
+
+std::string FileTesto::Testo(std::string_view byte) const {
+    return utf8_ ? std::string(byte) : DaWindows1252(byte);
 }
 
 void FileTesto::ConsumaFineRiga() {
@@ -84,12 +101,11 @@ void FileTesto::SaltaVuotiERighe() {
 bool FileTesto::LeggiRiga(std::string_view &riga) {
     if (Finito()) return false;
     riga_ = righePassate_ + 1;
-    const std::string_view resto = std::string_view(byte_).substr(posto_);
-    const std::size_t fine = resto.find('\n');
-    riga = resto.substr(0, fine);
-    posto_ += fine == std::string_view::npos ? resto.size() : fine + 1;
-    ++righePassate_;
-    if (!riga.empty() && riga.back() == '\r') riga.remove_suffix(1);
+    const std::size_t inizio = posto_;
+    while (!Finito() && !FineRiga(byte_[posto_])) ++posto_;
+    riga = std::string_view(byte_).substr(inizio, posto_ - inizio);
+    if (Finito()) ++righePassate_; // the last line has no end of its own
+    ConsumaFineRiga();
     return true;
 }
 
@@ -101,7 +117,7 @@ void FileTesto::FinisciRiga() {
 bool FileTesto::LeggiRigaTesto(std::string &riga) {
     std::string_view byte;
     if (!LeggiRiga(byte)) return false;
-    riga = DaWindows1252(byte);
+    riga = Testo(byte);
     return true;
 }
 
@@ -145,8 +161,10 @@ std::string_view FileTesto::ProssimoTesto(bool &traVirgolette) {
     const std::size_t inizio = posto_;
     while (!Finito() && !(traVirgolette ? byte_[posto_] == '"'
                                         : byte_[posto_] == ',' || FineRiga(byte_[posto_]))) {
-        if (byte_[posto_] == '\n') ++righePassate_;
-        ++posto_;
+        if (FineRiga(byte_[posto_]))
+            ConsumaFineRiga();
+        else
+            ++posto_;
     }
     const std::string_view testo = std::string_view(byte_).substr(inizio, posto_ - inizio);
     if (traVirgolette && !Finito()) ++posto_;
@@ -158,7 +176,7 @@ Lettura FileTesto::LeggiTesto(std::string &testo) {
     if (Finito()) return Lettura::FineFile;
     bool traVirgolette = false;
     const std::string_view letto = ProssimoTesto(traVirgolette);
-    testo = DaWindows1252(traVirgolette ? letto : Rifila(letto));
+    testo = Testo(traVirgolette ? letto : Rifila(letto));
     return Lettura::Riuscita;
 }
 
@@ -167,13 +185,13 @@ Lettura FileTesto::LeggiValore(Valore &valore) {
     bool traVirgolette = false;
     const std::string_view letto = ProssimoTesto(traVirgolette);
     if (traVirgolette)
-        valore = DaWindows1252(letto);
+        valore = Testo(letto);
     else if (Rifila(letto).empty())
         valore = std::monostate{};
     else if (const auto numero = NumeroStretto(letto))
         valore = *numero;
     else
-        valore = DaWindows1252(Rifila(letto));
+        valore = Testo(Rifila(letto));
     return Lettura::Riuscita;
 }
 

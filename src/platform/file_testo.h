@@ -1,6 +1,7 @@
 #pragma once
 // A sequential text file, read in the two classic ways: a whole line, or value by value. Lines end
-// in CR LF or LF. The bytes are held as they are; texts come out as UTF-8.
+// in CR LF, LF or CR; a byte 1A (hex) ends the file. The bytes are Windows-1252, or what a mark at
+// the start says: UTF-8, or UTF-16 of either order. Texts come out as UTF-8.
 
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ enum class Lettura { Riuscita, Malformata, FineFile };
 
 class FileTesto {
   public:
-    // False when the file cannot be opened or read. A UTF-8 byte-order mark is passed over.
+    // False when the file cannot be opened or read.
     bool Apri(const std::string &percorso);
     // Takes the bytes as the file's content (for readers of memory).
     void ApriContenuto(std::string contenuto);
@@ -25,12 +26,14 @@ class FileTesto {
     int Riga() const { return riga_; }
     const std::string &Percorso() const { return percorso_; }
 
-    // Rest of the current line, as bytes, without its end; valid while the file lives.
+    // Rest of the current line, as bytes (see Testo), without its end; valid while the file lives.
     bool LeggiRiga(std::string_view &riga);
     // Passes over what is left of the line of the value read last.
     void FinisciRiga();
     // The same as LeggiRiga, as UTF-8 text.
     bool LeggiRigaTesto(std::string &riga);
+    // Bytes of this file as UTF-8 text.
+    std::string Testo(std::string_view byte) const;
 
     // Next value as a number: blank lines and blanks in front are passed over, it ends at a comma,
     // blank or line end, which is consumed. An empty value is 0. On Malformata (the value is
@@ -52,7 +55,8 @@ class FileTesto {
     std::string_view ProssimoTesto(bool &traVirgolette);
 
     std::string percorso_;
-    std::string byte_;
+    std::string byte_;  // without mark and end
+    bool utf8_ = false; // the bytes are UTF-8, not Windows-1252
     std::size_t posto_ = 0;
     int righePassate_ = 0; // line ends consumed so far
     int riga_ = 0;

@@ -72,6 +72,18 @@ char32_t ProssimoCarattere(std::string_view testo, std::size_t &posto) {
     return valore;
 }
 
+std::size_t ByteDiCaratteri(std::string_view testo, std::size_t caratteri) {
+    std::size_t posto = 0;
+    while (caratteri-- > 0 && posto < testo.size()) ProssimoCarattere(testo, posto);
+    return posto;
+}
+
+std::size_t NumeroCaratteri(std::string_view testo) {
+    std::size_t numero = 0;
+    for (std::size_t posto = 0; posto < testo.size(); ++numero) ProssimoCarattere(testo, posto);
+    return numero;
+}
+
 void AggiungiCarattere(std::string &testo, char32_t c) {
     const auto metti = [&](char32_t b) {
         testo += static_cast<char>(static_cast<unsigned char>(b));
@@ -108,6 +120,44 @@ std::string DaWindows1252(std::string_view byte) {
         AggiungiCarattere(testo, c >= 0x80 && c < 0xA0 ? kAlti[c - 0x80] : c);
     }
     return testo;
+}
+
+std::string DaUtf16(std::string_view byte, bool primaAlto) {
+    std::string testo;
+    testo.reserve(byte.size());
+    const auto unita = [&](std::size_t i) {
+        const auto b = [&](std::size_t k) {
+            return static_cast<char32_t>(static_cast<unsigned char>(byte[k]));
+        };
+        return primaAlto ? b(i) << 8 | b(i + 1) : b(i + 1) << 8 | b(i);
+    };
+    for (std::size_t i = 0; i + 1 < byte.size(); i += 2) {
+        char32_t c = unita(i);
+        const char32_t seguente = i + 3 < byte.size() ? unita(i + 2) : 0;
+        if (c >= 0xD800 && c < 0xDC00 && seguente >= 0xDC00 && seguente < 0xE000) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (seguente - 0xDC00);
+            i += 2;
+        } else if (c >= 0xD800 && c < 0xE000) {
+            c = 0xFFFD;
+        }
+        AggiungiCarattere(testo, c);
+    }
+    return testo;
+}
+
+std::string Utf8Risanato(std::string_view testo) {
+    std::string sano;
+    sano.reserve(testo.size());
+    for (std::size_t i = 0; i < testo.size();) {
+        const std::size_t prima = i;
+        const char32_t c = ProssimoCarattere(testo, i);
+        const std::string_view letto = testo.substr(prima, i - prima);
+        if (letto.size() == 1 && c >= 0x80)
+            sano += DaWindows1252(letto);
+        else
+            sano += letto;
+    }
+    return sano;
 }
 
 std::string AWindows1252(std::string_view testo) {

@@ -1,5 +1,6 @@
 #include "startup/direttori_cond.h"
 
+#include "platform/citazione.h"
 #include "platform/file_testo.h"
 #include "platform/messaggi.h"
 #include "platform/testo.h"
@@ -19,19 +20,6 @@ namespace {
 
 constexpr std::size_t kCaratteriLavoro = 6;
 
-// Bytes that the first `caratteri` characters of the text take.
-std::size_t ByteDiCaratteri(std::string_view testo, std::size_t caratteri) {
-    std::size_t posto = 0;
-    while (caratteri-- > 0 && posto < testo.size()) ProssimoCarattere(testo, posto);
-    return posto;
-}
-
-std::size_t NumeroCaratteri(std::string_view testo) {
-    std::size_t numero = 0;
-    for (std::size_t posto = 0; posto < testo.size(); ++numero) ProssimoCarattere(testo, posto);
-    return numero;
-}
-
 // A job code names one folder below the jobs folder and nothing else.
 bool CodiceAmmesso(std::string_view codice) {
     for (char c : codice)
@@ -39,7 +27,7 @@ bool CodiceAmmesso(std::string_view codice) {
             std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos)
             return false;
     // Nor the jobs folder itself or the one above it.
-    return codice.find("..") == std::string_view::npos && codice != ".";
+    return !codice.empty() && codice != "." && codice.find("..") == std::string_view::npos;
 }
 
 [[noreturn]] void Termina(const std::string &testo, Icona icona = Icona::Esclamazione) {
@@ -48,7 +36,8 @@ bool CodiceAmmesso(std::string_view codice) {
 }
 
 [[noreturn]] void TerminaFileErrato(const char *file) {
-    Termina("Errore: file " + DirRoot + "\\impostazioni\\" + file + " errato o mancante");
+    Termina("Errore: file " + CitaPercorso(DirRoot + "\\impostazioni\\" + file) +
+            " errato o mancante");
 }
 
 std::string RadiceDaArgomento() {
@@ -105,7 +94,7 @@ void LavoroDaArgomento() {
     const std::string_view valore =
         Rifila(std::string_view(ArgomentoAvvio).substr(chiave + kChiave.size()));
     const std::string codice(valore.substr(0, ByteDiCaratteri(valore, kCaratteriLavoro)));
-    if (!CodiceAmmesso(codice)) Termina("Errore: codice di lavoro non ammesso: " + codice);
+    if (!CodiceAmmesso(codice)) Termina("Errore: codice di lavoro non ammesso: " + Cita(codice));
     DirLavoro.resize(DirLavoro.size() - NomeLavoro.size());
     NomeLavoro = codice;
     DirLavoro += NomeLavoro;

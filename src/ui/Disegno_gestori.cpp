@@ -4,6 +4,7 @@
 #include "ui/Disegno_gestori.h"
 
 #include "model/struttura.h"
+#include "platform/citazione.h"
 #include "platform/numeri.h"
 #include "selection/finestra_sel.h"
 #include "selection/schede_sel.h"
@@ -216,7 +217,7 @@ void MostraCoordinate(double x, double y) {
     if (const int i = NodoSottoPuntatore(x, y); i >= 0) {
         const int p = PuntoNodo[i];
         for (const double c : {PuntoX[p], PuntoY[p], PuntoZ[p]})
-            testo += (testo.empty() ? "" : ", ") + TestoNumero(ParteIntera(c));
+            testo += (testo.empty() ? "" : ", ") + CitaNumero(ParteIntera(c));
         testo += " [N" + TestoNumero(NomeNodo[i]) + "]";
     }
     FormTelva.LabCoord.Caption = testo;

@@ -1,6 +1,7 @@
 #include "ui/FormOptInt_gestori.h"
 
 #include "model/opzioni_cond.h"
+#include "platform/citazione.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "platform/tasti.h"
@@ -30,7 +31,7 @@ void AggiornaOpzioniInterne_(std::int16_t &ok) {
 }
 
 void MostraTrappola() {
-    FormTelva.Trappola.Caption = "Trappola (" + TestoNumero(OpzInt[1]) + ")...";
+    FormTelva.Trappola.Caption = "Trappola (" + CitaNumero(OpzInt[1]) + ")...";
 }
 
 void ApriFormOptInt() {

@@ -1,5 +1,6 @@
 #include "view/proiezione.h"
 
+#include "platform/citazione.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
@@ -103,7 +104,7 @@ double ProiettaY(double x, double y, double z) {
 void Rifiuta(CasellaTesto &casella, const std::string &valido, const char *messaggio) {
     const std::string testo = casella.Text;
     casella.Text = valido;
-    MostraMessaggio(messaggio + testo, Icona::Critica, "ERRORE");
+    MostraMessaggio(messaggio + Cita(testo), Icona::Critica, "ERRORE");
 }
 
 bool ProiettaNodi() {

@@ -28,4 +28,16 @@ TEST_F(Banco, OgniRigaDelFontEUnCarattereDiTrattiDaOtto) {
     }
     EXPECT_TRUE(NumPtFont['A'] == 2 && NumPtFont['C'] == -1 && messaggi.size() == 4);
 }
+
+TEST_F(Banco, IlFontInUtf8HaGliStessiCodici) {
+    DirProgra = Radice();
+    Scrivi("font.001", "\xEF\xBB\xBF"
+                       "20\r\nè01020304\r\n€0102030405060708\r\nΩ01020304\r\nB01020304");
+    LeggiFont();
+    EXPECT_EQ(NumPtFont[0xE8], 2) << "è";
+    EXPECT_EQ(CarFont[0xE8], "è");
+    EXPECT_EQ(NumPtFont[0x80], 4) << "€";
+    EXPECT_EQ(NumPtFont['B'], -1) << "a character beyond the table ends the font";
+    EXPECT_EQ(messaggi.size(), 0u);
+}
 } // namespace telva::prove

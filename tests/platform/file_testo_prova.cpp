@@ -1,27 +1,156 @@
 #include "platform/file_testo.h"
+
 #include "platform/numeri.h"
+
 #include <gtest/gtest.h>
+
+#include <vector>
+
 namespace telva::prove {
-TEST(FileTesto, UnValoreFinisceAVirgolaBiancoORigaEPoiSiLeggeIlResto) {
+namespace {
+
+FileTesto Aperto(const std::string &byte) {
     FileTesto file;
-    file.ApriContenuto("\xEF\xBB\xBF 1 , -2.5\t3\r\n \r\n4,,5\n1x nan -inf 1e999 1d3 \r\n+7");
-    std::string letti, testo; // value, line, outcome (good, malformed, end of file)
-    double numero = 0;
-    for (int n = 0; n < 13; ++n) {
-        const char esito = "bmf"[static_cast<int>(file.LeggiNumero(numero))];
-        letti += TestoNumero(numero) + "/" + TestoNumero(file.Riga()) + esito + " ";
-    }
-    EXPECT_EQ(letti, "1/1b -2.5/1b 3/1b 4/3b 0/3b 5/3b 5/4m 5/4m 5/4m 5/4m 1000/4b 7/5b 7/5f ");
-    for (const auto &[byte, riga] : {std::pair{"1 \r\nb", "b"}, {"1, b", " b"}, {"1,\nb", ""}}) {
-        file.ApriContenuto(byte);
-        EXPECT_TRUE(file.LeggiNumero(numero) == Lettura::Riuscita && file.LeggiRigaTesto(testo));
-        EXPECT_EQ(testo, riga);
-    }
-    file.ApriContenuto("\"a,b\" , citt\xE0 alta ,\r\n\"x\r\ny\"1,\n1.5\n\"7\"\r\n 1 2");
-    for (const char *atteso : {"a,b", "città alta", "", "x\r\ny", "1"})
-        EXPECT_TRUE(file.LeggiTesto(testo) == Lettura::Riuscita && testo == atteso) << testo;
-    Valore valore; // stays at the file's end
-    for (const Valore &atteso : {Valore{}, Valore{1.5}, Valore{"7"}, Valore{"1 2"}, Valore{"1 2"}})
-        EXPECT_TRUE((file.LeggiValore(valore), valore == atteso)) << atteso.index();
+    file.ApriContenuto(byte);
+    return file;
 }
+
+std::vector<std::string> Righe(const std::string &byte) {
+    FileTesto file = Aperto(byte);
+    std::vector<std::string> righe;
+    for (std::string riga; file.LeggiRigaTesto(riga);) righe.push_back(riga);
+    return righe;
+}
+
+std::vector<std::string> Testi(const std::string &byte) {
+    FileTesto file = Aperto(byte);
+    std::vector<std::string> testi;
+    for (std::string testo; file.LeggiTesto(testo) == Lettura::Riuscita;) testi.push_back(testo);
+    return testi;
+}
+
+// A number read, or what was wrong with it, and the line it stood on.
+struct Numero {
+    std::string valore;
+    int riga;
+    friend bool operator==(const Numero &, const Numero &) = default;
+};
+
+void PrintTo(const Numero &n, std::ostream *dove) { *dove << n.valore << " at line " << n.riga; }
+
+std::vector<Numero> Numeri(const std::string &byte) {
+    FileTesto file = Aperto(byte);
+    std::vector<Numero> numeri;
+    double valore = 0;
+    for (Lettura esito; (esito = file.LeggiNumero(valore)) != Lettura::FineFile;)
+        numeri.push_back(
+            {esito == Lettura::Riuscita ? TestoNumero(valore) : "malformato", file.Riga()});
+    return numeri;
+}
+
+// Bytes of a text as UTF-16, with its mark.
+std::string Utf16(const std::u16string &testo, bool primaAlto) {
+    std::string byte;
+    for (const char16_t c : u"\uFEFF" + testo) {
+        const char alto = static_cast<char>(c >> 8), basso = static_cast<char>(c & 0xFF);
+        byte += primaAlto ? alto : basso;
+        byte += primaAlto ? basso : alto;
+    }
+    return byte;
+}
+
+const std::string kMarcaUtf8 = "\xEF\xBB\xBF";
+
+} // namespace
+
+using Elenco = std::vector<std::string>;
+
+TEST(FileTesto, UnNumeroFinisceAVirgolaBiancoORiga) {
+    EXPECT_EQ(Numeri(" 1 , -2.5\t3\r\n \r\n4,,5"),
+              (std::vector<Numero>{{"1", 1}, {"-2.5", 1}, {"3", 1}, {"4", 3}, {"0", 3}, {"5", 3}}));
+}
+
+TEST(FileTesto, UnNumeroMalformatoSiConsumaESiProsegue) {
+    for (const char *storto : {"1x", "-", "nan", "-inf", "1e999", "1;2"})
+        EXPECT_EQ(Numeri(std::string(storto) + " 7"),
+                  (std::vector<Numero>{{"malformato", 1}, {"7", 1}}))
+            << storto;
+}
+
+TEST(FileTesto, DopoUnNumeroSiLeggeIlRestoDellaRiga) {
+    const struct {
+        std::string byte, resto;
+    } casi[] = {{"1 \r\nb", "b"}, {"1, b", " b"}, {"1,\nb", ""}, {"1\rb", "b"}};
+    for (const auto &caso : casi) {
+        FileTesto file = Aperto(caso.byte);
+        double numero = 0;
+        std::string resto;
+        EXPECT_EQ(file.LeggiNumero(numero), Lettura::Riuscita) << caso.byte;
+        EXPECT_TRUE(file.LeggiRigaTesto(resto)) << caso.byte;
+        EXPECT_EQ(resto, caso.resto) << caso.byte;
+    }
+}
+
+TEST(FileTesto, UnTestoFinisceAVirgolaORigaOAlleSueVirgolette) {
+    EXPECT_EQ(Testi("\"a,b\" , citt\xE0 alta ,\r\n\"x\r\ny\"1,\n2"),
+              (Elenco{"a,b", "città alta", "", "x\r\ny", "1", "", "2"}));
+}
+
+TEST(FileTesto, UnValoreHaIlSuoTipo) {
+    FileTesto file = Aperto(",1.5\n\"7\"\r\n 1 2");
+    for (const Valore &atteso : {Valore{}, Valore{1.5}, Valore{"7"}, Valore{"1 2"}}) {
+        Valore valore;
+        EXPECT_EQ(file.LeggiValore(valore), Lettura::Riuscita);
+        EXPECT_EQ(valore, atteso);
+    }
+    Valore rimasto{"prima"};
+    EXPECT_EQ(file.LeggiValore(rimasto), Lettura::FineFile);
+    EXPECT_EQ(rimasto, Valore{"prima"});
+}
+
+TEST(FileTesto, CrLfEDueInsiemeChiudonoCiascunoUnaRiga) {
+    EXPECT_EQ(Righe("a\rb\nc\r\nd\r\r e\n\nf"), (Elenco{"a", "b", "c", "d", "", " e", "", "f"}));
+    EXPECT_EQ(Righe("a\r"), Elenco{"a"});
+    EXPECT_EQ(Testi("a\rb\r\"c\rd\"\re"), (Elenco{"a", "b", "c\rd", "e"}));
+    EXPECT_EQ(Numeri("1\r2,3\r\r4\r\n\"\r\n\r\n\"5"),
+              (std::vector<Numero>{
+                  {"1", 1}, {"2", 2}, {"3", 2}, {"4", 4}, {"malformato", 5}, {"malformato", 7}}));
+}
+
+TEST(FileTesto, IlByte1AChiudeIlFile) {
+    EXPECT_EQ(Righe("uno\r\ndue\x1Atre\r\nquattro"), (Elenco{"uno", "due"}));
+    EXPECT_EQ(Righe("uno\r\n\x1A"), Elenco{"uno"});
+    EXPECT_EQ(Numeri("1,2\x1A,3"), (std::vector<Numero>{{"1", 1}, {"2", 1}}));
+    EXPECT_EQ(Testi("\"a\x1A\" b"), Elenco{"a"});
+    EXPECT_EQ(Righe(kMarcaUtf8 + "uno\x1A due"), Elenco{"uno"});
+    EXPECT_EQ(Righe(Utf16(u"uno\u001A due", false)), Elenco{"uno"});
+}
+
+TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
+    const struct {
+        const char *come;
+        std::string byte;
+        Elenco righe;
+    } casi[] = {
+        {"senza marca e' Windows-1252", "citt\xE0\r\n\x80", {"città", "€"}},
+        {"UTF-8 senza marca e' Windows-1252", "\xC3\xA0", {"Ã\u00A0"}},
+        {"UTF-8", kMarcaUtf8 + "città\r\nΩ, 😀", {"città", "Ω, 😀"}},
+        {"marca di UTF-8, byte di Windows-1252", kMarcaUtf8 + "citt\xE0 è", {"città è"}},
+        {"UTF-16, prima il basso", Utf16(u"città\r\nΩ\U0001F600", false), {"città", "Ω😀"}},
+        {"UTF-16, prima l'alto", Utf16(u"città\r\nΩ\U0001F600", true), {"città", "Ω😀"}},
+        {"UTF-16, byte di fine riga in altri caratteri",
+         Utf16(u"\u0D0A\u1A0D\r\nb", true),
+         {"\u0D0A\u1A0D", "b"}},
+        {"UTF-16, mezze coppie",
+         Utf16({0xD83D, u'a', 0xDE00, 0xD83D}, false),
+         {"\uFFFDa\uFFFD\uFFFD"}},
+        {"UTF-16, mezzo carattere in fondo", Utf16(u"a", false) + "b", {"a"}},
+        {"solo la marca", kMarcaUtf8, {}},
+    };
+    for (const auto &caso : casi) EXPECT_EQ(Righe(caso.byte), caso.righe) << caso.come;
+    EXPECT_EQ(Testi(kMarcaUtf8 + "\"Ω, x\", è"), (Elenco{"Ω, x", "è"}));
+    EXPECT_EQ(Numeri(Utf16(u"1,2.5\r\n3", true)),
+              (std::vector<Numero>{{"1", 1}, {"2.5", 1}, {"3", 2}}));
+}
+
 } // namespace telva::prove

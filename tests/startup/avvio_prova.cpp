@@ -1,3 +1,6 @@
+#include "model/legfont_cond.h"
+#include "model/opzioni_cond.h"
+#include "model/struttura.h"
 #include "selection/selezione.h"
 #include "sostegno/Banco.h"
 #include "startup/avvio.h"
@@ -17,6 +20,54 @@ TEST_F(Banco, LaFinestraSiApreConTitoloTrappolaEListaInIngresso) {
     EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
     EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (8)...");
     EXPECT_EQ(FormTelva.MousePointer(), Puntatore::Predefinito);
+}
+
+// The same job, as other programs may write its files.
+TEST_F(Banco, UnLavoroScrittoDaAltriProgrammiSiLeggeUguale) {
+    const auto conFine = [](std::string testo, const std::string &fineRiga) {
+        std::string riscritto;
+        for (const char c : testo)
+            if (c == '\n')
+                riscritto += fineRiga;
+            else if (c != '\r')
+                riscritto += c;
+        return riscritto;
+    };
+    const auto utf16 = [](const std::string &testo) {
+        std::string byte = "\xFF\xFE";
+        for (const char c : testo) (byte += c) += '\0';
+        return byte;
+    };
+    const struct {
+        const char *come;
+        std::function<std::string(const std::string &)> riscrivi;
+    } casi[] = {
+        {"CR", [&](const std::string &testo) { return conFine(testo, "\r"); }},
+        {"LF", [&](const std::string &testo) { return conFine(testo, "\n"); }},
+        {"UTF-8", [](const std::string &testo) { return "\xEF\xBB\xBF" + testo; }},
+        {"UTF-16", utf16},
+        {"1A", [](const std::string &testo) { return testo + "\x1A 1 2 3"; }},
+    };
+    for (const auto &caso : casi) {
+        AzzeraProgramma();
+        Installa();
+        ScriviLavoro(Telaio());
+        ScriviIngresso("Palazzo", "2-4,9", 1);
+        for (const char *file :
+             {"impostazioni/dirlav", "impostazioni/lavoro", "progra/font.001",
+              "custom/TelOpInt.txt", "lavori/prova1/STRUTTUR.STR", "lavori/prova1/spessori",
+              "lavori/prova1/sezioni_", "lavori/prova1/el_conti.tmp", "lavori/prova1/TelvaIn.txt"})
+            Scrivi(file, caso.riscrivi(Leggi(file)));
+        messaggi.clear();
+        EXPECT_TRUE(Avvia()) << caso.come;
+        EXPECT_TRUE(messaggi.empty()) << caso.come << ": " << messaggi[0].testo;
+        EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1") << caso.come;
+        EXPECT_EQ(Lista(), "2-4,9") << caso.come;
+        EXPECT_EQ(NumGusci, 4) << caso.come;
+        EXPECT_EQ(NomeElCont[1], "Trave media") << caso.come;
+        EXPECT_EQ(OpzInt[3], 12) << caso.come;
+        EXPECT_GT(NumPtFont['A'], 0) << caso.come;
+    }
 }
 
 TEST_F(Banco, IFileCheMancanoSiDiconoInOrdineESiProsegue) {

@@ -23,6 +23,7 @@ TEST_F(Banco, GliArgomentiELeImpostazioniDannoIlLavoroOFermanoIlProgramma) {
         {R + "|lavoro=  Xy34zWaltro|LAVORO=un", L, J, L + "\\Xy34zW"},
         {K + "|LAVORO=abc", L, "citt\xE0" "5", L + "\\abc"},
         {K + "|LAVORO=CITTÀ1|", L, J, L + "\\CITTÀ1"},
+        {K + "|LAVORO=", L, J, codice}, {K + "|lavoro=   ", L, J, codice},
         {K + "|LAVORO=..\\..\\", L, J, codice + "..\\..\\"},
         {K + "|LAVORO=a|\\..\\", L, J, codice + "a|\\..\\"}};
     // clang-format on

@@ -1,0 +1,76 @@
+#include "platform/citazione.h"
+
+#include "platform/testo.h"
+#include "sostegno/Banco.h"
+#include "startup/direttori_cond.h"
+#include "ui/controlli/FormTelva.h"
+
+namespace telva::prove {
+namespace {
+
+std::string Volte(int quante, const std::string &testo) {
+    std::string tutto;
+    for (int n = 0; n < quante; ++n) tutto += testo;
+    return tutto;
+}
+
+} // namespace
+
+TEST(Citazione, DiUnTestoLungoRestanoSessantaCaratteriInteri) {
+    const struct {
+        const char *quale;
+        std::string testo, citato;
+    } casi[] = {
+        {"vuoto", "", ""},
+        {"breve", " a b ", " a b "},
+        {"sessanta", Volte(60, "à"), Volte(60, "à")},
+        {"sessantuno", Volte(61, "à"), Volte(59, "à") + "…"},
+        {"di quattro byte", Volte(99, "😀"), Volte(59, "😀") + "…"},
+        {"un megabyte", std::string(1 << 20, 'x'), Volte(59, "x") + "…"},
+        {"righe e tabulazioni", "a\r\nb\tc", "a  b c"},
+        {"byte che non sono UTF-8", "citt\xE0", "città"},
+    };
+    for (const auto &caso : casi) EXPECT_EQ(Cita(caso.testo), caso.citato) << caso.quale;
+}
+
+TEST(Citazione, DiUnPercorsoLungoRestanoUnitaENomeDelFile) {
+    const std::string normale = "c:\\" + Volte(8, "cartella lunga\\") + "f.txt";
+    EXPECT_EQ(CitaPercorso(normale), normale);
+    const std::string citato = CitaPercorso("c:\\" + Volte(9000, "è\\") + "f.txt");
+    EXPECT_EQ(NumeroCaratteri(citato), 260u);
+    EXPECT_EQ(citato.substr(0, 6), "c:\\è\\");
+    EXPECT_TRUE(citato.ends_with("\\è\\f.txt")) << citato;
+}
+
+TEST(Citazione, UnNumeroGrandeHaLaFormaBreve) {
+    const struct {
+        double numero;
+        const char *citato;
+    } casi[] = {{0, "0"},           {12.5, "12.5"},    {1e15, "1000000000000000"},
+                {2e15, "2e+15"},    {-1e20, "-1e+20"}, {1.5e300, "1.5e+300"},
+                {1e-7, "0.0000001"}};
+    for (const auto &caso : casi) EXPECT_EQ(CitaNumero(caso.numero), caso.citato);
+}
+
+TEST_F(Banco, NessunMessaggioEPiuLungoDiQuantoSiMostra) {
+    const std::string lungo(100000, 'x');
+    EXPECT_FALSE(Avvia("|diroot=" + lungo + "|"));
+    EXPECT_LT(messaggi.back().testo.size(), 400u) << "installation folder";
+    messaggi.clear();
+    Apri(Telaio());
+    FormTelva.Angolo[0].Text = lungo;
+    FormTelva.Angolo[0].KeyDown(13);
+    EXPECT_TRUE(messaggi.back().testo.ends_with(" " + Volte(59, "x") + "…")) << "angle";
+    FormTelva.IntX[0].Text = lungo;
+    FormTelva.IntX[0].KeyDown(13);
+    EXPECT_TRUE(messaggi.back().testo.ends_with(" " + Volte(59, "x") + "…")) << "interval";
+    for (const char *punti : {"1e300", "99999999999999999999"}) {
+        Scrivi("lavori/prova1/STRUTTUR.STR", std::string("Release 4\r\n") + punti + "\r\n");
+        EXPECT_FALSE(Avvia());
+        EXPECT_LT(messaggi.back().testo.size(), 400u) << punti;
+    }
+    EXPECT_TRUE(messaggi.back().testo.ends_with("troppi punti: 1e+20 (al massimo 20001)"))
+        << messaggi.back().testo;
+}
+
+} // namespace telva::prove
