@@ -4,40 +4,18 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 namespace telva {
 namespace {
 
 constexpr double kLimitePixel = 1 << 28;
 
-// Rubber bands: dashes of light over dark, to be seen on every colour of the drawing.
-constexpr std::uint32_t kElasticoChiaro = 0xFFFFFF;
-constexpr std::uint32_t kElasticoScuro = 0x202020;
-
-struct Striscia {
-    Pixel a, b;
-};
-
-// Light dashes on dark bands, which cut through whatever is drawn there.
-void Elastici(Superficie &s, std::initializer_list<Striscia> strisce, int spessore) {
-    for (const auto &[a, b] : strisce) s.LineaLarga(a, b, spessore + 4, kElasticoScuro);
-    for (const auto &[a, b] : strisce) {
-        const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
-        for (int k = 0; k < spessore; ++k) { // side by side, in the middle
-            const int kx = ripida ? k - spessore / 2 : 0, ky = ripida ? 0 : k - spessore / 2;
-            s.LineaTratteggiata({a.x + kx, a.y + ky}, {b.x + kx, b.y + ky}, kElasticoChiaro,
-                                {0xFF, 12});
-        }
-    }
-}
-
 } // namespace
 
 RiquadroDisegno::RiquadroDisegno(Modulo *f, std::string nome)
     : Controllo(f, std::move(nome), Tipo::Disegno),
       MousePointer(*this, Campo::Puntatore, Puntatore::Predefinito), Shape(*this),
-      LineSposta(*this) {}
+      LineSposta(*this), Anteprima(*this, Campo::Elastici) {}
 
 int RiquadroDisegno::LarghezzaPixel() const {
     return std::max(1, APixel(Width, Proprietario()->dpi));
@@ -110,21 +88,27 @@ bool RiquadroDisegno::RitagliaLontano(double &x1, double &y1, double &x2, double
     return true;
 }
 
+bool RiquadroDisegno::EstremiInPixel(double x1, double y1, double x2, double y2, Pixel &a,
+                                     Pixel &b) const {
+    bool fuori = false;
+    a = InPixel(x1, y1, fuori);
+    b = InPixel(x2, y2, fuori);
+    if (!fuori) return true;
+    double px1 = XPixel(x1), py1 = YPixel(y1), px2 = XPixel(x2), py2 = YPixel(y2);
+    if (!RitagliaLontano(px1, py1, px2, py2)) return false;
+    a = {InteroVicino(px1), InteroVicino(py1)};
+    b = {InteroVicino(px2), InteroVicino(py2)};
+    return true;
+}
+
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore) {
     Line(x1, y1, x2, y2, colore, Tratteggio{});
 }
 
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
                            Tratteggio t) {
-    bool fuori = false;
-    Pixel a = InPixel(x1, y1, fuori);
-    Pixel b = InPixel(x2, y2, fuori);
-    if (fuori) {
-        double px1 = XPixel(x1), py1 = YPixel(y1), px2 = XPixel(x2), py2 = YPixel(y2);
-        if (!RitagliaLontano(px1, py1, px2, py2)) return;
-        a = {InteroVicino(px1), InteroVicino(py1)};
-        b = {InteroVicino(px2), InteroVicino(py2)};
-    }
+    Pixel a, b;
+    if (!EstremiInPixel(x1, y1, x2, y2, a, b)) return;
     const std::uint32_t rgb = APixelRGB(colore);
     if (DrawWidth > 1)
         superficie_.LineaLarga(a, b, DrawWidth, rgb);
@@ -159,26 +143,6 @@ void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t co
     const double r = std::min(raggio / UnitaPerPixel(), double{Superficie::kRaggioMassimo});
     superficie_.Cerchio(centro, InteroVicino(std::max(r, 0.0)), std::max(DrawWidth, 1),
                         APixelRGB(colore));
-}
-
-void RiquadroDisegno::ComponiElastici(Superficie &striscia, int daRiga, int righe) const {
-    striscia.CopiaRighe(superficie_, daRiga, righe);
-    const int spessore = std::max(1, InteroVicino(Proprietario()->dpi / 96));
-    const auto punto = [&](double x, double y) {
-        bool fuori = false;
-        const Pixel p = InPixel(x, y, fuori);
-        return Pixel{p.x, p.y - daRiga};
-    };
-    if (Shape.Visible) {
-        const Pixel a = punto(Shape.Left, Shape.Top);
-        const Pixel b = punto(Shape.Left + Shape.Width, Shape.Top - Shape.Height);
-        const Pixel c{b.x, a.y}, e{a.x, b.y};
-        Elastici(striscia, {{a, c}, {c, b}, {b, e}, {e, a}}, spessore);
-    }
-    if (LineSposta.Visible)
-        Elastici(striscia,
-                 {{punto(LineSposta.X1, LineSposta.Y1), punto(LineSposta.X2, LineSposta.Y2)}},
-                 2 * spessore);
 }
 
 } // namespace telva

@@ -3,6 +3,7 @@
 // coordinates meet pixels here and nowhere else.
 
 #include "platform/controlli.h"
+#include "platform/sagoma.h"
 #include "platform/superficie.h"
 
 #include <functional>
@@ -68,14 +69,24 @@ class RiquadroDisegno : public Controllo {
     Superficie &Immagine() { return superficie_; }
     const Superficie &Immagine() const { return superficie_; }
 
+    // What is shown over the picture and never drawn into it: the rubber bands, and an outline
+    // beforehand of what a click would take.
     Rettangolo Shape;
     Segmento LineSposta;
-    bool ElasticiVisibili() const { return Shape.Visible || LineSposta.Visible; }
-    // Rows of the picture with the rubber bands over them, as they are shown.
-    void ComponiElastici(Superficie &striscia, int daRiga, int righe) const;
+    Proprieta<Sagoma> Anteprima;
+    bool ElasticiVisibili() const;
+    // The zones of the picture that hold all their pixels; few and small.
+    std::vector<ZonaPixel> ZoneElastici() const;
+    // A zone of the picture with them over it, as it is shown.
+    void ComponiElastici(Superficie &parte, const ZonaPixel &zona) const;
 
   private:
     void AggiornaScala();
+    struct TrattoElastico;
+    // Outline, rectangle and line, one upon the other.
+    std::vector<std::vector<TrattoElastico>> TrattiElastici() const;
+    // Ends of a segment in pixels; false when none of it can be seen.
+    bool EstremiInPixel(double x1, double y1, double x2, double y2, Pixel &a, Pixel &b) const;
     bool RitagliaLontano(double &x1, double &y1, double &x2, double &y2) const;
 
     Superficie superficie_;

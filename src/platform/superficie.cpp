@@ -47,10 +47,14 @@ void Superficie::Ridimensiona(int larghezza, int altezza) {
 
 void Superficie::Riempi(std::uint32_t colore) { std::fill(pixel_.begin(), pixel_.end(), colore); }
 
-void Superficie::CopiaRighe(const Superficie &altra, int daRiga, int righe) {
-    larghezza_ = altra.larghezza_;
-    altezza_ = righe;
-    pixel_.assign(altra.Riga(daRiga), altra.Riga(daRiga + righe));
+void Superficie::CopiaZona(const Superficie &altra, const ZonaPixel &zona) {
+    larghezza_ = zona.larghezza;
+    altezza_ = zona.altezza;
+    pixel_.clear();
+    for (int y = zona.y; y < zona.y + zona.altezza; ++y) {
+        const std::uint32_t *da = altra.Riga(y) + zona.x;
+        pixel_.insert(pixel_.end(), da, da + zona.larghezza);
+    }
 }
 
 // A run of pixels, both ends included, that lies inside the surface. Four at a time: wide pens are

@@ -16,6 +16,12 @@ struct Pixel {
     friend bool operator==(const Pixel &, const Pixel &) = default;
 };
 
+// A rectangle of pixels.
+struct ZonaPixel {
+    int x = 0, y = 0, larghezza = 0, altezza = 0;
+    friend bool operator==(const ZonaPixel &, const ZonaPixel &) = default;
+};
+
 // Dash pattern of a width-1 line: bit i of `bit` says whether pixel i of the period is lit.
 struct Tratteggio {
     std::uint32_t bit = 1;
@@ -56,8 +62,8 @@ class Superficie {
     // New size (at least 1 x 1); the content is undefined until the next Riempi.
     void Ridimensiona(int larghezza, int altezza);
     void Riempi(std::uint32_t colore);
-    // Takes over `righe` rows of another surface, from `daRiga` on.
-    void CopiaRighe(const Superficie &altra, int daRiga, int righe);
+    // Takes over a zone of another surface, which lies wholly in it: size and pixels.
+    void CopiaZona(const Superficie &altra, const ZonaPixel &zona);
 
     // Ends included. Coordinates may lie anywhere within +-2^28.
     void Linea(Pixel a, Pixel b, std::uint32_t colore);

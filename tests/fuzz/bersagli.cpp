@@ -173,7 +173,7 @@ void Comanda(const std::string &righe) {
                 riga.substr(std::min<std::size_t>(riga.size(), 2)));
         }
         static Superficie mostrata;
-        d.ComponiElastici(mostrata, 0, d.Immagine().Altezza());
+        d.ComponiElastici(mostrata, {0, 0, d.Immagine().Larghezza(), d.Immagine().Altezza()});
     }
 }
 

@@ -291,7 +291,7 @@ TEST_F(Immagini, Elastici) {
     d.LineSposta.Y2 = 110;
     d.Shape.Visible = d.LineSposta.Visible = true;
     Superficie composta;
-    d.ComponiElastici(composta, 0, d.AltezzaPixel());
+    d.ComponiElastici(composta, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()});
     ConfrontaImmagine(composta, "elastici");
 }
 

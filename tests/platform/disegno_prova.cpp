@@ -24,7 +24,7 @@ TEST(RiquadroDisegno, ScalaPenneLontanezzeEdElastici) {
     d.LineSposta.X1 = 0, d.LineSposta.Y1 = -50, d.LineSposta.X2 = 30, d.LineSposta.Y2 = -50;
     d.Shape.Visible = d.LineSposta.Visible = true;
     for (const Pixel p : {Pixel{15, 5}, {65, 5}, {65, 25}, {15, 25}, {44, 25}, {5, 40}, {20, 40}}) {
-        d.ComponiElastici(composta, p.y - 4, 9);
+        d.ComponiElastici(composta, {0, p.y - 4, 100, 9});
         EXPECT_NE(composta.Leggi(p.x, 4), prima.Leggi(p.x, p.y)) << p.x;
         EXPECT_EQ(composta.Leggi(99, 8), prima.Leggi(99, p.y + 4)) << p.x;
     }

@@ -11,12 +11,31 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaDisegno";
 
-void Copia(HDC dc, const Superficie &s, int y) {
-    const int l = s.Larghezza(), a = s.Altezza();
+// A zone of a surface to the same place of the screen, moved by (x, y).
+void Copia(HDC dc, const Superficie &s, const ZonaPixel &z, int x, int y) {
     BITMAPINFO info{};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), l, -a, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    SetDIBitsToDevice(dc, 0, y, static_cast<DWORD>(l), static_cast<DWORD>(a), 0, 0, 0,
-                      static_cast<UINT>(a), s.Riga(0), &info, DIB_RGB_COLORS);
+    info.bmiHeader = {
+        sizeof(BITMAPINFOHEADER), s.Larghezza(), -z.altezza, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    SetDIBitsToDevice(dc, z.x + x, z.y + y, static_cast<DWORD>(z.larghezza),
+                      static_cast<DWORD>(z.altezza), z.x, 0, 0, static_cast<UINT>(z.altezza),
+                      s.Riga(z.y), &info, DIB_RGB_COLORS);
+}
+
+// The rectangles that wait to be painted; to be asked before the painting begins.
+std::vector<ZonaPixel> DaDipingere(HWND hwnd) {
+    const HRGN regione = Richiesto(CreateRectRgn(0, 0, 0, 0), "CreateRectRgn");
+    GetUpdateRgn(hwnd, regione, FALSE);
+    std::vector<char> dati(GetRegionData(regione, 0, nullptr));
+    std::vector<ZonaPixel> zone;
+    if (GetRegionData(regione, static_cast<DWORD>(dati.size()),
+                      reinterpret_cast<RGNDATA *>(dati.data()))) {
+        const auto *testa = reinterpret_cast<const RGNDATA *>(dati.data());
+        const auto *r = reinterpret_cast<const RECT *>(testa->Buffer);
+        for (DWORD k = 0; k < testa->rdh.nCount; ++k, ++r)
+            zone.push_back({r->left, r->top, r->right - r->left, r->bottom - r->top});
+    }
+    DeleteObject(regione);
+    return zone;
 }
 
 int Tasti(WPARAM w) {
@@ -31,20 +50,15 @@ int Maiuscoli(WPARAM w) {
 } // namespace
 
 void DisegnoWin32::Dipingi() const {
+    const std::vector<ZonaPixel> zone = DaDipingere(hwnd_);
     PAINTSTRUCT p{};
     const HDC dc = BeginPaint(hwnd_, &p);
     if (!dc) return;
     const Superficie &s = controllo_.Immagine();
     const int l = s.Larghezza(), a = s.Altezza();
-    if (l > 0 && !controllo_.ElasticiVisibili()) Copia(dc, s, 0);
-    if (l > 0 && controllo_.ElasticiVisibili()) {
-        constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
-        static Superficie striscia;
-        for (int y = 0; y < a; y += kRighe) {
-            controllo_.ComponiElastici(striscia, y, std::min(kRighe, a - y));
-            Copia(dc, striscia, y);
-        }
-    }
+    for (const ZonaPixel &z : zone)
+        DipingiZona(dc, {z.x, z.y, std::min(z.x + z.larghezza, l) - z.x,
+                         std::min(z.y + z.altezza, a) - z.y});
     RECT client{};
     GetClientRect(hwnd_, &client);
     const auto nero = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
@@ -54,6 +68,32 @@ void DisegnoWin32::Dipingi() const {
         FillRect(dc, &sotto, nero);
     if (FacciaScura()) FrameRect(dc, &client, GetSysColorBrush(COLOR_BTNTEXT)); // black on black
     EndPaint(hwnd_, &p);
+}
+
+void DisegnoWin32::DipingiZona(HDC dc, const ZonaPixel &z) const {
+    if (z.larghezza <= 0 || z.altezza <= 0) return;
+    if (!controllo_.ElasticiVisibili()) return Copia(dc, controllo_.Immagine(), z, 0, 0);
+    constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
+    static Superficie striscia;
+    for (int y = 0; y < z.altezza; y += kRighe) {
+        const ZonaPixel parte{z.x, z.y + y, z.larghezza, std::min(kRighe, z.altezza - y)};
+        controllo_.ComponiElastici(striscia, parte);
+        Copia(dc, striscia, {0, 0, parte.larghezza, parte.altezza}, parte.x, parte.y);
+    }
+}
+
+void DisegnoWin32::Invalida(const std::vector<ZonaPixel> &zone) const {
+    for (const ZonaPixel &z : zone) {
+        const RECT r{z.x, z.y, z.x + z.larghezza, z.y + z.altezza};
+        InvalidateRect(hwnd_, &r, FALSE);
+    }
+}
+
+// Only where they were and where they are now is painted anew.
+void DisegnoWin32::AggiornaElastici() {
+    Invalida(elastici_);
+    elastici_ = controllo_.ZoneElastici();
+    Invalida(elastici_);
 }
 
 void DisegnoWin32::Evento(const std::function<void()> &gestore) {
@@ -122,10 +162,11 @@ void DisegnoWin32::Mostra(Campo campo) {
     switch (campo) {
     case Campo::Immagine:
         finestra_.ApplicaPosizioni(); // it must have its size before it shows the picture for it
+        elastici_ = controllo_.ZoneElastici();
         InvalidateRect(hwnd_, nullptr, FALSE);
         UpdateWindow(hwnd_);
         break;
-    case Campo::Elastici: InvalidateRect(hwnd_, nullptr, FALSE); break;
+    case Campo::Elastici: AggiornaElastici(); break;
     case Campo::Puntatore: finestra_.AggiornaPuntatore(); break;
     default: break;
     }

@@ -22,10 +22,15 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     static LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l);
     LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
     void Dipingi() const;
+    void DipingiZona(HDC dc, const ZonaPixel &zona) const;
+    void Invalida(const std::vector<ZonaPixel> &zone) const;
+    void AggiornaElastici();
     void Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l);
     void TastoPremuto(int tasto, WPARAM w, LPARAM l);
     void TastoLasciato(int tasto, WPARAM w, LPARAM l);
     void Evento(const std::function<void()> &gestore);
+
+    std::vector<ZonaPixel> elastici_; // where something is shown over the picture
 };
 
 } // namespace telva
