@@ -20,8 +20,6 @@
 namespace telva {
 namespace {
 
-constexpr double kAltezzaBarra = 400; // twips
-
 void IniziaFunzione(Funzione funzione, const char *titolo) {
     FinisciGesti();
     AzzeraInput();
@@ -46,12 +44,10 @@ void SpostaIn(double scarto) {
     FormTelva.Disegno.Height = FormTelva.Disegno.Height - scarto;
 }
 
-// The drawing's width with or without the side bar, which stands to its right.
-void AllargaDisegno() {
-    ModuloTelva &f = FormTelva;
-    f.Disegno.Width = f.Width - (f.FrameSel.Visible ? 3024.0 : 124.0);
-    f.FrameSel.Left = f.Disegno.Left + f.Disegno.Width + 50;
-    f.FrameAtt.Left = f.FrameSel.Left();
+// A bar has come or gone.
+void RidisegnaDisposta() {
+    ControllaIntervalli();
+    RidisegnaAllaMisura();
 }
 
 } // namespace
@@ -101,16 +97,16 @@ void BarraLat_Click() {
     FormTelva.Toolbar1.Suggerimento("AggiungiBarraLat", mostra ? "Toglie la barra laterale"
                                                                : "Aggiunge la barra laterale");
     FormTelva.BarraLat.Checked = mostra;
-    AllargaDisegno();
-    RidisegnaAllaMisura();
+    FormTelva.Disponi();
+    RidisegnaDisposta();
 }
 
 void BarraIcone_Click() {
     const bool mostra = !FormTelva.Toolbar1.Visible;
     FormTelva.Toolbar1.Visible = mostra;
     FormTelva.BarraIcone.Checked = mostra;
-    SpostaIn(mostra ? kAltezzaBarra : -kAltezzaBarra);
-    RidisegnaAllaMisura();
+    SpostaIn(mostra ? FormTelva.Toolbar1.Height : -FormTelva.Toolbar1.Height);
+    RidisegnaDisposta();
 }
 
 void Trappola_Click() { ApriFormOptInt(); }
@@ -134,30 +130,7 @@ void Form_Resize() {
         f.Height = std::max(h, f.altezzaMinima);
         return; // the resize that this causes lays the window out
     }
-    f.FrameInput.Width = w - 180;
-    AllargaDisegno();
-    f.StringaSel.Width = w - 4464;
-    f.FrameCoord.Width = w - 5550;
-    f.Risposta.Left = f.FrameInput.Width - 2600;
-    f.LabCoord.Left = f.FrameCoord.Width - 1000;
-    // Without the tool bar the drawing keeps the room it has gained.
-    f.Disegno.Height = h - 2700 + (f.Toolbar1.Visible ? 0 : kAltezzaBarra);
-    f.StringaSel.Top = f.Disegno.Top + f.Disegno.Height + 80;
-    f.Label5.Top = f.StringaSel.Top();
-    f.Frame2.Top = f.StringaSel.Top + f.StringaSel.Height + 50;
-    f.FrameCoord.Top = f.Frame2.Top();
-    for (int k = 0; k < 3; ++k) {
-        f.Angolo[k].Top = f.StringaSel.Top();
-        f.Label1[k].Top = f.StringaSel.Top();
-        f.Label2[k].Top = f.StringaSel.Top + 100;
-        const double left = w - 2235 + k * 705;
-        f.Label1[k].Left = left;
-        f.Label2[k].Left = left + 120;
-        f.Angolo[k].Left = left + 210;
-    }
-    f.Toolbar1.Width = w - 180;
-    f.Domanda.Width = f.Risposta.Left - f.Domanda.Left - 100;
-    f.Label6.Left = f.LabCoord.Left - f.Label6.Width - 45;
+    f.Disponi();
     RidisegnaAllaMisura();
 }
 

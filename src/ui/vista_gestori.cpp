@@ -1,5 +1,7 @@
 #include "ui/vista_gestori.h"
 
+#include "platform/citazione.h"
+#include "platform/messaggi.h"
 #include "platform/tasti.h"
 #include "selection/selezione.h"
 #include "ui/controlli/FormTelva.h"
@@ -11,15 +13,44 @@
 
 namespace telva {
 
+namespace {
+
+// A text that is no number is told and gives way to the last one that was.
+bool Controlla(CasellaNumero &casella, const char *messaggio) {
+    if (casella.Valida() || casella.Text == casella.Accolto()) return true;
+    const std::string testo = casella.Text;
+    casella.Ripristina();
+    MostraMessaggio(messaggio + Cita(testo), Icona::Critica, "ERRORE");
+    return false;
+}
+
+// Projects by the typed angles; false when one is wrong, and the view stays as it was.
+bool Proietta() {
+    bool validi = true;
+    for (CasellaNumero &angolo : FormTelva.Angolo)
+        validi = Controlla(angolo, "Angolo di vista non valido: ") && validi;
+    return validi && ProiettaNodi();
+}
+
+} // namespace
+
+void ControllaIntervalli() {
+    for (auto *campi : {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ})
+        for (CasellaNumero &casella : *campi)
+            Controlla(casella, "Intervallo di coordinate non valido: ");
+}
+
 void Ottimizza_Click() {
-    if (!ProiettaNodi()) return; // a wrong angle leaves the view as it was
+    if (!Proietta()) return;
     FinestraZoom = {};
+    ControllaIntervalli();
     Adatta();
     DisegnaStruttura();
 }
 
 void Ridis_Click() {
-    ProiettaNodi();
+    Proietta();
+    ControllaIntervalli();
     Adatta();
     MostraSelezione();
 }

@@ -12,7 +12,11 @@ void VisAssi_Click();
 // "Tutto" beside an interval: the whole extent of axis 1 = X, 2 = Y, 3 = Z.
 void IntervalloIntero(std::uint8_t asse);
 
-// The drawing's box has another size: fits and draws again.
+// Tells each interval that is no number and gives its box the last one back.
+void ControllaIntervalli();
+
+// The drawing's box has another size: fits and draws again. Nothing is told about texts that are
+// still being typed.
 void RidisegnaAllaMisura();
 
 void WheelCatcher1_Rotella(int passi);

@@ -1,16 +1,13 @@
 #include "view/inquadra.h"
 
 #include "model/struttura.h"
-#include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 #include "view/proiezione.h"
 #include "view/visibile.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string>
 
 namespace telva {
 
@@ -24,22 +21,6 @@ constexpr double kAreaNulla = 0.0001;
 constexpr double kFinestraMinimaRotella = 0.1; // drawing units
 constexpr double kPassoRotella = 0.1;
 constexpr double kMargine = 0.1;
-
-std::array<std::string, 6> intervalliValidi; // texts of the boxes as last taken over
-
-// A text that is no number is told and gives way to the last one that was.
-void AccogliIntervalli() {
-    std::size_t posto = 0;
-    for (auto *campi : {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ})
-        for (CasellaTesto &casella : *campi) {
-            std::string &valido = intervalliValidi[posto++];
-            if (casella.Text == valido) continue;
-            if (NumeroStretto(casella.Text()))
-                valido = casella.Text();
-            else
-                Rifiuta(casella, valido, "Intervallo di coordinate non valido: ");
-        }
-}
 
 class Estensione {
   public:
@@ -125,7 +106,6 @@ bool ApplicaRotella(double d) {
 }
 
 void Adatta() {
-    AccogliIntervalli();
     CalcolaAttivi();
     AggiornaFinestraVista();
     FinestraDisegno f = FinestraVista;
@@ -149,7 +129,6 @@ void Adatta() {
 void AzzeraVista() {
     FinestraZoom = {};
     FinestraVista = {};
-    intervalliValidi.fill("");
 }
 
 } // namespace telva

@@ -28,8 +28,7 @@ void AggiornaFinestraVista();
 bool ApplicaRotella(double d);
 
 // Activation, then the user scale of Disegno: the chosen window undistorted, centred, with
-// margins. A window without area leaves the scale as it is. An interval box whose text is no number
-// gets its last one back, and a message says so.
+// margins. A window without area leaves the scale as it is.
 void Adatta();
 
 void AzzeraVista();

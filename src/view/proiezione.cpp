@@ -1,7 +1,5 @@
 #include "view/proiezione.h"
 
-#include "platform/citazione.h"
-#include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 
@@ -16,26 +14,6 @@ Tabella<double, kPunti> XDis{"XDis"}, YDis{"YDis"};
 Direzione DirAsseX, DirAsseY, DirAsseZ;
 
 namespace {
-
-std::string angoliValidi[3]; // texts of the boxes at the last projection
-
-// The three angles in degrees; false when one of the texts is no number.
-bool LeggiAngoli(double (&angoli)[3]) {
-    bool validi = true;
-    for (int k = 0; k < 3; ++k) {
-        const std::string testo = FormTelva.Angolo[k].Text;
-        if (const auto angolo = NumeroStretto(testo)) {
-            angoli[k] = *angolo;
-            continue;
-        }
-        validi = false;
-        Rifiuta(FormTelva.Angolo[k], angoliValidi[k].empty() ? testo : angoliValidi[k],
-                "Angolo di vista non valido: ");
-    }
-    if (!validi) return false;
-    for (int k = 0; k < 3; ++k) angoliValidi[k] = FormTelva.Angolo[k].Text;
-    return true;
-}
 
 // The twelve digits of pi that every picture of a job has been made with.
 constexpr double kPiGreco = 3.14159265359;
@@ -101,16 +79,13 @@ double ProiettaY(double x, double y, double z) {
     return MatRot[3][1] * x + MatRot[3][2] * y + MatRot[3][3] * z;
 }
 
-void Rifiuta(CasellaTesto &casella, const std::string &valido, const char *messaggio) {
-    const std::string testo = casella.Text;
-    casella.Text = valido;
-    MostraMessaggio(messaggio + Cita(testo), Icona::Critica, "ERRORE");
-}
-
 bool ProiettaNodi() {
-    double angoli[3];
-    if (!LeggiAngoli(angoli)) return false;
-    CalcolaMatrice(angoli[0], -angoli[1], angoli[2]); // the second angle turns the other way
+    for (const CasellaNumero &angolo : FormTelva.Angolo)
+        if (!angolo.Valida()) return false;
+    for (CasellaNumero &angolo : FormTelva.Angolo) angolo.Accogli();
+    auto &angoli = FormTelva.Angolo;
+    // The second angle turns the other way.
+    CalcolaMatrice(angoli[0].Valore(), -angoli[1].Valore(), angoli[2].Valore());
     for (int p = 0; p < NumPunti; ++p) {
         XDis[p] = ProiettaX(PuntoX[p], PuntoY[p], PuntoZ[p]);
         YDis[p] = ProiettaY(PuntoX[p], PuntoY[p], PuntoZ[p]);
@@ -124,7 +99,7 @@ bool ProiettaNodi() {
 void AggiornaIntervalli(unsigned char k) {
     if (k < 1 || k > 4) return;
     const Estremi e = EstremiStruttura();
-    Schiera<CasellaTesto, 2> *campi[3] = {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ};
+    Schiera<CasellaNumero, 2> *campi[3] = {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ};
     for (int asse = 0; asse < 3; ++asse) {
         if (k != 4 && k != asse + 1) continue;
         (*campi[asse])[0].Text = TestoIntero(e.minimo[asse]);
@@ -143,7 +118,6 @@ void AzzeraProiezione() {
     XDis.Azzera();
     YDis.Azzera();
     DirAsseX = DirAsseY = DirAsseZ = {};
-    for (std::string &testo : angoliValidi) testo.clear();
 }
 
 } // namespace telva

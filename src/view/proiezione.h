@@ -19,11 +19,8 @@ void CalcolaMatrice(double a, double b, double c);
 double ProiettaX(double x, double y, double z);
 double ProiettaY(double x, double y, double z);
 
-// Puts a box's last valid text back, and says with `messaggio` which one was not.
-void Rifiuta(CasellaTesto &casella, const std::string &valido, const char *messaggio);
-
-// Reads the Angolo boxes and projects everything. When an angle is no number its message is shown,
-// the box gets the angle of the view back, and the view stays as it was: false.
+// Takes the Angolo boxes over and projects everything. When one of them is no number, none is taken
+// and the view stays as it was: false.
 bool ProiettaNodi();
 
 // False as long as nothing has been projected, as after a structure that could not be read.

@@ -3,7 +3,6 @@
 #include "model/elementi.h"
 #include "model/opzioni_cond.h"
 #include "model/tabelle_cond.h"
-#include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 
@@ -14,9 +13,11 @@ namespace {
 // small tolerance covers the sums' own rounding.
 struct Intervallo {
     double minimo, massimo;
-    explicit Intervallo(Schiera<CasellaTesto, 2> &campi)
-        : minimo(ValoreNumerico(campi[0].Text()) - 0.5 - 1e-6),
-          massimo(ValoreNumerico(campi[1].Text()) + 0.5 + 1e-6) {}
+    explicit Intervallo(Schiera<CasellaNumero, 2> &campi) {
+        for (CasellaNumero &casella : campi) casella.Accogli();
+        minimo = campi[0].Valore() - 0.5 - 1e-6;
+        massimo = campi[1].Valore() + 0.5 + 1e-6;
+    }
     bool Comprende(double valore) const { return valore >= minimo && valore <= massimo; }
 };
 

@@ -3,7 +3,8 @@
 
 namespace telva {
 
-// Active flags of all elements, from the coordinate intervals and the side bar's check boxes.
+// Active flags of all elements, from the coordinate intervals and the side bar's check boxes. In
+// place of an interval that is no number the last one taken over counts.
 void CalcolaAttivi();
 
 // Drawn: has a name, a visible colour and is active; a thin shell may be hidden by the options.

@@ -108,12 +108,16 @@ bool Modello::Proietta() {
 }
 
 // The intervals are whole numbers: half a unit more on either side.
+bool Modello::Giusto(const std::string &intervallo) {
+    return !intervallo.empty() && intervallo != "abc";
+}
+
 bool Modello::Dentro(const Elemento &e) const {
     for (const int p : e.punti)
         for (int asse = 0; asse < 3; ++asse) {
             const double v = lavoro_.punti[p][asse];
-            if (Numero(intervalli[2 * asse]) - v > 0.5) return false;
-            if (v - Numero(intervalli[2 * asse + 1]) > 0.5) return false;
+            if (Numero(ultimi_[2 * asse]) - v > 0.5) return false;
+            if (v - Numero(ultimi_[2 * asse + 1]) > 0.5) return false;
         }
     return true;
 }
@@ -147,16 +151,15 @@ void Modello::Inquadra() {
 
 void Modello::ControllaIntervalli() {
     for (int k = 0; k < 6; ++k) {
-        if (intervalli[k].empty() || intervalli[k] == "abc") {
-            Dice("Intervallo di coordinate non valido: " + intervalli[k], "ERRORE", kCritica);
-            intervalli[k] = ultimi_[k];
-        }
-        ultimi_[k] = intervalli[k];
+        if (Giusto(intervalli[k])) continue;
+        Dice("Intervallo di coordinate non valido: " + intervalli[k], "ERRORE", kCritica);
+        intervalli[k] = ultimi_[k];
     }
 }
 
 void Modello::Adatta() {
-    ControllaIntervalli();
+    for (int k = 0; k < 6; ++k) // what is not yet told does not count
+        if (Giusto(intervalli[k])) ultimi_[k] = intervalli[k];
     for (int t = Nodi; t <= Gusci; ++t)
         for (Elemento &e : elementi[t])
             e.attivo = Dentro(e) && filtri_[t] && filtri_[e.selezionato ? 3 : 4];
@@ -175,6 +178,7 @@ void Modello::Adatta() {
 
 void Modello::Ridisegna() {
     Proietta();
+    ControllaIntervalli();
     Adatta();
     AggiornaLista();
 }
@@ -182,6 +186,7 @@ void Modello::Ridisegna() {
 void Modello::Ottimizza() {
     if (!Proietta()) return;
     zoom = {};
+    ControllaIntervalli();
     Adatta();
 }
 

@@ -120,6 +120,7 @@ struct Modello {
     bool Zoomata() const;
     bool Piccola() const;
     void Inquadra();
+    static bool Giusto(const std::string &intervallo); // of those that a step types
     void ControllaIntervalli();
     void Adatta();
     void Ridisegna();

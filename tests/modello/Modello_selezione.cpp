@@ -310,7 +310,10 @@ bool Modello::Menu(const std::string &voce) {
         labCoord = "";
     }
     if (voce == "Ridis" || voce == "VisAssi") Ridisegna();
-    if (voce == "BarraLat" || voce == "BarraIcone") Adatta();
+    if (voce == "BarraLat" || voce == "BarraIcone") {
+        ControllaIntervalli();
+        Adatta();
+    }
     return true;
 }
 

@@ -52,3 +52,15 @@ TEST_F(Banco, AttiviEdEstensione) {
     ColNodo[0] = 9, SpessoreGuscio[3] = 3, Adatta(); // seed (0, 0); no such card
     EXPECT_EQ(FinestraVista, (FinestraDisegno{200, 0, 200, 0}));
 }
+TEST_F(Banco, RidimensionareNonInterrompeChiScrive) {
+    Apri(Telaio());
+    FormTelva.IntX[0].Text = "abc";
+    FormTelva.Resize();
+    EXPECT_TRUE(messaggi.empty());
+    EXPECT_EQ(FormTelva.IntX[0].Text(), "abc");
+    EXPECT_EQ(std::accumulate(&AttNodo[0], &AttNodo[NumNodi], 0), 9);
+    FormTelva.IntX[0].KeyDown(13);
+    const Messaggio atteso{"Intervallo di coordinate non valido: abc", Icona::Critica, "ERRORE"};
+    EXPECT_EQ(messaggi, std::vector{atteso});
+    EXPECT_EQ(FormTelva.IntX[0].Text(), "0");
+}

@@ -21,8 +21,12 @@ TEST_F(Banco, AngoliEIntervalli) {
     EXPECT_NEAR(MatRot[3][3], -1.0363e-13, 1e-16); // pi has twelve digits
     for (const std::string testo : {"", "12,5", "3O", "inf", "nan", "1e400", "."}) {
         prova(testo, "10", "10", 1, 10);
+        EXPECT_TRUE(messaggi.empty()) << "a projection alone tells nothing";
+        FormTelva.Ridis.Click();
         const Messaggio atteso{"Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE"};
-        EXPECT_EQ(messaggi.back(), atteso);
+        EXPECT_EQ(messaggi, std::vector{atteso});
+        EXPECT_EQ(FormTelva.Angolo[0].Text(), "90");
+        messaggi.clear();
     }
     PuntoX[0] = -2.5, PuntoX[2] = 202.5, PuntoY[0] = -0.5, PuntoY[8] = 1e9, PuntoZ[0] = -0.51;
     unsigned char k = 0; // nothing (what start-up left), then axis by axis

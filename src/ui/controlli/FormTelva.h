@@ -4,6 +4,7 @@
 
 #include "platform/controlli.h"
 #include "platform/disegno.h"
+#include "ui/controlli/CasellaNumero.h"
 
 namespace telva {
 
@@ -11,6 +12,8 @@ struct ModuloTelva : Modulo {
     ModuloTelva();
     // Texts, ticks and places as at program start (the menu captions come from the command table).
     void Inizio();
+    // Puts everything in its place, by the outer size and by which of the two bars are shown.
+    void Disponi();
 
     BarraStrumenti Toolbar1{this, "Toolbar1"};
 
@@ -31,18 +34,18 @@ struct ModuloTelva : Modulo {
     CasellaSpunta ElNonSelez{this, "ElNonSelez", &FrameAtt};
     Etichetta LabelInt{this, "LabelInt", &FrameAtt};
     Schiera<Etichetta, 3> LabelAsse{this, "LabelAsse", &FrameAtt};
-    Schiera<CasellaTesto, 2> IntX{this, "IntX", &FrameAtt};
+    Schiera<CasellaNumero, 2> IntX{this, "IntX", &FrameAtt};
     Pulsante TuttoX{this, "TuttoX", &FrameAtt};
-    Schiera<CasellaTesto, 2> IntY{this, "IntY", &FrameAtt};
+    Schiera<CasellaNumero, 2> IntY{this, "IntY", &FrameAtt};
     Pulsante TuttoY{this, "TuttoY", &FrameAtt};
-    Schiera<CasellaTesto, 2> IntZ{this, "IntZ", &FrameAtt};
+    Schiera<CasellaNumero, 2> IntZ{this, "IntZ", &FrameAtt};
     Pulsante TuttoZ{this, "TuttoZ", &FrameAtt};
 
     Etichetta Label5{this, "Label5"};
     Etichetta StringaSel{this, "StringaSel"};
     Schiera<Etichetta, 3> Label1{this, "Label1"};
     Schiera<Etichetta, 3> Label2{this, "Label2"};
-    Schiera<CasellaTesto, 3> Angolo{this, "Angolo"};
+    Schiera<CasellaNumero, 3> Angolo{this, "Angolo"};
 
     Cornice Frame2{this, "Frame2"};
     Etichetta FunAttiva{this, "FunAttiva", &Frame2};
