@@ -56,15 +56,25 @@ const std::map<Sotto, std::string> kTitoli = {{Sotto::Materiale, "materiale"},
                                               {Sotto::Svincolo, "svincolo"},
                                               {Sotto::Vincolo, "vincolo"}};
 
-// The refusal of a property that a kind does not have, by its number in the table of messages.
+// The refusal of a property that a kind does not have.
 const std::map<Sotto, std::map<int, int>> kRifiuti = {
-    {Sotto::Materiale, {{Modello::Nodi, 3}}},
+    {Sotto::Materiale, {{Modello::Nodi, kMsgMaterialeNodi}}},
     {Sotto::Nome, {}},
-    {Sotto::Sezione, {{Modello::Nodi, 7}, {Modello::Gusci, 11}}},
-    {Sotto::Spessore, {{Modello::Nodi, 8}, {Modello::Aste, 16}, {Modello::Continui, 20}}},
-    {Sotto::Orientamento, {{Modello::Nodi, 10}, {Modello::Gusci, 13}}},
-    {Sotto::Svincolo, {{Modello::Nodi, 9}, {Modello::Gusci, 12}, {Modello::Continui, 21}}},
-    {Sotto::Vincolo, {{Modello::Aste, 15}, {Modello::Gusci, 14}, {Modello::Continui, 22}}}};
+    {Sotto::Sezione, {{Modello::Nodi, kMsgSezioneNodi}, {Modello::Gusci, kMsgSezioneGusci}}},
+    {Sotto::Spessore,
+     {{Modello::Nodi, kMsgSpessoreNodi},
+      {Modello::Aste, kMsgSpessoreAste},
+      {Modello::Continui, kMsgSpessoreElCont}}},
+    {Sotto::Orientamento,
+     {{Modello::Nodi, kMsgOrientamentoNodi}, {Modello::Gusci, kMsgOrientamentoGusci}}},
+    {Sotto::Svincolo,
+     {{Modello::Nodi, kMsgSvincoloNodi},
+      {Modello::Gusci, kMsgSvincoloGusci},
+      {Modello::Continui, kMsgSvincoloElCont}}},
+    {Sotto::Vincolo,
+     {{Modello::Aste, kMsgVincoloAste},
+      {Modello::Gusci, kMsgVincoloGusci},
+      {Modello::Continui, kMsgVincoloElCont}}}};
 
 // An item of the menus of attributes.
 struct VoceAttributo {
@@ -208,7 +218,7 @@ void Modello::Numeri(Sotto proprieta, const std::string &elenco) {
     if (letto.fuori)
         return Dice(" Numero fuori dai limiti ammessi (da -32768 a 32767) ", "ERRORE",
                     kEsclamazione);
-    if (letto.troppi) return Dice(Messaggi[18], "ERRORE", kEsclamazione);
+    if (letto.troppi) return Dice(Messaggi[kMsgTroppiNumeri], "ERRORE", kEsclamazione);
     const bool suo = tipo == Continui && nomi; // a continuous element's own number
     for (const int numero : letto.numeri) {
         const auto vale = [&](const Elemento &e) {
@@ -254,7 +264,7 @@ void Modello::ScegliTipo(int nuovo) {
 
 void Modello::Trappola(const std::string &testo) {
     trappola = std::abs(std::floor(std::strtod(testo.c_str(), nullptr)));
-    if (trappola == 0) Dice(Messaggi[17], "ATTENZIONE", kEsclamazione);
+    if (trappola == 0) Dice(Messaggi[kMsgTrappolaNulla], "ATTENZIONE", kEsclamazione);
 }
 
 bool Modello::VoceSelezioni(const std::string &menu, int codice) {

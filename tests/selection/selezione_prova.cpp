@@ -2,30 +2,49 @@
 #include "model/struttura.h"
 #include "selection/selezione.h"
 #include "sostegno/Banco.h"
-#include <sstream>
 
 namespace telva::prove {
-using Elementi = std::vector<std::pair<int, int>>; // name and flag
 
 TEST_F(Banco, ListaCompatta) {
-    Elementi e;
-    const auto lista = [&] {
-        NumNodi = 0;
-        for (const auto &[nome, sel] : e) {
-            NomeNodo[NumNodi] = static_cast<std::int16_t>(nome);
-            SelNodo[NumNodi++] = static_cast<std::int16_t>(sel);
-        }
-        return FormattaListaSel(OrdinaNumeriSel(kNodiTipo));
+    struct Elemento {
+        int nome;
+        bool selezionato;
     };
-    std::istringstream casi(R"(= 7- 9- = 7+ =7,7 8- 7+ 9- =7,7 1+ 2+ 3+ =1,1-3 9+ 4+ =4,4,9
-        1+ 2+ 5+ =1,1-2,5 1- 2+ 3- 4+ 5+ =2,4-5 0+ 1+ =1 0+ 1+ 2+ 3+ =1,2-3 -3+ 2+ 3+ =2-3
-        -2- 3+ =3 4+ 4+ =4,4,4 4- 4+ 5+ =4-5 4+ 4- 5+ =4,4-5 32767+ =32767,32767 300+ 256+ 40+ 255+ 512- =40,40,255-256,300)");
-    for (std::string t; casi >> t;)
-        if (t[0] != '=') {
-            e.emplace_back(std::stoi(t), t.back() == '+');
-        } else {
-            EXPECT_EQ(lista(), t.substr(1));
-            e.clear();
+    struct Caso {
+        std::vector<Elemento> elementi;
+        const char *lista;
+    };
+    const bool si = true, no = false;
+    const Caso casi[] = {
+        {.elementi = {}, .lista = ""},
+        {.elementi = {{7, no}, {9, no}}, .lista = ""},
+        // The first number of the list stands there twice, when the first element is selected.
+        {.elementi = {{7, si}}, .lista = "7,7"},
+        {.elementi = {{8, no}, {7, si}, {9, no}}, .lista = "7,7"},
+        {.elementi = {{1, si}, {2, si}, {3, si}}, .lista = "1,1-3"},
+        {.elementi = {{9, si}, {4, si}}, .lista = "4,4,9"},
+        {.elementi = {{1, si}, {2, si}, {5, si}}, .lista = "1,1-2,5"},
+        {.elementi = {{1, no}, {2, si}, {3, no}, {4, si}, {5, si}}, .lista = "2,4-5"},
+        // What has no positive name is never selected, but may open a run.
+        {.elementi = {{0, si}, {1, si}}, .lista = "1"},
+        {.elementi = {{0, si}, {1, si}, {2, si}, {3, si}}, .lista = "1,2-3"},
+        {.elementi = {{-3, si}, {2, si}, {3, si}}, .lista = "2-3"},
+        {.elementi = {{-2, no}, {3, si}}, .lista = "3"},
+        // The same name more than once, in the order of the file.
+        {.elementi = {{4, si}, {4, si}}, .lista = "4,4,4"},
+        {.elementi = {{4, no}, {4, si}, {5, si}}, .lista = "4-5"},
+        {.elementi = {{4, si}, {4, no}, {5, si}}, .lista = "4,4-5"},
+        {.elementi = {{32767, si}}, .lista = "32767,32767"},
+        {.elementi = {{300, si}, {256, si}, {40, si}, {255, si}, {512, no}},
+         .lista = "40,40,255-256,300"}};
+    for (const auto &[elementi, lista] : casi) {
+        NumNodi = 0;
+        for (const auto &[nome, selezionato] : elementi) {
+            NomeNodo[NumNodi] = static_cast<std::int16_t>(nome);
+            SelNodo[NumNodi++] = selezionato;
         }
+        EXPECT_EQ(FormattaListaSel(OrdinaNumeriSel(kNodiTipo)), lista);
+    }
 }
+
 } // namespace telva::prove

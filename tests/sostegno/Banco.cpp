@@ -156,7 +156,7 @@ void Banco::Passo(const std::string &testo, const std::function<void()> &evento)
     Esegui(evento);
 }
 
-std::string Banco::Valore(float v) {
+std::string Banco::Letterale(float v) {
     char testo[32] = "";
     for (int cifre = 6; cifre <= 9 && std::strtof(testo, nullptr) != v; ++cifre)
         std::snprintf(testo, sizeof testo, "%.*g", cifre, static_cast<double>(v));

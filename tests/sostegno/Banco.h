@@ -55,15 +55,15 @@ class Banco : public ::testing::Test {
     template <class... T>
     static std::string Scritto(const char *nome, const T &...valori) {
         std::string s;
-        ((s += (s.empty() ? "" : ", ") + Valore(valori)), ...);
+        ((s += (s.empty() ? "" : ", ") + Letterale(valori)), ...);
         return std::string(nome) + "(" + s + ")";
     }
     bool Finito() const { return codiceFine >= 0; }
     static std::string Lista(); // shown selection
 
-    static std::string Valore(float v); // as short as it can be read again
+    static std::string Letterale(float v); // as short as it can be read again
     template <class T>
-    static std::string Valore(const T &v) {
+    static std::string Letterale(const T &v) {
         return ::testing::PrintToString(v);
     }
 

@@ -1,29 +1,61 @@
+// The start: what the window shows first, and what a missing file brings.
 #include "model/legfont_cond.h"
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
 #include "selection/selezione.h"
-#include "sostegno/Banco.h"
+#include "sostegno/Utente.h"
 #include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
+
+#include <algorithm>
+
 namespace telva::prove {
-TEST_F(Banco, LaFinestraSiApreConTitoloTrappolaEListaInIngresso) {
-    std::string liste; // of each case: kind, incoming list
-    for (const std::string caso : {"00", "20", "30", "7 0 ", "02-4,9", "112,3", "320", "43", "2"}) {
-        const int tipo = caso[0] - '0';
-        AzzeraProgramma();
-        ScriviIngresso("  Palazzo ", caso.substr(1), tipo);
-        Apri(Telaio());
-        liste += Lista() + "|";
-        EXPECT_TRUE(FormTelva.TipoElemento() == tipo % 7 && CodFunAttiva == kNessunaFunzione);
-    }
-    EXPECT_EQ(liste, "1,1-9|1,1-4|10,10,20|1,1-9|2-4,9|3,12|20|||");
+
+struct AvvioProva : Utente {};
+
+TEST_F(AvvioProva, LaFinestraSiApreConTitoloETrappola) {
+    ScriviIngresso("  Palazzo ", "", 0);
+    Apri(Telaio());
     EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
     EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (8)...");
     EXPECT_EQ(FormTelva.MousePointer(), Puntatore::Predefinito);
+    EXPECT_EQ(Funzione(), "");
+}
+
+TEST_F(AvvioProva, IlTipoELaListaSonoQuelliInIngresso) {
+    struct Caso {
+        int tipo;
+        const char *ingresso, *lista;
+        int mostrato; // kind
+    };
+    const Caso casi[] = {
+        // "0" is everything.
+        {.tipo = kNodiTipo, .ingresso = "0", .lista = "1,1-9", .mostrato = kNodiTipo},
+        {.tipo = kGusciTipo, .ingresso = "0", .lista = "1,1-4", .mostrato = kGusciTipo},
+        {.tipo = kElContTipo, .ingresso = "0", .lista = "10,10,20", .mostrato = kElContTipo},
+        {.tipo = kNodiTipo, .ingresso = " 0 ", .lista = "1,1-9", .mostrato = kNodiTipo},
+        // A kind that there is not is nodes.
+        {.tipo = 7, .ingresso = " 0 ", .lista = "1,1-9", .mostrato = kNodiTipo},
+        {.tipo = kNodiTipo, .ingresso = "2-4,9", .lista = "2-4,9", .mostrato = kNodiTipo},
+        {.tipo = kAsteTipo, .ingresso = "12,3", .lista = "3,12", .mostrato = kAsteTipo},
+        {.tipo = kElContTipo, .ingresso = "20", .lista = "20", .mostrato = kElContTipo},
+        {.tipo = kParetiTipo, .ingresso = "3", .lista = "", .mostrato = kParetiTipo},
+        {.tipo = kGusciTipo, .ingresso = "", .lista = "", .mostrato = kGusciTipo}};
+    for (const auto &[tipo, ingresso, lista, mostrato] : casi) {
+        SCOPED_TRACE(std::string("handed in \"") + ingresso + "\"");
+        AzzeraProgramma();
+        ScriviIngresso("Titolo", ingresso, tipo);
+        Apri(Telaio());
+        EXPECT_EQ(Lista(), lista);
+        EXPECT_EQ(FormTelva.TipoElemento(), mostrato);
+        EXPECT_EQ(Funzione(), "");
+        EXPECT_EQ(SottoFunzione(), "");
+        EXPECT_EQ(SelezioniPossibili(), "");
+    }
 }
 
 // The same job, as other programs may write its files.
-TEST_F(Banco, UnLavoroScrittoDaAltriProgrammiSiLeggeUguale) {
+TEST_F(AvvioProva, UnLavoroScrittoDaAltriProgrammiSiLeggeUguale) {
     const auto conFine = [](std::string testo, const std::string &fineRiga) {
         std::string riscritto;
         for (const char c : testo)
@@ -60,7 +92,7 @@ TEST_F(Banco, UnLavoroScrittoDaAltriProgrammiSiLeggeUguale) {
             Scrivi(file, caso.riscrivi(Leggi(file)));
         messaggi.clear();
         EXPECT_TRUE(Avvia()) << caso.come;
-        EXPECT_TRUE(messaggi.empty()) << caso.come << ": " << messaggi[0].testo;
+        EXPECT_EQ(Detto(), "") << caso.come;
         EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1") << caso.come;
         EXPECT_EQ(Lista(), "2-4,9") << caso.come;
         EXPECT_EQ(NumGusci, 4) << caso.come;
@@ -70,26 +102,49 @@ TEST_F(Banco, UnLavoroScrittoDaAltriProgrammiSiLeggeUguale) {
     }
 }
 
-TEST_F(Banco, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
+TEST_F(AvvioProva, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
     Installa();
     Cancella("progra");
     EXPECT_TRUE(Avvia());
-    const std::string manca = " Impossibile leggere il file " + Radice() + "\\lavori\\prova1\\";
-    std::vector<Messaggio> attesi(
-        7, {"Errore nella lettura della struttura", Icona::Critica, "Problema"});
-    attesi[0].testo = "File " + Radice() + "\\progra\\font.001 inesistente!";
-    for (std::size_t k = 1; const char *file : {"spessori", "sezioni_", "el_conti.tmp"})
-        attesi[k++].testo = manca + file;
-    attesi[5] = {"Nome nodo maggiore di 32000.", Icona::Esclamazione, "ERRORE IN STRUTTUR.STR"};
+    const std::string lavoro = Radice() + "\\lavori\\prova1\\";
+    const std::string manca = " Impossibile leggere il file " + lavoro;
+    const std::vector<Messaggio> attesi = {
+        {"File " + Radice() + "\\progra\\font.001 inesistente!", Icona::Critica, "Problema"},
+        {manca + "spessori", Icona::Critica, "Problema"},
+        {manca + "sezioni_", Icona::Critica, "Problema"},
+        {manca + "el_conti.tmp", Icona::Critica, "Problema"},
+        {"Errore nella lettura della struttura", Icona::Critica, "Problema"}};
+    EXPECT_EQ(messaggi, attesi);
+}
+
+TEST_F(AvvioProva, MezzaStrutturaNonSiDisegna) {
     LavoroProva l = Telaio();
     l.nodi[3].nome = 32001;
     Installa();
     ScriviLavoro(l);
     EXPECT_TRUE(Avvia());
+    const std::vector<Messaggio> attesi = {
+        {"Nome nodo maggiore di 32000.", Icona::Esclamazione, "ERRORE IN STRUTTUR.STR"},
+        {"Errore nella lettura della struttura", Icona::Critica, "Problema"}};
     EXPECT_EQ(messaggi, attesi);
-    FormTelva.Resize(); // half a structure is not drawn
-    const Superficie &d = FormTelva.Disegno.Immagine();
-    EXPECT_EQ(std::count(d.Riga(0), d.Riga(d.Altezza() - 1), 0U),
-              d.Riga(d.Altezza() - 1) - d.Riga(0));
+    Ridimensiona(15000, 11400);
+    const Superficie &s = FormTelva.Disegno.Immagine();
+    const std::uint32_t *inizio = s.Riga(0), *fine = inizio + s.Larghezza() * s.Altezza();
+    EXPECT_EQ(std::count(inizio, fine, 0U), fine - inizio);
 }
+
+// --- the bench itself
+
+TEST_F(AvvioProva, UnAvvioFallitoFermaLaProvaConLaSuaCausa) {
+    LavoroProva l = Telaio();
+    l.nodi[3].nome = 32001;
+    try {
+        Apri(l);
+        FAIL() << "the start has failed, and the test goes on";
+    } catch (const std::runtime_error &causa) {
+        EXPECT_NE(std::string(causa.what()).find("Nome nodo maggiore di 32000."), std::string::npos)
+            << causa.what();
+    }
+}
+
 } // namespace telva::prove

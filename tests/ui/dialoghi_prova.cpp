@@ -1,82 +1,319 @@
 // The two options dialogs, opened from their menu items.
 #include "model/opzioni_cond.h"
-#include "sostegno/Recita.h"
+#include "sostegno/Utente.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
+
 #include <algorithm>
-#include <sstream>
 
 namespace telva::prove {
 
-TEST_F(Banco, DialogoTrappola) {
-    Apri(Telaio());
-    std::string misura = "8";
-    for (const std::string caso : {"12=12", "-7.6=8", "7.6=7", "12abc=12", "0.9=0", "abc=0", "=0"})
-        for (const bool applica : {false, true}) {
-            FormTelva.Trappola.Click();
-            EXPECT_EQ(FormOptInt.TextTrappola.Text(), misura);
-            FormOptInt.TextTrappola.Text = caso.substr(0, caso.find('='));
-            applica ? FormOptInt.Command1.Click() : FormOptInt.KeyUp(27);
-            if (applica) misura = caso.substr(caso.find('=') + 1);
-            EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (" + misura + ")...") << caso;
-            EXPECT_TRUE(OpzInt[1] == std::stod(misura) && !FormOptInt.Mostrata());
-            Recita(messaggi, applica && misura == "0" ? "!A17" : "!");
-        }
+constexpr int kEsc = 27, kInvio = 13;
+constexpr const char *kOpzioniSalvate = "INFORMAZIONE: Opzioni salvate";
+
+// --- pick aperture
+
+struct DialogoTrappola : Utente {
+    DialogoTrappola() { Apri(Telaio()); }
+};
+
+TEST_F(DialogoTrappola, LaMisuraEUnNumeroInteroSenzaSegno) {
+    struct Caso {
+        const char *testo, *misura;
+    };
+    const Caso casi[] = {{.testo = "12", .misura = "12"}, {.testo = "-7.6", .misura = "8"},
+                         {.testo = "7.6", .misura = "7"}, {.testo = "12abc", .misura = "12"},
+                         {.testo = "0.9", .misura = "0"}, {.testo = "abc", .misura = "0"},
+                         {.testo = "", .misura = "0"},    {.testo = "-1", .misura = "1"}};
+    for (const auto &[testo, misura] : casi) {
+        Trappola(testo);
+        EXPECT_EQ(OpzInt[1], std::stod(misura)) << testo;
+        EXPECT_EQ(FormTelva.Trappola.Caption(), std::string("Trappola (") + misura + ")...");
+        EXPECT_EQ(Detto(), std::string(misura) != "0"
+                               ? ""
+                               : "ATTENZIONE: Se la dimensione della trappola è nulla la "
+                                 "selezione diretta non è possibile");
+        EXPECT_FALSE(FormOptInt.Mostrata());
+    }
 }
 
-TEST_F(Banco, DialogoRappresentazione) {
+TEST_F(DialogoTrappola, EscLasciaLaMisuraComEra) {
+    Trappola("12");
+    for (const char *testo : {"99", "0", ""}) {
+        Trappola(testo, false);
+        EXPECT_EQ(OpzInt[1], 12);
+        EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (12)...");
+        EXPECT_EQ(Detto(), "");
+        EXPECT_FALSE(FormOptInt.Mostrata());
+    }
+}
+
+TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
+    Menu("Trappola");
+    EXPECT_TRUE(FormOptInt.Mostrata());
+    EXPECT_EQ(FormOptInt.TextTrappola.Text(), "8");
+    EXPECT_EQ(FormOptInt.fuoco, &FormOptInt.TextTrappola);
+    FormOptInt.TextTrappola.Text = "20";
+    FormOptInt.TextTrappola.KeyDown('2'); // any other key only types
+    EXPECT_TRUE(FormOptInt.Mostrata());
+    FormOptInt.TextTrappola.KeyDown(kInvio);
+    EXPECT_FALSE(FormOptInt.Mostrata());
+    Menu("Trappola");
+    EXPECT_EQ(FormOptInt.TextTrappola.Text(), "20");
+    FormOptInt.KeyUp('A');
+    EXPECT_TRUE(FormOptInt.Mostrata()) << "only Esc closes";
+    FormOptInt.KeyUp(kEsc);
+    EXPECT_FALSE(FormOptInt.Mostrata());
+}
+
+TEST_F(DialogoTrappola, LaMisuraDecideCheCosaSiPrende) {
+    const auto unita = static_cast<float>(FormTelva.Disegno.UnitaPerPixel());
+    Menu("Aggiungi");
+    Trappola("10");
+    Clic(9 * unita, 0);
+    EXPECT_EQ(Lista(), "1,1");
+    Trappola("8");
+    Clic(9 * unita, 100);
+    EXPECT_EQ(Lista(), "1,1") << "beside node 4: a window begins";
+    EXPECT_EQ(Gesto(), "PrimoAngolo FinestraAutomatica");
+}
+
+// --- representation options
+
+struct DialogoRappresentazione : Utente {
     ModuloOpt &f = FormOpt;
-    Apri(Telaio());
-    Opzioni[29] = std::string("tenuta");
-    Opzioni[24] = 0.0; // no labels at all, to begin with
-    const auto opzioni = [] { return std::vector(Opzioni.Dati(), Opzioni.Dati() + 30); };
-    const auto prova = [&](std::size_t voce, double valore, const std::function<void()> &cambia) {
-        auto attese = opzioni();
-        attese[voce] = valore;
-        FormTelva.Rappresentazione.Click();
-        cambia();
-        const bool nodi = f.CheckTxtNodi.Value, aste = f.CheckTxtAste.Value,
-                   gusci = f.CheckTxtGusci.Value, continui = f.CheckTxtElCont.Value;
-        EXPECT_TRUE(f.SpMinGus.Enabled == f.CheckSpGus.Value && f.TxtAste[4].Enabled == aste &&
-                    f.TxtElCont.Enabled == continui &&
-                    f.BaseTxt.Enabled == (nodi || aste || gusci || continui));
-        f.Salva.Click();
-        f.KeyUp(27);
+
+    DialogoRappresentazione() {
+        Apri(Telaio());
+        for (const int testi : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
+            Opzioni[testi] = 0.0; // no labels, to begin with
+    }
+    ~DialogoRappresentazione() override { f.Chiudi(); }
+
+    static std::vector<Valore> TutteLeOpzioni() { return {Opzioni.Dati(), Opzioni.Dati() + 30}; }
+    void SalvaEChiudi() {
+        Passo("Salva, Esc", [&] {
+            f.Salva.Click();
+            f.KeyUp(kEsc);
+        });
+    }
+    // The dialog changes this entry alone, in the file too.
+    void Cambia(const std::string &controllo, int voce, double valore,
+                const std::function<void()> &cambia) {
+        SCOPED_TRACE(controllo);
+        auto attese = TutteLeOpzioni();
+        attese[static_cast<std::size_t>(voce)] = valore;
+        Menu("Rappresentazione");
+        Passo(controllo + " = " + std::to_string(valore), cambia);
+        SalvaEChiudi();
+        EXPECT_EQ(Detto(), kOpzioniSalvate);
+        EXPECT_FALSE(f.Mostrata());
         AzzeraOpzioni();
         LeggiOpzioni();
-        EXPECT_TRUE(opzioni() == attese && !f.Mostrata()) << voce;
-        Recita(messaggi, "!I5");
-    };
-    std::istringstream voci("0 1 2 3 6 7 14 15 8 16 17 18 19 20 9 21 22 23 24 25 10 11 13");
-    std::size_t voce = 0;
-    for (Controllo *c : f.controlli) // the check boxes and text boxes are those entries
-        if (auto *spunta = dynamic_cast<CasellaSpunta *>(c); spunta && voci >> voce)
-            prova(voce, OpzioneAttiva(static_cast<int>(voce)) ? 0 : 1, [&] { spunta->Premi(); });
-        else if (auto *testo = dynamic_cast<CasellaTesto *>(c); testo && voci >> voce)
-            prova(voce, 12.5, [&] { testo->Text = "12.5cm"; });
-    for (const int colore : {9, 0, 4}) prova(12, colore, [&] { f.LabelCol[colore].Click(); });
-    EXPECT_TRUE(f.LabelBordCol[4].Marcato && !f.LabelBordCol[9].Marcato);
-    prova(5, 0, [&] { f.EvColNonSel.Seleziona(); });
-    prova(5, 1, [&] { f.EvColSel.Seleziona(); });
-    for (CasellaTesto *testo : {&f.BaseTxt, &f.AltezzaTxt, &f.Raggio}) { // no size, no labels
-        Opzioni[7] = Opzioni[8] = Opzioni[9] = 1.0;
-        const Superficie prima = FormTelva.Disegno.Immagine(), &ora = FormTelva.Disegno.Immagine();
-        const auto uguale = [&] {
-            return std::equal(prima.Riga(0), prima.Riga(0) + prima.Larghezza() * prima.Altezza(),
-                              ora.Riga(0));
-        };
-        FormTelva.Rappresentazione.Click();
-        testo->Text = "";
-        f.Salva.Click();
-        const double testi = OpzioneNumero(7) + OpzioneNumero(8) + OpzioneNumero(9);
-        EXPECT_EQ(testi, testo == &f.Raggio ? 3 : 0);
-        EXPECT_TRUE(uguale()) << "until the dialog closes";
-        f.Chiudi_.Click();
-        EXPECT_TRUE(testo != &f.Raggio || !uguale());
+        const auto riletti = TutteLeOpzioni();
+        for (std::size_t k = 0; k < attese.size(); ++k)
+            EXPECT_TRUE(riletti[k] == attese[k]) << "entry " << k;
     }
-    Cancella("custom");
-    f.Salva.Click();
-    Recita(messaggi, "!I5I5I5I4");
+    std::vector<std::uint32_t> Pixel() const {
+        const Superficie &s = FormTelva.Disegno.Immagine();
+        return {s.Riga(0), s.Riga(0) + s.Larghezza() * s.Altezza()};
+    }
+};
+
+TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
+    struct Spunta {
+        CasellaSpunta &casella;
+        int voce;
+    };
+    const Spunta spunte[] = {
+        {.casella = f.CheckSpGus, .voce = 0},      {.casella = f.CheckTxtNodi, .voce = 7},
+        {.casella = f.CheckTxtAste, .voce = 8},    {.casella = f.CheckTxtGusci, .voce = 9},
+        {.casella = f.TxtNodi[0], .voce = 14},     {.casella = f.TxtNodi[1], .voce = 15},
+        {.casella = f.TxtAste[0], .voce = 16},     {.casella = f.TxtAste[1], .voce = 17},
+        {.casella = f.TxtAste[2], .voce = 18},     {.casella = f.TxtAste[3], .voce = 19},
+        {.casella = f.TxtAste[4], .voce = 20},     {.casella = f.TxtGusci[0], .voce = 21},
+        {.casella = f.TxtGusci[1], .voce = 22},    {.casella = f.TxtGusci[2], .voce = 23},
+        {.casella = f.CheckTxtElCont, .voce = 24}, {.casella = f.TxtElCont, .voce = 25}};
+    for (const auto &[casella, voce] : spunte) {
+        const double opposto = OpzioneAttiva(voce) ? 0 : 1;
+        Cambia(casella.NomeControllo(), voce, opposto, [&] { casella.Premi(); });
+    }
+    struct Testo {
+        CasellaTesto &casella;
+        int voce;
+    };
+    const Testo testi[] = {
+        {.casella = f.SpMinGus, .voce = 1}, {.casella = f.SpNonSel, .voce = 2},
+        {.casella = f.SpSel, .voce = 3},    {.casella = f.Raggio, .voce = 6},
+        {.casella = f.BaseTxt, .voce = 10}, {.casella = f.AltezzaTxt, .voce = 11},
+        {.casella = f.DistTxt, .voce = 13}};
+    for (const auto &[casella, voce] : testi)
+        Cambia(casella.NomeControllo(), voce, 12.5, [&] { casella.Text = "12.5cm"; });
+    for (const int colore : {9, 0, 4})
+        Cambia(f.LabelCol[colore].NomeControllo(), 12, colore, [&] { f.LabelCol[colore].Click(); });
+    Cambia("EvColNonSel", 5, 0, [&] { f.EvColNonSel.Seleziona(); });
+    Cambia("EvColSel", 5, 1, [&] { f.EvColSel.Seleziona(); });
 }
+
+TEST_F(DialogoRappresentazione, SiApreConLeOpzioniDiOra) {
+    Opzioni[kOpzTestiElCont] = std::string("x"); // anything but 1 is off
+    Opzioni[kOpzRaggioNodo] = 7.5;
+    Opzioni[kOpzColoreTesto] = 3.0;
+    Opzioni[kOpzColoreSel] = 0.0;
+    Opzioni[kOpzPartiAste + 3] = 0.0;
+    Menu("Rappresentazione");
+    EXPECT_EQ(f.Raggio.Text(), "7.5");
+    EXPECT_EQ(f.SpMinGus.Text(), "1");
+    EXPECT_EQ(f.SpSel.Text(), "4");
+    EXPECT_TRUE(f.CheckSpGus.Value);
+    EXPECT_FALSE(f.CheckTxtElCont.Value);
+    EXPECT_TRUE(f.TxtAste[2].Value);
+    EXPECT_FALSE(f.TxtAste[3].Value);
+    EXPECT_FALSE(f.EvColSel.Value);
+    EXPECT_TRUE(f.EvColNonSel.Value);
+    for (int k = 0; k < 10; ++k) {
+        EXPECT_EQ(f.LabelCol[k].Marcato, k == 3);
+        EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 3);
+    }
+}
+
+TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBianco) {
+    for (const double codice : {-1.0, 10.0, 1e9}) {
+        Opzioni[kOpzColoreTesto] = codice;
+        Menu("Rappresentazione");
+        EXPECT_TRUE(f.LabelBordCol[1].Marcato) << codice;
+        f.Chiudi();
+    }
+}
+
+TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
+    Menu("Rappresentazione");
+    const auto spessore = [&] {
+        return std::vector<bool>{f.SpMinGus.Enabled, f.LabelSpMinGus.Enabled};
+    };
+    EXPECT_EQ(spessore(), (std::vector{true, true}));
+    f.CheckSpGus.Premi();
+    EXPECT_EQ(spessore(), (std::vector{false, false}));
+    f.CheckSpGus.Premi();
+    EXPECT_EQ(spessore(), (std::vector{true, true}));
+
+    struct Gruppo {
+        CasellaSpunta &capo;
+        std::vector<CasellaSpunta *> parti;
+    };
+    Gruppo gruppi[] = {{.capo = f.CheckTxtNodi, .parti = {}},
+                       {.capo = f.CheckTxtAste, .parti = {}},
+                       {.capo = f.CheckTxtGusci, .parti = {}},
+                       {.capo = f.CheckTxtElCont, .parti = {&f.TxtElCont}}};
+    for (CasellaSpunta &c : f.TxtNodi) gruppi[0].parti.push_back(&c);
+    for (CasellaSpunta &c : f.TxtAste) gruppi[1].parti.push_back(&c);
+    for (CasellaSpunta &c : f.TxtGusci) gruppi[2].parti.push_back(&c);
+    std::vector<Controllo *> testi = {&f.LabelBaseTxt,  &f.BaseTxt,      &f.LabelAltezzaTxt,
+                                      &f.AltezzaTxt,    &f.LabelDistTxt, &f.DistTxt,
+                                      &f.LabelColoreTxt};
+    for (Campione &c : f.LabelCol) testi.push_back(&c);
+    for (Campione &c : f.LabelBordCol) testi.push_back(&c);
+    const auto controlla = [&](const CasellaSpunta *accesa) {
+        for (const Gruppo &g : gruppi)
+            for (const CasellaSpunta *parte : g.parti)
+                EXPECT_EQ(parte->Enabled, &g.capo == accesa) << parte->NomeControllo();
+        for (const Controllo *c : testi)
+            EXPECT_EQ(c->Enabled, accesa != nullptr) << c->NomeControllo();
+    };
+    controlla(nullptr);
+    for (const Gruppo &g : gruppi) {
+        SCOPED_TRACE(g.capo.NomeControllo());
+        g.capo.Premi();
+        controlla(&g.capo);
+        g.capo.Premi();
+        controlla(nullptr);
+    }
+}
+
+TEST_F(DialogoRappresentazione, SenzaMisuraDelTestoNienteTesti) {
+    struct Caso {
+        CasellaTesto &casella;
+        int voce;
+        bool testi; // still on
+    };
+    for (const auto &[casella, voce, testi] :
+         {Caso{f.BaseTxt, 10, false}, Caso{f.AltezzaTxt, 11, false}, Caso{f.DistTxt, 13, true},
+          Caso{f.Raggio, 6, true}}) {
+        SCOPED_TRACE(casella.NomeControllo());
+        for (const int acceso : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
+            Opzioni[acceso] = 1.0;
+        Menu("Rappresentazione");
+        casella.Text = "";
+        SalvaEChiudi();
+        EXPECT_EQ(OpzioneNumero(voce), 0);
+        EXPECT_EQ(OpzioneAttiva(kOpzTestiNodi), testi);
+        EXPECT_EQ(OpzioneAttiva(kOpzTestiAste), testi);
+        EXPECT_EQ(OpzioneAttiva(kOpzTestiGusci), testi);
+        EXPECT_TRUE(OpzioneAttiva(kOpzTestiElCont));
+    }
+}
+
+TEST_F(DialogoRappresentazione, IlDisegnoCambiaAllaChiusuraESoloDopoSalva) {
+    const auto prima = Pixel();
+    Menu("Rappresentazione");
+    f.Raggio.Text = "12";
+    f.Chiudi_.Click();
+    EXPECT_FALSE(f.Mostrata());
+    EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "not saved";
+    EXPECT_TRUE(Pixel() == prima);
+    Menu("Rappresentazione");
+    f.Raggio.Text = "12";
+    f.Salva.Click();
+    EXPECT_TRUE(f.Mostrata());
+    EXPECT_TRUE(Pixel() == prima) << "until the dialog closes";
+    f.Chiudi_.Click();
+    EXPECT_TRUE(Pixel() != prima);
+}
+
+// Shells 1 and 2 are 20 cm thick, 3 and 4 half a centimetre.
+TEST_F(DialogoRappresentazione, UnGuscioSpessoQuantoIlLimiteSiDisegna) {
+    FormTelva.VisAssi.Click();
+    const auto disegna = [&](const char *limite, bool nascondi) {
+        Menu("Rappresentazione");
+        if (f.CheckSpGus.Value != nascondi) f.CheckSpGus.Premi();
+        f.SpMinGus.Text = limite;
+        f.Salva.Click();
+        f.Chiudi_.Click();
+        return Pixel();
+    };
+    const auto tutti = disegna("1", false), spessi = disegna("1", true),
+               nessuno = disegna("100", true);
+    ASSERT_TRUE(tutti != spessi);
+    ASSERT_TRUE(spessi != nessuno);
+    struct Caso {
+        const char *limite;
+        const std::vector<std::uint32_t> &attesi;
+    };
+    const Caso casi[] = {
+        {.limite = "0.49", .attesi = tutti},  {.limite = "0.5", .attesi = tutti},
+        {.limite = "0.51", .attesi = spessi}, {.limite = "19.9", .attesi = spessi},
+        {.limite = "20", .attesi = spessi},   {.limite = "20.1", .attesi = nessuno}};
+    for (const auto &[limite, attesi] : casi)
+        EXPECT_TRUE(disegna(limite, true) == attesi) << limite;
+}
+
+TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {
+    Cancella("custom");
+    Menu("Rappresentazione");
+    f.Salva.Click();
+    EXPECT_EQ(Detto(), "INFORMAZIONE: Problemi nel salvataggio delle opzioni");
+    EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "they hold all the same";
+}
+
+TEST_F(DialogoRappresentazione, LaFinestraInCorsoFinisce) {
+    Menu("Aggiungi");
+    Clic(50, 50);
+    ASSERT_EQ(Gesto(), "PrimoAngolo FinestraAutomatica");
+    Menu("Rappresentazione");
+    EXPECT_EQ(Gesto(), "");
+    EXPECT_EQ(Elastici(), "");
+    EXPECT_EQ(SottoFunzione(), "Selezione diretta");
+}
+
 } // namespace telva::prove

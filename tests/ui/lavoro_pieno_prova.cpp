@@ -1,0 +1,122 @@
+// A job with every table at its capacity: not only read, but drawn with all its labels, selected,
+// inverted and handed back. One element too many would end the program.
+#include "Generatore.h"
+#include "ScriviLavoro.h"
+#include "model/opzioni_cond.h"
+#include "model/struttura.h"
+#include "selection/selezione.h"
+#include "sostegno/Utente.h"
+#include "ui/controlli/FormTelva.h"
+
+#include <algorithm>
+
+namespace telva::prove {
+
+struct LavoroPienoProva : Utente {
+    ModuloTelva &f = FormTelva;
+
+    LavoroPienoProva() {
+        Installa();
+        generatore::Parametri parametri;
+        parametri.Misura = generatore::Taglia::Piena;
+        ScriviLavoro(Telaio()); // its folder
+        generatore::ScriviLavoro(Radice() + "/lavori/prova1", generatore::Genera(parametri));
+        Scrivi("custom/TelOpzio.txt", OpzioniConTuttiITesti());
+    }
+    static std::string OpzioniConTuttiITesti() {
+        std::vector<std::string> voci(30, "1");
+        voci[kOpzPennaSel] = "4";
+        for (const int misura :
+             {kOpzRaggioNodo, kOpzBaseTesto, kOpzAltezzaTesto, kOpzDistanzaTesto})
+            voci[static_cast<std::size_t>(misura)] = "5";
+        std::string righe;
+        for (const std::string &voce : voci) righe += voce + "\r\n";
+        return righe;
+    }
+    struct Tabella {
+        int tipo;
+        const std::int16_t *flag, *nomi;
+        int numero;
+    };
+    static std::vector<Tabella> Tabelle() {
+        return {
+            {.tipo = kNodiTipo, .flag = SelNodo.Dati(), .nomi = NomeNodo.Dati(), .numero = NumNodi},
+            {.tipo = kAsteTipo, .flag = SelAsta.Dati(), .nomi = NomeAsta.Dati(), .numero = NumAste},
+            {.tipo = kGusciTipo,
+             .flag = SelGuscio.Dati(),
+             .nomi = NomeGuscio.Dati(),
+             .numero = NumGusci},
+            {.tipo = kElContTipo,
+             .flag = SelElCont.Dati(),
+             .nomi = NumeroElCont.Dati(),
+             .numero = NumElCont}};
+    }
+    static int Selezionati(const Tabella &t) {
+        return static_cast<int>(std::count(t.flag, t.flag + t.numero, 1));
+    }
+};
+
+TEST_F(LavoroPienoProva, SiDisegnaConTuttiITesti) {
+    ASSERT_TRUE(Avvia()) << Detto();
+    EXPECT_EQ(Detto(), "");
+    EXPECT_EQ(NumPunti, kPunti);
+    EXPECT_EQ(NumNodi, kNodi);
+    EXPECT_EQ(NumAste, kAste);
+    EXPECT_EQ(NumGusci, kGusci);
+    EXPECT_EQ(NumElCont, kElCont);
+    for (const char *angolo : {"0", "90", "30"}) {
+        Angolo(Asse::X, angolo);
+        EXPECT_FALSE(Finito()) << Detto();
+    }
+    EXPECT_EQ(Detto(), "");
+}
+
+TEST_F(LavoroPienoProva, SiSelezionaESiInverte) {
+    ASSERT_TRUE(Avvia()) << Detto();
+    for (const Tabella &t : Tabelle()) {
+        SCOPED_TRACE("kind " + std::to_string(t.tipo));
+        DimenticaPassi();
+        Tipo(t.tipo);
+        Menu("Inverti");
+        EXPECT_EQ(Selezionati(t), t.numero);
+        Menu("Inverti");
+        EXPECT_EQ(Selezionati(t), 0);
+        EXPECT_EQ(Lista(), "");
+        Menu("Aggiungi");
+        Menu("Tutto");
+        EXPECT_EQ(Selezionati(t), t.numero);
+        Menu("RimTutto");
+        EXPECT_EQ(Selezionati(t), 0);
+        Rotella(-3); // a margin around the picture
+        const RiquadroDisegno &d = f.Disegno;
+        const auto x = static_cast<float>(d.ScaleLeft), y = static_cast<float>(d.ScaleTop);
+        Menu("Finestra");
+        Clic(x, y);
+        Clic(static_cast<float>(d.XDaPixel(d.LarghezzaPixel() - 1)),
+             static_cast<float>(d.YDaPixel(d.AltezzaPixel() - 1)));
+        EXPECT_EQ(Selezionati(t), t.numero);
+        Menu("RimTutto");
+        // By name, the last of the table too.
+        const int ultimo = *std::max_element(t.nomi, t.nomi + t.numero);
+        Menu("Nome");
+        Elenco(std::to_string(ultimo));
+        EXPECT_EQ(Lista(), std::to_string(ultimo));
+        Menu("Interrompi");
+    }
+    EXPECT_EQ(Detto(), "");
+}
+
+TEST_F(LavoroPienoProva, LaListaInteraTornaAlChiamante) {
+    Scrivi("lavori/prova1/TelvaIn.txt", "Titolo\r\n0\r\n1\r\n");
+    ASSERT_TRUE(Avvia()) << Detto();
+    const std::string lista = Lista();
+    EXPECT_NE(lista, "");
+    Menu("Salva");
+    EXPECT_EQ(Uscita(), lista + "\r\n");
+    // Handed in again, it selects the same.
+    Scrivi("lavori/prova1/TelvaIn.txt", "Titolo\r\n" + lista + "\r\n1\r\n");
+    ASSERT_TRUE(Avvia()) << Detto();
+    EXPECT_EQ(Lista(), lista);
+}
+
+} // namespace telva::prove
