@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <deque>
 #include <map>
 
 namespace telva::prove {
@@ -21,14 +22,20 @@ Scenari &Elenco() {
 }
 
 int controlli = 0, errori = 0;
+std::deque<std::string> passi; // the last ones
+constexpr std::size_t passiMostrati = 8;
 
 void Errore(const std::string &testo) {
     ++errori;
     std::printf("    FAILED %s\n", testo.c_str());
+    std::string fatto;
+    for (const auto &passo : passi) fatto += (fatto.empty() ? "" : " | ") + passo;
+    if (!fatto.empty()) std::printf("           after: %s\n", fatto.c_str());
 }
 
 bool Esegui(const std::string &nome, void (*corpo)(const Ambiente &), const Ambiente &amb) {
     controlli = errori = 0;
+    passi.clear();
     alFallimento = [&] {
         if (!amb.foto.empty() && errori == 0) ScriviBmp(Schermo(), amb.foto / (nome + ".bmp"));
     };
@@ -64,6 +71,11 @@ int EseguiTutti(const Ambiente &amb, const std::string &solo) {
 
 Registra::Registra(const std::string &nome, void (*corpo)(const Ambiente &)) {
     Elenco()[nome] = corpo;
+}
+
+void Annota(const std::string &passo) {
+    passi.push_back(passo);
+    if (passi.size() > passiMostrati) passi.pop_front();
 }
 
 void Verifica(bool esito, const std::string &testo, const char *file, int riga) {

@@ -24,6 +24,9 @@ struct Registra {
     Registra(const std::string &nome, void (*corpo)(const Ambiente &));
 };
 
+/// Remembers what is being done, so that a failure can tell the steps before it.
+void Annota(const std::string &passo);
+
 /// Counts a check and reports it when it failed.
 void Verifica(bool esito, const std::string &testo, const char *file, int riga);
 
@@ -39,7 +42,8 @@ std::string Mostra(const T &valore) {
 
 template <class A, class B>
 void Uguale(const A &a, const B &b, const char *testo, const char *file, int riga) {
-    Verifica(a == b, std::string(testo) + " is " + Mostra(a) + ", not " + Mostra(b), file, riga);
+    Verifica(a == b, std::string(testo) + ": expected " + Mostra(b) + ", saw " + Mostra(a), file,
+             riga);
 }
 
 template <class F, class B>

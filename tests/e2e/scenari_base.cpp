@@ -1,5 +1,5 @@
 // Start, a selection by name, and the two ways out, as a caller and an engineer see them.
-#include "LavoriProva.h"
+#include "LavoroPiccolo.h"
 
 using namespace telva::prove;
 namespace fs = std::filesystem;
@@ -83,78 +83,74 @@ SCENARIO(altro_lavoro) {
     UGUALE(LeggiByte(altro / "TelvaOut.txt").value_or("(no file)"), avvii[1].uscita);
 }
 
-// Every run begins where the one before ended; a place on no monitor is mended.
-SCENARIO(posto_ricordato) {
-    RECT prima{}, ora{};
-    const auto stessa = [&] { return EqualRect(&prima, &ora) != 0; };
-    for (int giro = 0; giro < 4; ++giro) {
-        if (giro == 3) {
-            const LONG lontano[] = {30000, -20000, 9000, 8000, 0};
-            RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, lontano,
-                            sizeof lontano);
-        }
-        Programma p(amb.telva, amb.Argomento(), giro > 0);
-        const HWND f = p.Principale();
-        if (giro == 0) {
-            p.Dimensiona(f, 930, 720);
-            SetWindowPos(f, nullptr, 61, 47, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-            GetWindowRect(f, &prima);
-        }
-        UGUALE(IsZoomed(f) != 0, giro == 2);
-        if (giro == 1) { // two at once can both be seen
-            Programma altra(amb.telva, amb.Argomento(), true);
-            GetWindowRect(altra.Principale(), &ora);
-            VERIFICA(ora.left > prima.left && ora.top > prima.top);
-            altra.Premi("Ctrl+E"), UGUALE(altra.AttendiFine(), 0U);
-        }
-        if (giro == 1) ShowWindow(f, SW_MAXIMIZE);
-        if (giro == 2) ShowWindow(f, SW_RESTORE);
-        GetWindowRect(f, &ora);
-        if (giro == 2) VERIFICA(stessa());
-        if (giro == 3) {
-            VERIFICA(ora.left >= 0 && ora.top >= 0 && ora.right <= GetSystemMetrics(SM_CXSCREEN));
-            VERIFICA(ora.bottom <= GetSystemMetrics(SM_CYSCREEN) && !stessa());
-        }
-        p.Premi("Ctrl+E");
-        UGUALE(p.AttendiFine(), 0U);
-    }
+namespace {
+
+RECT PostoDi(HWND finestra) {
+    RECT posto{};
+    GetWindowRect(finestra, &posto);
+    return posto;
 }
 
-SCENARIO(avvio_sbagliato) {
-    const auto radice = fs::temp_directory_path() / "telva_avvio";
-    std::wstring minuscola = radice.wstring();
-    CharLowerBuffW(minuscola.data(), static_cast<DWORD>(minuscola.size()));
-    const std::string dir = Utf8(minuscola);
-    const std::string mancaArgomento = "Avvio del programma: argomento non presente";
-    const std::string mancaDirlav =
-        "Errore: file " + dir + "\\impostazioni\\dirlav errato o mancante";
-    const std::string mancaLavoro =
-        "Errore: file " + dir + "\\impostazioni\\lavoro errato o mancante";
-    const std::string nonLavori =
-        "Errore: il direttorio dei lavori deve terminare con < \\lavori >";
-    const std::string argomento = "|diroot=" + Utf8(radice.wstring()) + "|";
-    struct { // an empty file text means that there is no such file
-        std::string argomento, dirlav, lavoro, testo, icona;
-    } const casi[] = {
-        {"", "", "", mancaArgomento, "errore"},
-        {"   ", "", "", mancaArgomento, "errore"},
-        {"|altro=1|", "", "", mancaArgomento, "errore"},
-        {argomento, "", "dimo01\n", mancaDirlav, "avviso"},
-        {argomento, "c:\\lav\n", "dimo01\n", mancaDirlav, "avviso"},
-        {argomento, "c:\\x\\lavoro\\\n", "dimo01\n", nonLavori, "avviso"},
-        {argomento, "c:\\x\\lavori\n", "", mancaLavoro, "avviso"},
-        {argomento, "c:\\x\\lavori\\\n", "ab12c\n", mancaLavoro, "avviso"},
-    };
-    for (const auto &c : casi) {
-        fs::remove_all(radice);
-        if (!c.dirlav.empty()) ScriviFile(radice / "impostazioni" / "dirlav", c.dirlav);
-        if (!c.lavoro.empty()) ScriviFile(radice / "impostazioni" / "lavoro", c.lavoro);
-        Programma p(amb.telva, Largo(c.argomento));
-        const auto r = p.ChiudiRiquadro();
-        UGUALE(r.titolo, "ERRORE");
-        UGUALE(r.testo, c.testo);
-        UGUALE(r.icona, c.icona);
-        VERIFICA(p.AttendiFine() <= 1U); // a crash has another code
+void Esci(Programma &p) {
+    p.Premi("Ctrl+E");
+    UGUALE(p.AttendiFine(), 0U);
+}
+
+void VerificaStessoPosto(HWND finestra, const RECT &atteso) {
+    const RECT visto = PostoDi(finestra);
+    UGUALE(visto.left, atteso.left);
+    UGUALE(visto.top, atteso.top);
+    UGUALE(visto.right, atteso.right);
+    UGUALE(visto.bottom, atteso.bottom);
+}
+
+} // namespace
+
+// Every run begins where the one before ended.
+SCENARIO(posto_ricordato) {
+    RECT scelto{};
+    {
+        Programma p(amb.telva, amb.Argomento());
+        const HWND finestra = p.Principale();
+        p.Dimensiona(finestra, 930, 720);
+        SetWindowPos(finestra, nullptr, 61, 47, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        scelto = PostoDi(finestra);
+        VERIFICA(!IsZoomed(finestra));
+        Esci(p);
     }
-    fs::remove_all(radice);
+    {
+        Programma p(amb.telva, amb.Argomento(), true);
+        const HWND finestra = p.Principale();
+        VerificaStessoPosto(finestra, scelto);
+        { // two at once can both be seen
+            Programma altra(amb.telva, amb.Argomento(), true);
+            const RECT posto = PostoDi(altra.Principale());
+            VERIFICA(posto.left > scelto.left);
+            VERIFICA(posto.top > scelto.top);
+            Esci(altra);
+        }
+        ShowWindow(finestra, SW_MAXIMIZE);
+        Esci(p);
+    }
+    Programma p(amb.telva, amb.Argomento(), true);
+    const HWND finestra = p.Principale();
+    VERIFICA(IsZoomed(finestra));
+    ShowWindow(finestra, SW_RESTORE);
+    VerificaStessoPosto(finestra, scelto);
+    Esci(p);
+}
+
+// A place on no monitor is mended.
+SCENARIO(posto_fuori_da_ogni_schermo) {
+    const LONG sinistra = 30000, sopra = -20000, larghezza = 9000, altezza = 8000, massima = 0;
+    const LONG lontano[] = {sinistra, sopra, larghezza, altezza, massima};
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, lontano,
+                    sizeof lontano);
+    Programma p(amb.telva, amb.Argomento(), true);
+    const RECT posto = PostoDi(p.Principale());
+    VERIFICA(posto.left >= 0);
+    VERIFICA(posto.top >= 0);
+    VERIFICA(posto.right <= GetSystemMetrics(SM_CXSCREEN));
+    VERIFICA(posto.bottom <= GetSystemMetrics(SM_CYSCREEN));
+    Esci(p);
 }

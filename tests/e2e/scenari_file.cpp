@@ -1,5 +1,5 @@
 // Several real programs and one set of files.
-#include "LavoriProva.h"
+#include "LavoroPiccolo.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 // Long proofs, run by name only: what must never grow, and what must never be half written.
-#include "LavoriProva.h"
+#include "Sessione.h"
 
 #include <random>
 
@@ -68,8 +68,8 @@ SCENARIO(lungo_centomila_comandi) {
 
 // A drag that loses its last move leaves the picture behind the pointer.
 SCENARIO(lungo_mille_trascinamenti) {
-    Sessione s(amb, 0);
-    POINT nodo = s.nodi.at(4);
+    Sessione s(amb, Genere::Nodi);
+    POINT nodo = s.Punto(Nodo(4));
     for (int giro = 0; giro < 1000; ++giro) {
         const POINT inizio{60 + giro % 3 * 50, 40}; // twice at one place is a double click
         const int dx = giro % 2 ? 40 : -40, dy = giro % 4 < 2 ? 24 : -24;
@@ -80,7 +80,7 @@ SCENARIO(lungo_mille_trascinamenti) {
             "node 4 after drag " + std::to_string(giro) + " at " + std::to_string(nodo.x) + "," +
                 std::to_string(nodo.y),
             [&] {
-                visto = s.Nodo(4).value_or(POINT{-1, -1});
+                visto = s.DoveStaNodo(4).value_or(POINT{-1, -1});
                 return std::abs(visto.x - nodo.x) <= 2 && std::abs(visto.y - nodo.y) <= 2;
             },
             [&] { return std::to_string(visto.x) + "," + std::to_string(visto.y); });
@@ -97,7 +97,7 @@ SCENARIO(lungo_ucciso_mentre_scrive) {
     for (int giro = 0; giro < 100; ++giro) {
         std::filesystem::path lavoro;
         {
-            Sessione s(amb, 1, "9,14");
+            Sessione s(amb, Genere::Aste, "9,14");
             lavoro = s.lavoro;
             ScriviFile(lavoro / "TelvaOut.txt", "8\n");
             PostMessageW(s.finestra, WM_COMMAND, 1001, 0);

@@ -83,6 +83,38 @@ HWND FiglioIcona(HWND riquadro) {
     return icona;
 }
 
+// Memory of the other process, where its windows can write an answer.
+class MemoriaAltrui {
+  public:
+    MemoriaAltrui(HANDLE processo, std::size_t byte)
+        : processo_(processo),
+          dove_(VirtualAllocEx(processo, nullptr, byte, MEM_COMMIT, PAGE_READWRITE)) {
+        if (!dove_) Fallisci("no memory in the program");
+    }
+    ~MemoriaAltrui() { VirtualFreeEx(processo_, dove_, 0, MEM_RELEASE); }
+    MemoriaAltrui(const MemoriaAltrui &) = delete;
+    MemoriaAltrui &operator=(const MemoriaAltrui &) = delete;
+
+    template <class T>
+    void Scrivi(const T &valore) const {
+        if (!WriteProcessMemory(processo_, dove_, &valore, sizeof valore, nullptr))
+            Fallisci("the program's memory cannot be written");
+    }
+    template <class T>
+    void Leggi(T &valore, std::size_t da = 0) const {
+        if (!ReadProcessMemory(processo_, Dove<char>(da), &valore, sizeof valore, nullptr))
+            Fallisci("the program's memory cannot be read");
+    }
+    template <class T>
+    T *Dove(std::size_t da = 0) const {
+        return reinterpret_cast<T *>(static_cast<char *>(dove_) + da);
+    }
+
+  private:
+    HANDLE processo_;
+    void *dove_;
+};
+
 // Wine does not count GDI objects, but keeps the table of them where 64-bit Windows once kept it.
 DWORD ContaGdi(HANDLE processo) {
     struct Voce {
@@ -173,7 +205,7 @@ void Programma::Aspetta(const std::string &cosa, const std::function<bool()> &fa
         const bool finito = Finito(); // asked first, so that what the end brings about still counts
         if (fatto()) return;
         if (finito || GetTickCount64() > fine)
-            Fallisci("waited for " + cosa + "; saw " + (visto ? visto() + "; " : "") + Stato());
+            Fallisci("expected " + cosa + "; saw " + (visto ? visto() + "; " : "") + Stato());
     }
 }
 
@@ -309,14 +341,41 @@ POINT Programma::Centro(HWND controllo) {
 }
 
 POINT Programma::CentroBottone(HWND barra, int indice) const {
-    // The bar writes the rectangle into memory of its own process.
-    void *la = VirtualAllocEx(processo_, nullptr, sizeof(RECT), MEM_COMMIT, PAGE_READWRITE);
+    const MemoriaAltrui la(processo_, sizeof(RECT));
     RECT r{};
-    const bool letto = la && Chiedi(barra, TB_GETITEMRECT, WPARAM(indice), LPARAM(la)) &&
-                       ReadProcessMemory(processo_, la, &r, sizeof r, nullptr);
-    if (la) VirtualFreeEx(processo_, la, 0, MEM_RELEASE);
-    if (!letto) Fallisci("no tool-bar button " + std::to_string(indice));
+    if (!Chiedi(barra, TB_GETITEMRECT, WPARAM(indice), LPARAM(la.Dove<RECT>())))
+        Fallisci("no tool-bar button " + std::to_string(indice));
+    la.Leggi(r);
     return {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+}
+
+std::string Programma::Nome(HWND controllo) { return NomeControllo(controllo); }
+
+std::map<HWND, std::string> Programma::Suggerimenti(HWND cima) const {
+    std::array<wchar_t, 2048> testo{};
+    const MemoriaAltrui la(processo_, sizeof(TTTOOLINFOW) + sizeof testo);
+    std::map<HWND, std::string> letti;
+    const auto leggi = [&](HWND suggerimenti) {
+        const auto quanti = static_cast<WPARAM>(Chiedi(suggerimenti, TTM_GETTOOLCOUNT));
+        for (WPARAM k = 0; k < quanti; ++k) {
+            TTTOOLINFOW strumento{};
+            strumento.cbSize = sizeof strumento;
+            strumento.lpszText = la.Dove<wchar_t>(sizeof strumento);
+            la.Scrivi(strumento);
+            Chiedi(suggerimenti, TTM_ENUMTOOLSW, k, LPARAM(la.Dove<TTTOOLINFOW>()));
+            la.Leggi(strumento);
+            la.Leggi(testo, sizeof strumento);
+            if (strumento.hwnd == cima && (strumento.uFlags & TTF_IDISHWND) != 0)
+                letti[reinterpret_cast<HWND>(strumento.uId)] = Utf8(testo.data());
+        }
+    };
+    OgniFinestra([&](HWND f) {
+        DWORD pid = 0;
+        GetWindowThreadProcessId(f, &pid);
+        if (pid == pid_ && Classe(f) == L"tooltips_class32") leggi(f);
+        return true;
+    });
+    return letti;
 }
 
 std::string Programma::Suggerimento() const {

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -65,6 +66,10 @@ class Programma {
     static POINT Centro(HWND controllo);
     /// Middle of a tool-bar button (separators count), in client coordinates of the bar.
     POINT CentroBottone(HWND barra, int indice) const;
+    /// The name a control was given, empty when none.
+    static std::string Nome(HWND controllo);
+    /// The tips that the controls of a window would show, read without waiting for them.
+    std::map<HWND, std::string> Suggerimenti(HWND cima) const;
     /// Text of the tool tip shown now, empty when none is.
     std::string Suggerimento() const;
     /// Colour on the screen at a client position, 0x00RRGGBB.
