@@ -1,20 +1,40 @@
 #!/bin/bash
 # Runs a command with a 32-bit Wine first in its PATH, beside which the 64-bit one may be installed:
-# it lives in a small i386 tree of its own in /var/tmp, made once. Needs root.
+# it lives in a small i386 tree of its own in /var/tmp, made once and kept. Needs root.
 #   tools/wine32.sh bash tests/e2e/prova_finestra.sh build/prove build/x86 build/wine-x86
+#   tools/wine32.sh --prepara     only makes the tree; says why where it cannot be made
+#   tools/wine32.sh --pronto      only tells by its exit code whether it is there
+# Exit code 125: this script could not do its part.
 set -eu
 cd "$(dirname "$0")/.."
 qui=$PWD albero=/var/tmp/telva-wine32
-[ "$(id -u)" = 0 ] || { echo 'wine32.sh: must be root' >&2; exit 125; }
-if [ ! -f "$albero/.pronto" ]; then
-    command -v debootstrap >/dev/null || { apt-get update -q && apt-get install -y -q debootstrap; }
-    debootstrap --arch=i386 --variant=minbase --include=wine,wine32 bookworm "$albero/radice"
-    : >"$albero/.pronto"
+muori() { echo "wine32.sh: $*" >&2; exit 125; }
+
+if [ "${1:-}" = --pronto ]; then
+    [ "$(id -u)" = 0 ] && [ -f "$albero/.pronto" ]
+    exit
 fi
+[ "$(id -u)" = 0 ] || muori 'must be root'
+mkdir -p "$albero"
+(
+    flock 9
+    [ ! -f "$albero/.pronto" ] || exit 0
+    command -v debootstrap >/dev/null || muori 'debootstrap is not installed'
+    . /etc/os-release
+    rm -rf "$albero/radice"
+    debootstrap --arch=i386 --variant=minbase --include=wine,wine32 "$VERSION_CODENAME" "$albero/radice" \
+        >"$albero/registro.txt" 2>&1 || { tail -n 5 "$albero/registro.txt" >&2; muori 'debootstrap failed'; }
+    chroot "$albero/radice" wine --version >/dev/null 2>&1 || muori 'this machine runs no 32-bit program'
+    : >"$albero/.pronto"
+) 9>"$albero.lock"
+[ "${1:-}" != --prepara ] || exit 0
+
 mkdir -p "$albero/bin" "$albero/radice$qui"
 for nome in wine wineserver; do
-    printf '#!/bin/sh\nexec chroot "%s/radice" env -C "$PWD" %s "$@"\n' "$albero" $nome >"$albero/bin/$nome"
-    chmod +x "$albero/bin/$nome"
+    nuovo=$(mktemp "$albero/bin/XXXXXX")
+    printf '#!/bin/sh\nexec chroot "%s/radice" env -C "$PWD" %s "$@"\n' "$albero" $nome >"$nuovo"
+    chmod 755 "$nuovo"
+    mv "$nuovo" "$albero/bin/$nome"
 done
 # In a mount namespace of its own: nothing stays mounted behind it.
 export WINEARCH=win32 PATH=$albero/bin:$PATH

@@ -1,4 +1,5 @@
-// prove_e2e --telva EXE --dati INSTALLATION [--solo NAME] [--foto DIR]
+// prove_e2e --telva EXE --dati INSTALLATION [--solo NAMES] [--foto DIR]
+// NAMES have commas between them; "mouse_*" stands for all that begin so.
 // The exit code is the number of scenarios that failed, at most 100.
 #include "Prove.h"
 
@@ -52,15 +53,25 @@ bool Esegui(const std::string &nome, void (*corpo)(const Ambiente &), const Ambi
     return errori == 0;
 }
 
+// The long ones run by name only.
+bool Scelto(const std::string &nome, const std::string &solo) {
+    if (solo.empty()) return !nome.starts_with("lungo_");
+    std::istringstream voci(solo);
+    for (std::string voce; std::getline(voci, voce, ',');)
+        if (voce.ends_with('*') ? nome.starts_with(voce.substr(0, voce.size() - 1)) : nome == voce)
+            return true;
+    return false;
+}
+
 int EseguiTutti(const Ambiente &amb, const std::string &solo) {
     int eseguiti = 0, falliti = 0;
     for (const auto &[nome, corpo] : Elenco())
-        if (solo.empty() ? !nome.starts_with("lungo_") : solo == nome) {
+        if (Scelto(nome, solo)) {
             ++eseguiti;
             if (!Esegui(nome, corpo, amb)) ++falliti;
         }
     if (eseguiti == 0) {
-        std::printf("no scenario '%s'; there are:\n", solo.c_str());
+        std::printf("no scenario of '%s'; there are:\n", solo.c_str());
         for (const auto &[nome, corpo] : Elenco()) std::printf("  %s\n", nome.c_str());
     }
     std::printf("%d scenarios, %d failed\n", eseguiti, falliti);
@@ -130,7 +141,7 @@ int main() {
             amb.telva.clear(), i = n;
     }
     if (amb.telva.empty() || amb.dati.empty()) {
-        std::printf("prove_e2e --telva EXE --dati DIR [--solo NAME] [--foto DIR]\n");
+        std::printf("prove_e2e --telva EXE --dati DIR [--solo NAMES] [--foto DIR]\n");
         return 101;
     }
     if (!amb.foto.empty()) std::filesystem::create_directories(amb.foto);
