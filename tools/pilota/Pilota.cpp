@@ -243,6 +243,7 @@ void Programma::Stabile(HWND finestra) {
         }
         return visto && tempo - da >= quieteMs;
     });
+    Smaltisci(visto); // what its opening still had to do is done
     stabile_ = visto;
 }
 
@@ -260,6 +261,7 @@ HWND Programma::Dialogo(const std::string &titolo) {
             if (Titolo(f) == titolo) trovata = f;
         return trovata != nullptr;
     });
+    stabile_ = nullptr; // a new window may have the handle of one that is gone
     Stabile(trovata);
     return trovata;
 }
@@ -271,6 +273,7 @@ Riquadro Programma::AttendiRiquadro() {
             if (GetDlgItem(f, 0xFFFF)) r.finestra = f;
         return r.finestra != nullptr;
     });
+    stabile_ = nullptr;
     Stabile(r.finestra);
     r.titolo = Testo(r.finestra);
     r.testo = Testo(GetDlgItem(r.finestra, 0xFFFF));
