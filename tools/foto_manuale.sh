@@ -23,11 +23,11 @@ cp "$base/resources/font/font.001" "$telva/progra/"
 wine wine "$windows/tests/e2e/prove_e2e.exe" --telva "$(vista "$windows/telva.exe")" \
     --dati 'c:\telva' --foto "$(vista "$foto")" --solo manuale
 
-# Few colours and no dithering: lines and texts stay crisp, the files small.
+# Every colour as it is on the screen.
 converti() { # source, name, more options of convert
     local da=$foto/manuale_$1.bmp a=$immagini/manuale_$2.png
     shift 2
-    convert "$da" "$@" +dither -colors 64 -strip "$a"
+    convert "$da" "$@" -strip -define png:color-type=2 -define png:compression-level=9 "$a"
 }
 
 # Numbers in circles at the given places of the picture: 1 at the first, 2 at the second...

@@ -139,7 +139,7 @@ TEST_F(Scritture, SiTolgonoIProvvisoriAbbandonatiENullAltro) {
 }
 
 TEST_F(Scritture, QuelCheScrivonoInTreInsiemeEUnoDeiTreIntero) {
-    constexpr int kProgrammi = 3, kGiri = 60;
+    constexpr int kProgrammi = 3, kGiri = 20;
     std::vector<std::string> testi;
     for (int p = 0; p < kProgrammi; ++p)
         testi.push_back(std::string(static_cast<std::size_t>(5000 * (p + 1)), char('a' + p)));

@@ -179,11 +179,12 @@ Testo Ingresso(const Lavoro &l) {
     return t;
 }
 
-// Representation options, entry 0 first: sizes in pixels or cm, ticks 1 or 0.
+// Representation options, entry 0 first: sizes in pixels or cm, ticks 1 or 0. Selected elements are
+// drawn with a pen of 5, which shows beside the outline of a shell that lies over a bar.
 Testo Opzioni() {
     Testo t;
     for (const char *valore :
-         {"1", "1", "1", "3", "0", "1", "2", "0", "0", "0", "20", "25", "1", "8", "1",
+         {"1", "1", "1", "5", "0", "1", "2", "0", "0", "0", "20", "25", "1", "8", "1",
           "1", "1", "1", "1", "1", "1", "1", "1", "1", "0", "1",  "0",  "0", "0", "0"})
         t.Riga(valore);
     return t;
