@@ -23,13 +23,20 @@ struct Elementi {
     std::int16_t *attivi;       // by part
     const std::int16_t *colori; // by part
 
-    // True when `prova(parte)` holds for every part of element i; so for one without parts.
+    // True when `prova(parte)` holds for every part of element i; so for one without parts. A name
+    // that no bar has stands as it is among the bars of a continuous element: where it is no place
+    // of the table either, nothing holds for the element, which is neither selectable nor drawn.
     template <class Prova>
     bool OgniParte(int i, Prova prova) const {
         if (tipo != kElContTipo) return prova(i);
-        for (int j = 0; j < NumAsteElCont[i]; ++j)
-            if (!prova(AstaElCont(i, j))) return false;
+        for (int j = 0; j < NumAsteElCont[i]; ++j) {
+            const int asta = AsteElCont(i, j);
+            if (asta < 0 || asta >= kAste || !prova(asta)) return false;
+        }
         return true;
+    }
+    bool Intero(int i) const {
+        return OgniParte(i, [](int) { return true; });
     }
     bool Attivo(int i) const {
         return OgniParte(i, [this](int parte) { return attivi[parte] == 1; });

@@ -1,9 +1,5 @@
 #include "model/struttura.h"
 
-#include "platform/citazione.h"
-#include "platform/numeri.h"
-#include "startup/direttori_cond.h"
-
 namespace telva {
 
 #define TABELLA(nome)                                                                              \
@@ -45,15 +41,6 @@ Campi16ElCont TABELLA(SelElCont);
 #undef TABELLA
 
 int NumeroAngoli(int guscio) { return NodiGuscio[guscio][3] < 0 ? 3 : 4; }
-
-int AstaElCont(int k, int j) {
-    const int asta = AsteElCont(k, j);
-    if (asta < 0 || asta >= kAste)
-        throw Guasto("File " + CitaPercorso(DirLavoro + "\\el_conti.tmp") + ", elemento continuo " +
-                     TestoNumero(NumeroElCont[k]) + ": l'asta " + TestoNumero(asta) +
-                     " non esiste");
-    return asta;
-}
 
 void AzzeraStruttura() {
     NumPunti = NumNodi = NumAste = NumGusci = NumElCont = NumTestiFinali = 0;

@@ -62,10 +62,6 @@ extern Campi16ElCont SelElCont;
 // Corners that count for drawing, extents and intervals: 3 when the fourth is negative, else 4.
 int NumeroAngoli(int guscio);
 
-// Place of the j-th bar of a continuous element. A name that no bar has stands there as it is: one
-// that is no place of the table is a Guasto that names the element.
-int AstaElCont(int elemento, int j);
-
 // Everything back to program start.
 void AzzeraStruttura();
 

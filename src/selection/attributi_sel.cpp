@@ -27,6 +27,7 @@ void Seleziona(const Attributo &a, std::int16_t codice, Segno segno) {
             return codice == a.ogni ||
                    e.OgniParte(i, [&](int parte) { return valori[parte] == codice; });
         });
+    if (e.tipo != tipo) RicostruisciLista(e.tipo);
     MostraSelezione();
     CodSottoFun = kDiretta;
 }

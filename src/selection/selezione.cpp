@@ -91,9 +91,13 @@ void MostraSelezione() {
     AggiornaSelezione();
 }
 
+void RicostruisciLista(int tipo) {
+    if (tipo != kParetiTipo) StrSel(tipo) = FormattaListaSel(OrdinaNumeriSel(tipo));
+}
+
 void AggiornaSelezione() {
     const int tipo = FormTelva.TipoElemento();
-    if (tipo != kParetiTipo) StrSel(tipo) = FormattaListaSel(OrdinaNumeriSel(tipo));
+    RicostruisciLista(tipo);
     MostraStringaSel(tipo);
 }
 

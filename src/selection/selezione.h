@@ -45,6 +45,9 @@ void InvertiSelezione();
 // What follows every marking: repaints and shows the list.
 void MostraSelezione();
 
+// Rebuilds the compact list of a kind 0..3; walls have none to rebuild.
+void RicostruisciLista(int tipo);
+
 // Rebuilds the compact list of the chosen kind and shows it.
 void AggiornaSelezione();
 

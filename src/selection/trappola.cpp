@@ -56,19 +56,24 @@ std::vector<Candidato> Cerca(TipoElemento tipo, std::size_t massimo, Colpo colpo
     return trovati;
 }
 
-// Number of the continuous element hit last: unlike shells, the later one wins.
+// Number of the continuous element hit last: unlike shells, the later one wins. Every bar that is
+// hit counts as a candidate.
 std::int16_t UltimoElCont(double x, double y) {
-    int trovati = 0, ultimo = -1;
-    double d = 0;
-    const Elementi &aste = ElementiDi(kAsteTipo);
-    for (int k = 0; k < NumElCont; ++k)
-        for (int j = 0; j < NumAsteElCont[k]; ++j) {
-            const int b = AstaElCont(k, j);
-            if (!Candidabile(aste, b) || PickAsta(b, x, y, d) != 1) continue;
-            ultimo = k;
-            if (++trovati == kCandidati) return NumeroElCont[ultimo];
-        }
-    return ultimo < 0 ? std::int16_t{0} : NumeroElCont[ultimo];
+    const Elementi &elementi = ElementiDi(kElContTipo), &aste = ElementiDi(kAsteTipo);
+    std::int16_t nome = 0;
+    int trovati = 0;
+    for (int k = 0; k < elementi.numero && trovati < kCandidati; ++k) {
+        int colpi = 0;
+        double d = 0;
+        const bool intero = elementi.OgniParte(k, [&](int b) {
+            if (Candidabile(aste, b) && PickAsta(b, x, y, d) == 1) ++colpi;
+            return true;
+        });
+        if (!intero || colpi == 0) continue;
+        trovati += colpi;
+        nome = elementi.nomi[k];
+    }
+    return nome;
 }
 
 } // namespace

@@ -45,7 +45,7 @@ void PrimaVista(const std::string &ingresso) {
     if (Rifila(ingresso) == "0")
         SelezionaPerColore(kOgniColore, Segno::Messo);
     else if (!SelezionaElementoPerNome(ingresso, Segno::Messo))
-        DisegnaStruttura(); // a list that cannot be taken: the job is shown all the same
+        MostraSelezione(); // a list that cannot be taken: the job is shown with nothing selected
 }
 
 void LeggiTabelle() {

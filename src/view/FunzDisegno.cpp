@@ -1,5 +1,6 @@
 #include "view/FunzDisegno.h"
 
+#include "model/elementi.h"
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
 #include "platform/numeri.h"
@@ -50,11 +51,13 @@ Tratteggio TrattoLinea(int tipo) {
 std::vector<bool> AsteEvidenziate() {
     std::vector<bool> aste(kAste, false);
     for (int b = 0; b < NumAste; ++b) aste[static_cast<std::size_t>(b)] = SelAsta[b] == 1;
-    for (int k = 0; k < NumElCont; ++k) {
-        if (SelElCont[k] != 1) continue;
-        for (int j = 0; j < NumAsteElCont[k]; ++j)
-            aste[static_cast<std::size_t>(AstaElCont(k, j))] = true;
-    }
+    const Elementi &e = ElementiDi(kElContTipo);
+    for (int k = 0; k < NumElCont; ++k)
+        if (e.Selezionato(k))
+            e.OgniParte(k, [&](int b) {
+                aste[static_cast<std::size_t>(b)] = true;
+                return true;
+            });
     return aste;
 }
 

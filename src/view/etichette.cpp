@@ -1,7 +1,7 @@
 #include "view/etichette.h"
 
+#include "model/elementi.h"
 #include "model/opzioni_cond.h"
-#include "model/struttura.h"
 #include "model/tabelle_cond.h"
 #include "platform/numeri.h"
 #include "platform/testo.h"
@@ -155,10 +155,11 @@ class AngoliNodi {
 
 void EtichetteElCont(const Scrittura &s) {
     if (!OpzioneAttiva(kOpzTestiElCont) || !OpzioneAttiva(kOpzNomeElCont)) return;
+    const Elementi &e = ElementiDi(kElContTipo);
     for (int k = 0; k < NumElCont; ++k) {
-        if (NumAsteElCont[k] == 0 || NumeroElCont[k] <= 0) continue;
+        if (NumAsteElCont[k] == 0 || NumeroElCont[k] <= 0 || !e.Intero(k)) continue;
         const int b = AsteElCont(k, 0);
-        if (b < 0 || b >= NumAste || !AstaDisegnata(b)) continue; // a name that no bar has
+        if (b >= NumAste || !AstaDisegnata(b)) continue; // a name that no bar has
         const std::string testo = EtichettaElCont(k);
         const MezzoAsta mezzo(s, b);
         if (s.InVista(mezzo.x, mezzo.y, testo.size())) ScriviNome(s, mezzo, testo);
