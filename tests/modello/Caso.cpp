@@ -45,6 +45,12 @@ void Caso::Nodi(LavoroProva &l) {
                           .vincolo = Tira(4)});
 }
 
+// The name of a bar that there may not be; now and then one that cannot be.
+int Caso::AstaIgnota() {
+    if (Tira(8) == 0) return Una({-1, 20001, 32000});
+    return 1 + Tira(30);
+}
+
 void Caso::Elementi(LavoroProva &l) {
     const auto nodo = [&] { return Tira(l.nodi.size()); };
     for (int n = Tira(20); n > 0; --n)
@@ -68,7 +74,7 @@ void Caso::Elementi(LavoroProva &l) {
         l.elementi.push_back({.numero = Nome(), .nome = "Elemento", .aste = {}});
         for (int k = Tira(4); k > 0; --k) { // mostly bars that there are
             const bool ignota = l.aste.empty() || Tira(6) == 0;
-            l.elementi.back().aste.push_back(ignota ? 1 + Tira(30)
+            l.elementi.back().aste.push_back(ignota ? AstaIgnota()
                                                     : std::abs(l.aste[Tira(l.aste.size())].nome));
         }
     }
@@ -85,6 +91,13 @@ LavoroProva Caso::Lavoro() {
         l.spessori.push_back({.materiale = Tira(4), .valore = Tira(2) ? 20 : 0.5});
     for (int n = Tira(5); n > 0; --n) l.sezioni.push_back(Tira(4));
     return l;
+}
+
+// Mostly no list.
+Ingresso Caso::InIngresso() {
+    const int tipo = Tira(5);
+    if (Tira(3)) return {.lista = "", .tipo = tipo};
+    return {.lista = Tira(4) ? Elenco() : Testo({"0", "7,40000", "1-20001"}), .tipo = tipo};
 }
 
 // --- a step

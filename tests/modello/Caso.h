@@ -13,6 +13,7 @@ class Caso {
   public:
     explicit Caso(unsigned seme) : numeri_(seme) {}
     LavoroProva Lavoro();
+    Ingresso InIngresso();
     PassoCasuale Passo(const Modello &m);
 
   private:
@@ -29,6 +30,7 @@ class Caso {
     void Nodi(LavoroProva &l);
     void Elementi(LavoroProva &l);
     int Nome();
+    int AstaIgnota();
     int Colore();
     double Coordinata();
 

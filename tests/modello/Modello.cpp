@@ -12,6 +12,7 @@ constexpr double kPi = 3.14159265359;
 constexpr double kUguale = 1e-4;    // drawing units: nearer than this is the same
 constexpr double kZoomMinimo = 0.1; // drawing units
 constexpr int kCritica = 0;
+constexpr int kUltimaAsta = 20000; // place in the table
 
 double Numero(const std::string &testo) { return std::strtod(testo.c_str(), nullptr); }
 
@@ -58,6 +59,7 @@ Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro
             const auto asta = std::ranges::find(aste, nome, &Elemento::nome);
             const auto posto = asta == aste.end() ? nome : asta - aste.begin();
             e.aste.push_back(posto < std::ssize(aste) ? static_cast<int>(posto) : -1);
+            e.rotto = e.rotto || posto < 0 || posto > kUltimaAsta;
         }
         elementi[Continui].push_back(e);
     }
@@ -67,9 +69,16 @@ void Modello::Dice(const std::string &testo, const char *titolo, int icona) {
     messaggi += titolo + std::to_string(icona) + testo;
 }
 
-void Modello::Avvio() {
+void Modello::Avvio(const Ingresso &ingresso) {
     for (int asse = 0; asse < 3; ++asse) Estremi(asse);
     Ottimizza();
+    tipo = ingresso.tipo;
+    funzione = Aggiungere;
+    if (ingresso.lista == "0")
+        Attributo("Colore", 10);
+    else if (!ingresso.lista.empty())
+        Numeri(Sotto::Nome, ingresso.lista); // a list that is refused selects nothing
+    funzione = Niente;
 }
 
 // --- the view

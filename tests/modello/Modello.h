@@ -49,10 +49,17 @@ struct Elemento {
     int nome = 0, colore = 1, tipo = 0; // tipo: of point, line or hatch
     std::map<Sotto, int> schede = {};   // its cards
     std::vector<int> punti = {};        // places of its points
-    std::vector<int> aste = {};         // a continuous element's bars, -1 outside the table
+    std::vector<int> aste = {};         // a continuous element's bars, -1 where there is none
+    bool rotto = false;                 // a continuous element with a bar outside the tables
     bool sottile = false;               // a shell that is too thin to be drawn
     bool triangolo = false;             // a shell that is picked as one
     bool selezionato = false, attivo = false;
+};
+
+// What the caller hands in.
+struct Ingresso {
+    std::string lista;
+    int tipo = 0;
 };
 
 struct Modello {
@@ -103,8 +110,8 @@ struct Modello {
     void Angolo(int asse, const std::string &testo, bool invio);
     void Trappola(const std::string &testo);
 
-    // The start: intervals on the whole structure, everything in view.
-    void Avvio();
+    // The start: intervals on the whole structure, everything in view, the caller's list selected.
+    void Avvio(const Ingresso &ingresso);
     double RaggioTrappola() const { return trappola * scala.larghezza / largo; }
     bool InVista(double x, double y) const;
     // A place that pans by whole pixels while a pan is awaited.

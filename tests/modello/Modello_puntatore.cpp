@@ -80,7 +80,7 @@ int Modello::Scelto(double x, double y) {
     for (const Elemento &e : elementi[tipo]) {
         if (tipo != Continui) prova(e, e);
         for (const int b : e.aste) // a continuous element by each of its bars
-            if (b >= 0) prova(e, elementi[Aste][b]);
+            if (b >= 0 && !e.rotto) prova(e, elementi[Aste][b]);
     }
     if (candidati.empty()) return 0;
     if (tipo == Continui) return candidati.back().e->nome;

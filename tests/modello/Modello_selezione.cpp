@@ -206,6 +206,7 @@ void Modello::Attributo(const std::string &menu, int codice) {
             return codice == famiglia.tutti || codice == (menu == "Colore" ? e.colore : e.tipo);
         };
         Segna(vale, [&](Elemento &e) { e.selezionato = funzione == Aggiungere; });
+        AggiornaLista(); // that of the shells, when walls were chosen
         tipo = vero;
     }
     AggiornaLista();

@@ -91,6 +91,12 @@ void ConfrontaElementi(Confronto &c, const Modello &m) {
 
 } // namespace
 
+// What a sequence starts from.
+struct Inizio {
+    LavoroProva lavoro;
+    Ingresso ingresso;
+};
+
 struct SequenzeProva : Utente {
     ModuloTelva &f = FormTelva;
     RiquadroDisegno &d = FormTelva.Disegno;
@@ -259,15 +265,15 @@ struct SequenzeProva : Utente {
 
     // Plays the steps, then `nuovi` more that are drawn and added to them. What differs first, the
     // steps then cut after it; or nothing.
-    std::string Gioca(const LavoroProva &l, Passi &passi, Caso *caso, int nuovi) {
+    std::string Gioca(const Inizio &inizio, Passi &passi, Caso *caso, int nuovi) {
         AzzeraProgramma();
         DimenticaPassi();
         messaggi.clear();
         for (auto &angolo : f.Angolo) angolo.Text = "0";
         if (!Avvia()) return "no start: " + ::testing::PrintToString(messaggi);
-        Modello m(l);
+        Modello m(inizio.lavoro);
         Misura(m);
-        m.Avvio();
+        m.Avvio(inizio.ingresso);
         std::string diverso = Differenze(m);
         for (std::size_t n = 0; diverso.empty() && (n < passi.size() || nuovi-- > 0);) {
             if (n == passi.size())
@@ -287,14 +293,14 @@ struct SequenzeProva : Utente {
     }
 
     // Leaves steps out, as long as something differs.
-    std::string Accorcia(const LavoroProva &l, Passi &passi, std::string diverso) {
+    std::string Accorcia(const Inizio &inizio, Passi &passi, std::string diverso) {
         for (std::size_t blocco = passi.size(); blocco > 0; blocco /= 2)
             for (std::size_t n = 0; n < passi.size();) {
                 Passi meno = passi;
                 const std::size_t fine = std::min(n + blocco, passi.size());
                 meno.erase(meno.begin() + static_cast<long>(n),
                            meno.begin() + static_cast<long>(fine));
-                const std::string ora = Gioca(l, meno, nullptr, 0);
+                const std::string ora = Gioca(inizio, meno, nullptr, 0);
                 if (ora.empty()) {
                     n += blocco;
                 } else {
@@ -302,7 +308,7 @@ struct SequenzeProva : Utente {
                     diverso = ora;
                 }
             }
-        Gioca(l, passi, nullptr, 0); // for the story of the failure
+        Gioca(inizio, passi, nullptr, 0); // for the story of the failure
         return diverso;
     }
 };
@@ -316,14 +322,17 @@ TEST_F(SequenzeProva, ComeLeRegole) {
     const int primo = ambiente("TELVA_SEME", 1), quanti = ambiente("TELVA_SEMI", 150);
     for (int seme = primo; seme < primo + quanti; ++seme) {
         Caso caso(static_cast<unsigned>(seme));
-        const LavoroProva l = caso.Lavoro();
-        ScriviLavoro(l);
+        const Inizio inizio{.lavoro = caso.Lavoro(), .ingresso = caso.InIngresso()};
+        ScriviLavoro(inizio.lavoro);
+        ScriviIngresso("", inizio.ingresso.lista, inizio.ingresso.tipo);
         Passi passi;
-        const std::string diverso = Gioca(l, passi, &caso, ambiente("TELVA_PASSI", 250));
+        const std::string diverso = Gioca(inizio, passi, &caso, ambiente("TELVA_PASSI", 250));
         if (diverso.empty()) continue;
         FAIL() << "seed " << seme << "\n"
-               << Accorcia(l, passi, diverso) << "\nThe job (its settings are those of Installa):\n"
-               << Dichiarazione(l) << "custom/TelOpInt.txt:\n"
+               << Accorcia(inizio, passi, diverso)
+               << "\nThe job (its settings are those of Installa):\n"
+               << Dichiarazione(inizio.lavoro) << "TelvaIn.txt:\n"
+               << Leggi("lavori/prova1/TelvaIn.txt") << "custom/TelOpInt.txt:\n"
                << Leggi("custom/TelOpInt.txt") << "custom/TelOpzio.txt:\n"
                << Leggi("custom/TelOpzio.txt");
     }
