@@ -1,43 +1,122 @@
 #include "model/legfont_cond.h"
 #include "sostegno/Banco.h"
 #include "startup/direttori_cond.h"
+
 namespace telva::prove {
-TEST_F(Banco, OgniRigaDelFontEUnCarattereDiTrattiDaOtto) {
-    DirRoot = Radice();
-    DirProgra = Radice() + "\\progra";
-    LeggiFont();
-    EXPECT_EQ(messaggi.at(0).testo, "File " + DirProgra + "\\font.001 inesistente!");
-    std::string s =
-        "20 resto\r\nA\r\nB 1 2 3 499-56 7\r\nC102030405060\r\nD1020\r\n 01020304 \r\n\xE8";
-    for (int k = 0; k < 60; ++k) s += "01020304";
-    Scrivi("font.001", s); // stands in for the one of DirProgra
-    LeggiFont();
-    s.clear();
-    for (const char c : {'A', 'B', 'C', 'D', ' ', 'a'}) {
-        s += c + std::to_string(NumPtFont[c]) + ":";
-        for (int k = 0; k < NumPtFont[c]; ++k)
-            s += std::to_string(FontX(c, k)) + "," + std::to_string(FontY(c, k)) + " ";
+
+using Punti = std::vector<std::array<int, 2>>;
+
+struct Legfont : Banco {
+    Legfont() {
+        DirRoot = Radice();
+        DirProgra = Radice() + "\\progra";
     }
-    EXPECT_EQ(s, "A0:B4:1,2 3,4 99,-5 6,7 C4:10,20 30,40 50,60 0,0 D0: 2:1,2 3,4 a-1:");
-    EXPECT_TRUE(SpazioFont == 20 && CarFont[0xE8] == "è" && NumPtFont[0xE8] == 100);
-    for (const char *testo : {"", "x\r\nA01020304\r\n", "0\nA01020304\nB0102x304\nC01020304\n"}) {
-        Scrivi("progra/font.001", testo);
+    void LeggiRighe(const std::string &righe) {
+        Scrivi("progra/font.001", righe);
         LeggiFont();
-        const std::string errore = "Errore in lettura del file " + DirProgra + "\\font.001 !";
-        EXPECT_EQ(messaggi.back(), (Messaggio{errore, Icona::Critica, "Problema"}));
     }
-    EXPECT_TRUE(NumPtFont['A'] == 2 && NumPtFont['C'] == -1 && messaggi.size() == 4);
+    static Punti PuntiDi(unsigned char codice) {
+        Punti punti;
+        for (int k = 0; k < NumPtFont[codice]; ++k)
+            punti.push_back({FontX(codice, k), FontY(codice, k)});
+        return punti;
+    }
+    Messaggio ErroreInLettura() const {
+        return {"Errore in lettura del file " + DirProgra + "\\font.001 !", Icona::Critica,
+                "Problema"};
+    }
+};
+
+TEST_F(Legfont, OgniRigaEUnCarattereDiTrattiDaOttoCifre) {
+    struct Caso {
+        const char *che, *riga;
+        unsigned char codice;
+        Punti attesi;
+    };
+    for (const Caso &c :
+         {Caso{.che = "no strokes", .riga = "A", .codice = 'A', .attesi = {}},
+          {.che = "one stroke", .riga = "A10203040", .codice = 'A', .attesi = {{10, 20}, {30, 40}}},
+          {.che = "blanks and signs",
+          .riga = "B 1 2 3 499-56 7",
+          .codice = 'B',
+          .attesi = {{1, 2}, {3, 4}, {99, -5}, {6, 7}}},
+          {.che = "a point is missing",
+          .riga = "C102030405060",
+          .codice = 'C',
+          .attesi = {{10, 20}, {30, 40}, {50, 60}, {0, 0}}},
+          {.che = "half a stroke rounds to none", .riga = "D1020", .codice = 'D', .attesi = {}},
+          {.che = "the blank, blanks behind",
+          .riga = " 01020304   ",
+          .codice = ' ',
+          .attesi = {{1, 2}, {3, 4}}},
+          {.che = "beyond ASCII",
+          .riga = "\xE8"
+                  "01020304",
+          .codice = 0xE8,
+          .attesi = {{1, 2}, {3, 4}}}}) {
+        LeggiRighe("20 resto\r\n" + std::string(c.riga) + "\r\n");
+        EXPECT_EQ(PuntiDi(c.codice), c.attesi) << c.che << ": \"" << c.riga << '"';
+        EXPECT_EQ(SpazioFont, 20) << c.che;
+        EXPECT_EQ(NumPtFont['z'], -1) << "not in the file";
+        EXPECT_TRUE(messaggi.empty()) << c.che;
+    }
+    EXPECT_EQ(CarFont[0xE8], "\u00E8");
 }
 
-TEST_F(Banco, IlFontInUtf8HaGliStessiCodici) {
-    DirProgra = Radice();
-    Scrivi("font.001", "\xEF\xBB\xBF"
-                       "20\r\nè01020304\r\n€0102030405060708\r\nΩ01020304\r\nB01020304");
+TEST_F(Legfont, UnCarattereHaAlPiuCentoPunti) {
+    std::string riga = "A";
+    for (int k = 0; k < 60; ++k) riga += "01020304";
+    LeggiRighe("0\n" + riga + "\nB01020304\n");
+    EXPECT_EQ(NumPtFont['A'], 100);
+    EXPECT_EQ(NumPtFont['B'], 2);
+}
+
+TEST_F(Legfont, DiUnCarattereGuastoRestanoITrattiInteri) {
+    struct Caso {
+        const char *riga;
+        Punti attesi;
+    };
+    for (const Caso &c : {Caso{.riga = "Bx1020304", .attesi = {}},
+                          {.riga = "B010203x4", .attesi = {}},
+                          {.riga = "B01020304x5060708", .attesi = {{1, 2}, {3, 4}}},
+                          {.riga = "B010203040506070x", .attesi = {{1, 2}, {3, 4}}}}) {
+        messaggi.clear();
+        LeggiRighe("0\nA01020304\n" + std::string(c.riga) + "\nC01020304\n");
+        EXPECT_EQ(PuntiDi('B'), c.attesi) << c.riga;
+        EXPECT_EQ(PuntiDi('A'), (Punti{{1, 2}, {3, 4}})) << "read before " << c.riga;
+        EXPECT_EQ(NumPtFont['C'], -1) << "after " << c.riga;
+        EXPECT_EQ(messaggi, std::vector{ErroreInLettura()}) << c.riga;
+    }
+}
+
+TEST_F(Legfont, SenzaUnNumeroInTestaIlFileEErrato) {
+    for (const char *testo : {"", "x\r\nA01020304\r\n", "99999\nA01020304\n"}) {
+        messaggi.clear();
+        LeggiRighe(testo);
+        EXPECT_EQ(messaggi, std::vector{ErroreInLettura()}) << '"' << testo << '"';
+        EXPECT_EQ(NumPtFont['A'], -1) << '"' << testo << '"';
+    }
+}
+
+TEST_F(Legfont, SiCercaNellaCartellaDeiProgrammiPoiInQuellaDiBase) {
     LeggiFont();
-    EXPECT_EQ(NumPtFont[0xE8], 2) << "è";
-    EXPECT_EQ(CarFont[0xE8], "è");
-    EXPECT_EQ(NumPtFont[0x80], 4) << "€";
+    EXPECT_EQ(messaggi, (std::vector<Messaggio>{{"File " + DirProgra + "\\font.001 inesistente!",
+                                                 Icona::Critica, "Problema"}}));
+    Scrivi("font.001", "0\nA01020304\n");
+    LeggiFont();
+    EXPECT_EQ(NumPtFont['A'], 2) << "from the root";
+    LeggiRighe("0\nA0102030405060708\n");
+    EXPECT_EQ(NumPtFont['A'], 4) << "from the programs' folder";
+}
+
+TEST_F(Legfont, InUtf8ICodiciSonoGliStessi) {
+    LeggiRighe("\xEF\xBB\xBF"
+               "20\r\n\u00E801020304\r\n\u20AC0102030405060708\r\n\u03A901020304\r\nB01020304");
+    EXPECT_EQ(NumPtFont[0xE8], 2) << "\u00E8";
+    EXPECT_EQ(CarFont[0xE8], "\u00E8");
+    EXPECT_EQ(NumPtFont[0x80], 4) << "\u20AC";
     EXPECT_EQ(NumPtFont['B'], -1) << "a character beyond the table ends the font";
     EXPECT_EQ(messaggi.size(), 0u);
 }
+
 } // namespace telva::prove

@@ -5,33 +5,98 @@
 #include "startup/direttori_cond.h"
 #include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
+
 namespace telva::prove {
-TEST_F(Banco, SiLeggeLIngressoESiScriveLUscita) {
-    DirLavoro = Radice();
-    CaricaMessaggi();
-    std::string letti; // title, list, kind, kept lists
-    for (const char *file :
-         {"", "Citt\xE0, alta\r\n  1-5 , 7 \r\n0\r\n", "T\n3\n1\n", " T \n3\n 2 , x", "T\n3\n3\n",
-          "T\n3\n4\n", "T\n3\n7\n", "T\n3\nuno\n", "T\n3\n", "T"}) {
+
+struct Scambio : Banco {
+    Scambio() {
+        DirLavoro = Radice();
+        CaricaMessaggi();
+    }
+};
+
+TEST_F(Scambio, LIngressoSiLeggeFinDoveArriva) {
+    constexpr int kNodi = 0, kAste = 1, kGusci = 2, kContinui = 3, kPareti = 4;
+    struct Caso {
+        const char *file;
+        const char *titolo, *lista;
+        int tipo;
+        const char *nodi = "", *aste = "", *gusci = ""; // the list kept for each kind
+    };
+    for (const Caso &c : {
+             Caso{.file = "Citt\xE0, alta\r\n  1-5 , 7 \r\n0\r\n",
+            .titolo = "Citt\u00E0, alta",
+            .lista = "1-5 , 7",
+            .tipo = kNodi,
+            .nodi = "1-5 , 7"},
+             {.file = "T\n3\n1\n", .titolo = "T", .lista = "3", .tipo = kAste, .aste = "3"},
+             {.file = " T \n3\n 2 , x",
+             .titolo = " T ",
+             .lista = "3",
+             .tipo = kGusci,
+             .gusci = "3"},
+             {.file = "T\n3\n3\n", .titolo = "T", .lista = "3", .tipo = kContinui},
+             {.file = "T\n3\n4\n", .titolo = "T", .lista = "3", .tipo = kPareti},
+             {.file = "T\n3\n5\n", .titolo = "T", .lista = "3", .tipo = kNodi},
+             {.file = "T\n3\n-1\n", .titolo = "T", .lista = "3", .tipo = kNodi},
+             {.file = "T\n3\nuno\n", .titolo = "T", .lista = "3", .tipo = kNodi},
+             {.file = "T\n3\n", .titolo = "T", .lista = "3", .tipo = kNodi},
+             {.file = "T", .titolo = "T", .lista = "prima", .tipo = kNodi},
+         }) {
         StrSelNodi = StrSelAste = StrSelGusci = "";
-        FormTelva.OptElem[1].Seleziona();
+        FormTelva.OptElem[kAste].Seleziona();
+        Scrivi("TelvaIn.txt", c.file);
         std::string lista = "prima";
-        if (*file) Scrivi("TelvaIn.txt", file); // the first time there is none
         LeggiIngresso(lista);
-        letti += TitoloIn + "|" + lista + "|" + std::to_string(FormTelva.TipoElemento()) + "|" +
-                 StrSelNodi + "|" + StrSelAste + "|" + StrSelGusci + StrSelElCont + StrSelPareti +
-                 "\n";
+        EXPECT_EQ(TitoloIn, c.titolo) << c.file;
+        EXPECT_EQ(lista, c.lista) << c.file;
+        EXPECT_EQ(FormTelva.TipoElemento(), c.tipo) << c.file;
+        EXPECT_EQ(StrSelNodi, c.nodi) << c.file;
+        EXPECT_EQ(StrSelAste, c.aste) << c.file;
+        EXPECT_EQ(StrSelGusci, c.gusci) << c.file;
+        EXPECT_EQ(StrSelElCont, "") << c.file;
+        EXPECT_EQ(StrSelPareti, "") << c.file;
     }
-    EXPECT_EQ(letti, "|prima|0|||\nCittà, alta|1-5 , 7|0|1-5 , 7||\nT|3|1||3|\n T |3|2|||3\n"
-                     "T|3|3|||\nT|3|4|||\nT|3|0|||\nT|3|0|||\nT|3|0|||\nT|prima|0|||\n");
-    DiscoGuasto disco;
-    for (const char *lista : {" 1-5,7 ", "  ", "", "disco pieno"}) {
-        if (*lista == 'd') disco.spazio = 0;
-        FormTelva.StringaSel.Caption = lista;
-        EXPECT_TRUE(!Esegui(Salva_Click) && codiceFine == 0);
-        EXPECT_EQ(Leggi("TelvaOut.txt"), lista == std::string(" 1-5,7 ") ? "1-5,7\r\n" : " \r\n");
-    }
-    const std::string testo = " Non è possibile scrivere il file di uscita ";
-    EXPECT_EQ(messaggi, std::vector({Messaggio{testo, Icona::Critica, "Problema"}}));
 }
+
+TEST_F(Scambio, SenzaIngressoSiCominciaDaiNodiConNulla) {
+    FormTelva.OptElem[2].Seleziona();
+    FormTelva.StringaSel.Caption = "7";
+    TitoloIn = "di prima";
+    std::string lista = "prima";
+    LeggiIngresso(lista);
+    EXPECT_EQ(TitoloIn, "");
+    EXPECT_EQ(lista, "prima");
+    EXPECT_EQ(FormTelva.TipoElemento(), 0);
+    EXPECT_EQ(FormTelva.StringaSel.Caption(), "");
+}
+
+TEST_F(Scambio, LUscitaELaListaMostrata) {
+    struct Caso {
+        const char *mostrata, *scritta;
+    };
+    for (const Caso &c : {Caso{.mostrata = " 1-5,7 ", .scritta = "1-5,7\r\n"},
+                          {.mostrata = "  ", .scritta = " \r\n"},
+                          {.mostrata = "", .scritta = " \r\n"}}) {
+        FormTelva.StringaSel.Caption = c.mostrata;
+        EXPECT_FALSE(Esegui(Salva_Click)) << "the program ends";
+        EXPECT_EQ(codiceFine, 0);
+        EXPECT_EQ(Leggi("TelvaOut.txt"), c.scritta) << '"' << c.mostrata << '"';
+        EXPECT_TRUE(messaggi.empty());
+    }
+}
+
+TEST_F(Scambio, UnUscitaCheNonSiPuoScrivereSiDiceELasciaLaVecchia) {
+    Scrivi("TelvaOut.txt", "vecchia\r\n");
+    DiscoGuasto disco;
+    disco.spazio = 0;
+    FormTelva.StringaSel.Caption = "1-5";
+    EXPECT_FALSE(Esegui(Salva_Click)) << "the program ends";
+    EXPECT_EQ(codiceFine, 0);
+    EXPECT_EQ(Leggi("TelvaOut.txt"), "vecchia\r\n");
+    EXPECT_EQ(messaggi,
+              (std::vector<Messaggio>{{" Non \u00E8 possibile scrivere il file di uscita ",
+                                       Icona::Critica, "Problema"}}));
+}
+
 } // namespace telva::prove

@@ -3,38 +3,153 @@
 #include "sostegno/Banco.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
+#include <functional>
+
 namespace telva::prove {
-TEST_F(Banco, OltreIlLimiteSiAvvisaESiLeggonoLePrimeSchede) {
-    DirLavoro = Radice();
-    CaricaMessaggi();
-    std::vector<Messaggio> attesi;
-    const auto prova = [&](std::string file, auto leggi, auto &letti, int limite, auto voce) {
-        EXPECT_EQ(leggi(), " Impossibile leggere il file " + DirLavoro + "\\" + file);
-        for (const int numero : {0, limite, limite + 1}) {
-            EXPECT_EQ(messaggi, attesi) << file;
-            std::string testo = std::to_string(numero);
-            for (int n = 0; n < numero; ++n) testo += voce;
-            Scrivi(file, testo);
-            EXPECT_TRUE(leggi() == "" && letti == std::min(numero, limite)) << file << numero;
-        }
-    };
-    prova("spessori", LeggiSpessori, NumSpessori, 100, "\n9 7 \"x y\" 2.5 z");
-    attesi.push_back({" Troppe schede di spessore ", Icona::Critica, "Problema"});
-    prova("sezioni_", LeggiSezioni, NumSezioni, 99, "\n1,2\n7\n1 2 3\n4 5 6,7 8 9,0 \"x,y\" 0");
-    attesi.push_back({" Troppe schede di sezione ", Icona::Critica, "Problema"});
-    prova("el_conti.tmp", LeggiElCont, NumElCont, 2000, "\n7 0 \"a, b\"\n0");
-    attesi.push_back({" Troppi elementi continui ", Icona::Critica, "Problema"});
-    EXPECT_EQ(messaggi, attesi);
-    EXPECT_TRUE(MatSpessore[99] == 7 && ValSpessore[99] == 2.5 && NomeElCont[1999] == "a, b");
-    EXPECT_EQ(MaterialeSezione(0) + MaterialeSezione(99) + MaterialeSezione(100), 7);
-    Scrivi("spessori", "2\n1 x 0 2 0\n2 4 0 y 0\n"); // a broken value stays as it was
-    EXPECT_TRUE(LeggiSpessori() == "" && MatSpessore[0] == 7 && MatSpessore[1] == 4);
-    std::string righe;
-    for (const char *e : {"", "1\nx 0 a\n0\n", "1\n1 0 a\n1\n40000", "1\n1 0 a\n301", "1\n1 0"}) {
-        Scrivi("el_conti.tmp", e);
-        EXPECT_TRUE(!Esegui(LeggiElCont) && codiceFine == 1) << e;
-        righe += messaggi.back().testo.substr(("File \\el_conti.tmp, riga " + Radice()).size(), 2);
+
+struct Tabelle : Banco {
+    Tabelle() {
+        DirLavoro = Radice();
+        CaricaMessaggi();
     }
-    EXPECT_EQ(righe, "1:2:4:3:3:");
+    static std::string Ripetuta(int volte, const std::string &scheda) {
+        std::string testo = std::to_string(volte);
+        for (int n = 0; n < volte; ++n) testo += "\n" + scheda;
+        return testo;
+    }
+};
+
+struct Elenco {
+    const char *file;
+    std::function<std::string()> leggi;
+    const std::int16_t &letti;
+    int limite;
+    const char *scheda, *troppe;
+};
+
+TEST_F(Tabelle, OltreIlLimiteSiAvvisaESiLeggonoLePrime) {
+    const Elenco kElenchi[] = {{.file = "spessori",
+                                .leggi = LeggiSpessori,
+                                .letti = NumSpessori,
+                                .limite = 100,
+                                .scheda = "9 7 \"x y\" 2.5 z",
+                                .troppe = " Troppe schede di spessore "},
+                               {.file = "sezioni_",
+                                .leggi = LeggiSezioni,
+                                .letti = NumSezioni,
+                                .limite = 99,
+                                .scheda = "1,2\n7\n1 2 3\n4 5 6,7 8 9,0 \"x,y\" 0",
+                                .troppe = " Troppe schede di sezione "},
+                               {.file = "el_conti.tmp",
+                                .leggi = LeggiElCont,
+                                .letti = NumElCont,
+                                .limite = 2000,
+                                .scheda = "7 0 \"a, b\"\n0",
+                                .troppe = " Troppi elementi continui "}};
+    for (const Elenco &e : kElenchi) {
+        messaggi.clear();
+        EXPECT_EQ(e.leggi(), " Impossibile leggere il file " + DirLavoro + "\\" + e.file);
+        for (const int numero : {0, 1, e.limite}) {
+            Scrivi(e.file, Ripetuta(numero, e.scheda));
+            EXPECT_EQ(e.leggi(), "") << e.file;
+            EXPECT_EQ(e.letti, numero) << e.file;
+            EXPECT_TRUE(messaggi.empty()) << e.file << " with " << numero;
+        }
+        Scrivi(e.file, Ripetuta(e.limite + 1, e.scheda));
+        EXPECT_EQ(e.leggi(), "") << e.file;
+        EXPECT_EQ(e.letti, e.limite) << e.file;
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{e.troppe, Icona::Critica, "Problema"}}));
+    }
+    EXPECT_EQ(MatSpessore[99], 7);
+    EXPECT_EQ(ValSpessore[99], 2.5);
+    EXPECT_EQ(MatSezione[98], 7);
+    EXPECT_EQ(NumeroElCont[1999], 7);
+    EXPECT_EQ(NomeElCont[1999], "a, b");
 }
+
+TEST_F(Tabelle, IlMaterialeDiUnaSchedaCheNonCEZero) {
+    Scrivi("spessori", "2\n1 6 0 2 0\n1 4 0 2 0\n");
+    Scrivi("sezioni_", "1\n"
+                       "0 0 5 0 0 0 0 0 0 0 0 0 0 0 0\n");
+    LeggiSpessori();
+    LeggiSezioni();
+    struct Caso {
+        int scheda, spessore, sezione;
+    };
+    for (const Caso &c : {Caso{.scheda = -1, .spessore = 0, .sezione = 0},
+                          {.scheda = 0, .spessore = 0, .sezione = 0},
+                          {.scheda = 1, .spessore = 6, .sezione = 5},
+                          {.scheda = 2, .spessore = 4, .sezione = 0},
+                          {.scheda = 3, .spessore = 0, .sezione = 0}}) {
+        EXPECT_EQ(MaterialeSpessore(c.scheda), c.spessore) << "thickness card " << c.scheda;
+        EXPECT_EQ(MaterialeSezione(c.scheda), c.sezione) << "section card " << c.scheda;
+    }
+}
+
+TEST_F(Tabelle, UnValoreErratoRestaComEra) {
+    Scrivi("spessori", "2\n1 6 0 2.5 0\n1 4 0 2 0\n");
+    LeggiSpessori();
+    Scrivi("spessori", "2\n1 x 0 y 0\n2 40000 0 3 0\n");
+    LeggiSpessori();
+    EXPECT_EQ(MatSpessore[0], 6) << "x";
+    EXPECT_EQ(ValSpessore[0], 2.5) << "y";
+    EXPECT_EQ(MatSpessore[1], 4) << "40000";
+    EXPECT_EQ(ValSpessore[1], 3);
+}
+
+TEST_F(Tabelle, IlConteggioSiArrotondaENonScendeSottoZero) {
+    struct Caso {
+        const char *conteggio;
+        int letti;
+    };
+    for (const Caso &c : {Caso{.conteggio = "1.5", .letti = 2}, // halves to the even one
+                          {.conteggio = "2.5", .letti = 2},
+                          {.conteggio = "-3", .letti = 0}}) {
+        Scrivi("spessori", std::string(c.conteggio) + "\n1 6 0 2 0\n1 4 0 2 0\n1 4 0 2 0\n");
+        LeggiSpessori();
+        EXPECT_EQ(NumSpessori, c.letti) << c.conteggio;
+    }
+}
+
+TEST_F(Tabelle, UnElementoContinuoHaNumeroNomeEAste) {
+    Scrivi("el_conti.tmp", "2\r\n10 4 \"Trave, bassa\"\r\n3 7 8 9\r\n20 5 citt\xE0\n-1\n");
+    EXPECT_EQ(LeggiElCont(), "");
+    EXPECT_EQ(NumElCont, 2);
+    EXPECT_EQ(NumeroElCont[0], 10);
+    EXPECT_EQ(DatoElCont2[0], 4);
+    EXPECT_EQ(NomeElCont[0], "Trave, bassa");
+    EXPECT_EQ(NumAsteElCont[0], 3);
+    for (int j = 0; j < 3; ++j) EXPECT_EQ(AsteElCont(0, j), 7 + j) << "bar " << j;
+    EXPECT_EQ(NomeElCont[1], "citt\u00E0");
+    EXPECT_EQ(NumAsteElCont[1], 0) << "a count below zero";
+}
+
+TEST_F(Tabelle, UnElementoContinuoErratoSiSpiegaConRigaEMotivo) {
+    struct Caso {
+        const char *file;
+        int riga;
+        const char *motivo;
+    };
+    for (const Caso &c :
+         {Caso{.file = "", .riga = 1, .motivo = "numero intero errato"},
+          {.file = "x", .riga = 1, .motivo = "numero intero errato"},
+          {.file = "1\nx 0 a\n0\n", .riga = 2, .motivo = "numero intero errato"},
+          {.file = "1\n1 0 a\n1\n40000", .riga = 4, .motivo = "numero intero errato"},
+          {.file = "1\n1 0 a\n301",
+          .riga = 3,
+          .motivo = "troppe aste nell'elemento continuo: 301 (al massimo 300)"},
+          {.file = "1\n1 0", .riga = 3, .motivo = "il file finisce prima delle voci annunciate"},
+          {.file = "1\n1 0 a\n2\n5\n",
+          .riga = 5,
+          .motivo = "il file finisce prima delle voci annunciate"}}) {
+        messaggi.clear();
+        Scrivi("el_conti.tmp", c.file);
+        EXPECT_FALSE(Esegui([] { LeggiElCont(); })) << '"' << c.file << '"';
+        EXPECT_EQ(codiceFine, 1) << '"' << c.file << '"';
+        const std::string testo = "File " + DirLavoro + "\\el_conti.tmp, riga " +
+                                  std::to_string(c.riga) + ": " + c.motivo;
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Icona::Critica, "ERRORE"}}));
+    }
+}
+
 } // namespace telva::prove

@@ -159,4 +159,20 @@ TEST_F(Scritture, QuelCheScrivonoInTreInsiemeEUnoDeiTreIntero) {
     }
 }
 
+TEST_F(Scritture, SiLeggeUnFileENonUnaCartella) {
+    Scrivi("cartella/f.txt", "a\r\n");
+    struct {
+        const char *nome, *contenuto;
+        bool eUnFile;
+    } constexpr kNomi[] = {{.nome = "\\cartella\\f.txt", .contenuto = "a\r\n", .eUnFile = true},
+                           {.nome = "\\cartella", .contenuto = "", .eUnFile = false},
+                           {.nome = "\\cartella\\assente", .contenuto = "", .eUnFile = false}};
+    for (const auto &n : kNomi) {
+        std::string letto = "prima";
+        EXPECT_EQ(LeggiFile(Radice() + n.nome, letto), n.eUnFile) << n.nome;
+        EXPECT_EQ(EsisteFile(Radice() + n.nome), n.eUnFile) << n.nome;
+        EXPECT_EQ(letto, n.contenuto) << n.nome;
+    }
+}
+
 } // namespace telva::prove

@@ -153,4 +153,61 @@ TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
               (std::vector<Numero>{{"1", 1}, {"2.5", 1}, {"3", 2}}));
 }
 
+TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {
+    struct {
+        const char *testo;
+        double valore;
+    } constexpr kNumeri[] = {{.testo = "00012", .valore = 12},
+                             {.testo = "+7", .valore = 7},
+                             {.testo = "-7", .valore = -7},
+                             {.testo = ".5", .valore = 0.5},
+                             {.testo = "5.", .valore = 5},
+                             {.testo = "-0.1", .valore = -0.1},
+                             {.testo = "123456789012345", .valore = 123456789012345},
+                             {.testo = "1234567890123456", .valore = 1234567890123456},
+                             {.testo = "9007199254740993", .valore = 9007199254740992},
+                             {.testo = "123456789.012345", .valore = 123456789.012345},
+                             {.testo = "0.30000000000000004", .valore = 0.30000000000000004},
+                             {.testo = "1.5D2", .valore = 150},
+                             {.testo = "1e3", .valore = 1000}};
+    for (const auto &n : kNumeri) {
+        FileTesto file = Aperto(n.testo);
+        double letto = -1;
+        EXPECT_EQ(file.LeggiNumero(letto), Lettura::Riuscita) << n.testo;
+        EXPECT_EQ(letto, n.valore) << n.testo;
+    }
+}
+
+TEST(FileTesto, UnNumeroMancatoLasciaQuelloDiPrima) {
+    FileTesto file = Aperto("x");
+    double valore = 5;
+    EXPECT_EQ(file.LeggiNumero(valore), Lettura::Malformata);
+    EXPECT_EQ(valore, 5);
+    EXPECT_EQ(file.LeggiNumero(valore), Lettura::FineFile);
+    EXPECT_EQ(valore, 5);
+}
+
+TEST(FileTesto, FinireLaRigaNonMangiaLaSeguente) {
+    for (const char *byte : {"1 2 3\nb", "1\nb", "1\r\nb", "1,\nb", "1 \nb"}) {
+        FileTesto file = Aperto(byte);
+        double numero = 0;
+        std::string riga;
+        file.LeggiNumero(numero);
+        file.FinisciRiga();
+        file.LeggiRigaTesto(riga);
+        EXPECT_EQ(riga, "b") << byte;
+    }
+}
+
+TEST(FileTesto, SaltareUnValoreLoSaltaIntero) {
+    for (const char *saltato : {"7", "x", "\"a, b\"", "  7", "\r\n 7", "\n\n\"a\"", "-"})
+        for (const char *fine : {" 5\n", " , 5\n", "\r\n5"}) {
+            FileTesto file = Aperto(std::string(saltato) + fine);
+            double numero = 0;
+            file.SaltaValore();
+            EXPECT_EQ(file.LeggiNumero(numero), Lettura::Riuscita) << saltato << fine;
+            EXPECT_EQ(numero, 5) << "after \"" << saltato << fine << '"';
+        }
+}
+
 } // namespace telva::prove

@@ -1,15 +1,100 @@
 #include "platform/numeri.h"
 #include <gtest/gtest.h>
+#include <limits>
+
 namespace telva::prove {
-TEST(Numeri, OgniRegolaDiLetturaEDiArrotondamento) {
-    std::string letti; // value, "!" when the text is nothing but that number
-    for (const char *testo : {"", " 12.5\t", "12abc", "1 2\t3", "- .5x", "+7", "5.", ".", "1D+2",
-                              "2e+", "+-1", "nan", "-inf", "0x10", "1,5", "1e-400", "-1e-7"})
-        letti += TestoNumero(ValoreNumerico(testo)) + (NumeroStretto(testo) ? "! " : " ");
-    EXPECT_EQ(letti, "0 12.5! 12 123 -0.5 7! 5! 0 100! 2 0 0 0 0 1 0! -0.0000001! ");
-    letti.clear();
-    for (const double v : {0.5, 1.5, 2.5, -0.5, -1.5, -2.5, 0.49999999999999994, 2.5000001})
-        letti += TestoNumero(ArrotondaPari(v)) + "/" + TestoNumero(ParteIntera(v)) + " ";
-    EXPECT_EQ(letti, "0/0 2/1 2/2 0/-1 -2/-2 -2/-3 0/0 3/2 ");
+
+TEST(Numeri, ValoreNumericoLeggeIlPrefissoENumeroStrettoSoloIlTuttoNumero) {
+    constexpr double kMassimo = std::numeric_limits<double>::max();
+    struct Caso {
+        const char *testo;
+        double prefisso;
+        bool tuttoNumero;
+    };
+    for (const Caso &c : {Caso{.testo = "", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "-", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "+", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = ".", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "-.", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "nan", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "-inf", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "+-1", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "12", .prefisso = 12, .tuttoNumero = true},
+                          {.testo = " 12.5\t", .prefisso = 12.5, .tuttoNumero = true},
+                          {.testo = "+7", .prefisso = 7, .tuttoNumero = true},
+                          {.testo = "-7", .prefisso = -7, .tuttoNumero = true},
+                          {.testo = "5.", .prefisso = 5, .tuttoNumero = true},
+                          {.testo = "-.5", .prefisso = -0.5, .tuttoNumero = true},
+                          {.testo = "1d3", .prefisso = 1000, .tuttoNumero = true},
+                          {.testo = "1D+2", .prefisso = 100, .tuttoNumero = true},
+                          {.testo = "+1D2", .prefisso = 100, .tuttoNumero = true},
+                          {.testo = "1E-2", .prefisso = 0.01, .tuttoNumero = true},
+                          {.testo = "2e+", .prefisso = 2, .tuttoNumero = false},
+                          {.testo = "2e", .prefisso = 2, .tuttoNumero = false},
+                          {.testo = "12abc", .prefisso = 12, .tuttoNumero = false},
+                          {.testo = "1 2\t3", .prefisso = 123, .tuttoNumero = false},
+                          {.testo = "- .5x", .prefisso = -0.5, .tuttoNumero = false},
+                          {.testo = "0x10", .prefisso = 0, .tuttoNumero = false},
+                          {.testo = "1,5", .prefisso = 1, .tuttoNumero = false},
+                          {.testo = "1.2.3", .prefisso = 1.2, .tuttoNumero = false},
+                          {.testo = "1e-400", .prefisso = 0, .tuttoNumero = true},
+                          {.testo = "0.001e-330", .prefisso = 0, .tuttoNumero = true},
+                          {.testo = "1e999", .prefisso = kMassimo, .tuttoNumero = false},
+                          {.testo = "-1e999", .prefisso = -kMassimo, .tuttoNumero = false},
+                          {.testo = "1e99999999999", .prefisso = kMassimo, .tuttoNumero = false},
+                          {.testo = "1e-99999999999", .prefisso = 0, .tuttoNumero = true}}) {
+        EXPECT_EQ(ValoreNumerico(c.testo), c.prefisso) << "prefix of \"" << c.testo << '"';
+        const std::optional<double> stretto = NumeroStretto(c.testo);
+        EXPECT_EQ(stretto.has_value(), c.tuttoNumero) << "the whole of \"" << c.testo << '"';
+        if (stretto && c.tuttoNumero) {
+            EXPECT_EQ(*stretto, c.prefisso) << "the whole of \"" << c.testo << '"';
+        }
+    }
 }
+
+TEST(Numeri, LeMetaSiArrotondanoAlPariELaParteInteraScende) {
+    struct Caso {
+        double valore, vicino, sotto;
+    };
+    for (const Caso &c : {Caso{.valore = 0.5, .vicino = 0, .sotto = 0},
+                          {.valore = 1.5, .vicino = 2, .sotto = 1},
+                          {.valore = 2.5, .vicino = 2, .sotto = 2},
+                          {.valore = 2.5000001, .vicino = 3, .sotto = 2},
+                          {.valore = 0.49999999999999994, .vicino = 0, .sotto = 0},
+                          {.valore = -0.5, .vicino = 0, .sotto = -1},
+                          {.valore = -1.5, .vicino = -2, .sotto = -2},
+                          {.valore = -2.5, .vicino = -2, .sotto = -3}}) {
+        EXPECT_EQ(ArrotondaPari(c.valore), c.vicino) << "nearest to " << c.valore;
+        EXPECT_EQ(ParteIntera(c.valore), c.sotto) << "integer part of " << c.valore;
+    }
+}
+
+TEST(Numeri, SediciBitFinoAgliEstremi) {
+    struct Caso {
+        double valore;
+        std::optional<std::int16_t> atteso;
+    };
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    for (const Caso &c : {Caso{.valore = 32767, .atteso = 32767},
+                          {.valore = -32768, .atteso = -32768},
+                          {.valore = 32768, .atteso = {}},
+                          {.valore = -32769, .atteso = {}},
+                          {.valore = kNan, .atteso = {}}})
+        EXPECT_EQ(Intero16(c.valore), c.atteso) << c.valore;
+}
+
+TEST(Numeri, UnNumeroSiScriveInDecimaliESenzaEsponente) {
+    struct Caso {
+        double valore;
+        const char *testo;
+    };
+    for (const Caso &c : {Caso{.valore = 1, .testo = "1"},
+                          {.valore = -0.0, .testo = "0"},
+                          {.valore = 12.5, .testo = "12.5"},
+                          {.valore = -1e-7, .testo = "-0.0000001"},
+                          {.valore = 1e21, .testo = "1000000000000000000000"},
+                          {.valore = 0.1, .testo = "0.1"}})
+        EXPECT_EQ(TestoNumero(c.valore), c.testo);
+}
+
 } // namespace telva::prove

@@ -1,49 +1,228 @@
-// Pixels of the pens, at random: exact clipping, and the plain geometric definition of each shape.
+// Shapes drawn at random against the plain geometric definition of each of them.
 #include "platform/superficie.h"
 #include <cmath>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <random>
 
-TEST(Superficie, DefinizioneRitaglioEVerso) {
-    std::mt19937 sorte(1);
-    const auto fra = [&](int da, int a) { return std::uniform_int_distribution(da, a)(sorte); };
-    telva::Superficie parte, tutta;
-    tutta.Ridimensiona(260, 260);
-    for (int giro = 0; giro < 4000; ++giro) {
-        const int che = giro % 4, penna = fra(2, 12), raggio = fra(1, 25), px = fra(-20, 60),
-                  py = fra(-20, 60), passo = giro % 8 == 4 ? 1 << 21 : 1; // some ends far away
-        const int dx = fra(-60, 60) * passo * !!(giro % 5),
-                  dy = fra(-60, 60) * passo * !!(giro % 7);
-        const telva::Tratteggio t{static_cast<std::uint32_t>(sorte()), fra(1, 32)};
-        const auto disegna = [&](telva::Superficie &s, int m, int verso) { // m: margin
-            const telva::Pixel a{px + m - dx * verso, py + m - dy * verso},
-                b{px + m + dx * verso, py + m + dy * verso};
-            s.Riempi(0);
-            if (che == 0) s.Linea(a, b, 7);
-            if (che == 1) s.LineaTratteggiata(a, b, 7, t);
-            if (che == 2) s.LineaLarga(a, b, penna, 7);
-            if (che == 3) s.Cerchio({px + m, py + m}, raggio, penna - 1, 7);
-        };
-        parte.Ridimensiona(fra(1, 40), fra(1, 40));
-        disegna(parte, 0, 1);
-        disegna(tutta, 100, -1); // whole, and from the other end
-        const double c = penna % 2 == 0 ? -0.5 : 0, l2 = double(dx) * dx + double(dy) * dy;
-        const int lungo = std::max(std::abs(dx), std::abs(dy)), larga = parte.Larghezza();
-        for (int n = 0; n < parte.Altezza() * larga; ++n) {
-            const int y = n / larga, x = n % larga, qx = x - px, qy = y - py;
-            const bool acceso = parte.Leggi(x, y) != 0;
-            ASSERT_TRUE(passo > 1 || acceso == (tutta.Leggi(x + 100, y + 100) != 0)) << giro;
-            double oltre = 0; // how far beyond the reach of the shape's middle line
-            if (che == 0) {   // half a pixel across the longer direction, in integers
-                const bool entro = std::abs(std::abs(dx) == lungo ? qx : qy) <= lungo;
-                oltre = 2 * std::abs(double(qx) * dy - double(qy) * dx) - (entro ? lungo : -1);
-            } else if (che == 2) { // the middle of an even pen lies half a pixel up and left
-                const double ex = qx - c, ey = qy - c;
-                const double k = l2 > 0 ? std::clamp((ex * dx + ey * dy) / l2, -1.0, 1.0) : 0;
-                oltre = std::hypot(ex - k * dx, ey - k * dy) - penna / 2.0;
-            } else if (che == 3)
-                oltre = std::abs(std::hypot(qx, qy) - raggio) - (penna - 1) / 2.0;
-            ASSERT_TRUE(che == 1 || (acceso ? oltre <= 1e-6 : oltre >= -1e-6)) << giro << ": " << n;
+namespace telva::prove {
+namespace {
+
+constexpr std::uint32_t kColore = 7;
+constexpr int kMargine = 100; // around the part that is compared with the whole
+
+enum class Genere { Linea, Tratteggiata, Larga, Cerchio };
+constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "circle"};
+
+struct Forma {
+    Genere genere;
+    Pixel a, b; // the ends; of a circle: its centre, twice
+    int penna, raggio;
+    Tratteggio tratteggio;
+
+    void Disegna(Superficie &s, int margine = 0) const {
+        const Pixel da{a.x + margine, a.y + margine}, fino{b.x + margine, b.y + margine};
+        s.Riempi(0);
+        switch (genere) {
+        case Genere::Linea: s.Linea(da, fino, kColore); break;
+        case Genere::Tratteggiata: s.LineaTratteggiata(da, fino, kColore, tratteggio); break;
+        case Genere::Larga: s.LineaLarga(da, fino, penna, kColore); break;
+        case Genere::Cerchio: s.Cerchio(da, raggio, penna, kColore); break;
         }
     }
+    Forma Rovesciata() const {
+        Forma r = *this;
+        std::swap(r.a, r.b);
+        return r;
+    }
+    // How far the pixel lies beyond the shape's reach; negative inside.
+    double Oltre(Pixel p) const {
+        return genere == Genere::Linea     ? OltreLaLinea(p)
+               : genere == Genere::Cerchio ? OltreIlCerchio(p)
+                                           : OltreLaBanda(p);
+    }
+
+  private:
+    // Seen from the middle of the line, where even far ends leave exact numbers.
+    double MezzoX() const { return (double(a.x) + b.x) / 2; }
+    double MezzoY() const { return (double(a.y) + b.y) / 2; }
+    // Half a pixel across the longer direction, between the ends; doubled.
+    double OltreLaLinea(Pixel p) const {
+        const double dx = b.x - a.x, dy = b.y - a.y, qx = p.x - MezzoX(), qy = p.y - MezzoY();
+        const bool lungoX = std::abs(dx) >= std::abs(dy);
+        const double lungo = std::abs(lungoX ? dx : dy);
+        if (2 * std::abs(lungoX ? qx : qy) > lungo) return 1;
+        return 2 * std::abs(qx * dy - qy * dx) - lungo;
+    }
+    // The middle of an even pen lies half a pixel up and left.
+    double OltreLaBanda(Pixel p) const {
+        const double centro = penna % 2 == 0 ? -0.5 : 0;
+        const double dx = b.x - a.x, dy = b.y - a.y, l2 = dx * dx + dy * dy;
+        const double qx = p.x - MezzoX() - centro, qy = p.y - MezzoY() - centro;
+        const double k = l2 > 0 ? std::clamp((qx * dx + qy * dy) / l2, -0.5, 0.5) : 0;
+        return std::hypot(qx - k * dx, qy - k * dy) - penna / 2.0;
+    }
+    double OltreIlCerchio(Pixel p) const {
+        return std::abs(std::hypot(p.x - a.x, p.y - a.y) - raggio) - penna / 2.0;
+    }
+};
+
+std::ostream &operator<<(std::ostream &s, const Forma &f) {
+    return s << kNomi[static_cast<int>(f.genere)] << " from (" << f.a.x << "," << f.a.y << ") to ("
+             << f.b.x << "," << f.b.y << "), pen " << f.penna << ", radius " << f.raggio;
 }
+
+struct SuperficieProva : ::testing::Test {
+    std::mt19937 sorte{1};
+
+    int Fra(int da, int a) { return std::uniform_int_distribution(da, a)(sorte); }
+
+    // Around or beside a surface of 40 pixels; now and then upright, level or a single point.
+    Forma FormaACaso(Genere genere) {
+        const Pixel a{Fra(-80, 120), Fra(-80, 120)};
+        const bool livellata = Fra(0, 6) == 0, ritta = Fra(0, 6) == 0;
+        Pixel b{ritta ? a.x : a.x + Fra(-120, 120), livellata ? a.y : a.y + Fra(-120, 120)};
+        b = {std::clamp(b.x, -80, 120), std::clamp(b.y, -80, 120)};
+        if (genere == Genere::Cerchio)
+            return {genere, {a.x / 2, a.y / 2}, {a.x / 2, a.y / 2}, Fra(1, 11), Fra(1, 25), {}};
+        const Tratteggio t{static_cast<std::uint32_t>(sorte()), Fra(1, 32)};
+        return {genere, a, b, Fra(2, 12), 0, t};
+    }
+    // Says which pixel of the surface is not as the rule wants it.
+    template <class Regola>
+    static ::testing::AssertionResult OgniPixel(const Superficie &s, const Forma &f,
+                                                Regola giusto) {
+        for (int y = 0; y < s.Altezza(); ++y)
+            for (int x = 0; x < s.Larghezza(); ++x)
+                if (const bool acceso = s.Leggi(x, y) == kColore; !giusto(Pixel{x, y}, acceso))
+                    return ::testing::AssertionFailure()
+                           << f << " on " << s.Larghezza() << " x " << s.Altezza() << ": pixel ("
+                           << x << "," << y << ") is " << (acceso ? "lit" : "dark");
+        return ::testing::AssertionSuccess();
+    }
+    static ::testing::AssertionResult SecondoDefinizione(const Superficie &s, const Forma &f) {
+        return OgniPixel(s, f, [&](Pixel p, bool acceso) {
+            return acceso ? f.Oltre(p) <= 1e-6 : f.Oltre(p) >= -1e-6;
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(SuperficieProva, UnaFormaRitagliataAccendeGliStessiPixelDiQuellaIntera) {
+    Superficie parte, intera;
+    intera.Ridimensiona(40 + 2 * kMargine, 40 + 2 * kMargine);
+    for (const Genere genere :
+         {Genere::Linea, Genere::Tratteggiata, Genere::Larga, Genere::Cerchio})
+        for (int giro = 0; giro < 1000; ++giro) {
+            const Forma f = FormaACaso(genere);
+            parte.Ridimensiona(Fra(1, 40), Fra(1, 40));
+            f.Disegna(parte);
+            f.Disegna(intera, kMargine);
+            ASSERT_TRUE(OgniPixel(parte, f, [&](Pixel p, bool acceso) {
+                return acceso == (intera.Leggi(p.x + kMargine, p.y + kMargine) == kColore);
+            }));
+        }
+}
+
+TEST_F(SuperficieProva, UnaLineaELaStessaDallAltroCapo) {
+    Superficie s, rovescia;
+    s.Ridimensiona(40, 40);
+    rovescia.Ridimensiona(40, 40);
+    for (const Genere genere : {Genere::Linea, Genere::Tratteggiata, Genere::Larga})
+        for (int giro = 0; giro < 500; ++giro) {
+            const Forma f = FormaACaso(genere);
+            f.Disegna(s);
+            f.Rovesciata().Disegna(rovescia);
+            ASSERT_TRUE(OgniPixel(s, f, [&](Pixel p, bool acceso) {
+                return acceso == (rovescia.Leggi(p.x, p.y) == kColore);
+            }));
+        }
+}
+
+TEST_F(SuperficieProva, OgniFormaCopreQuelCheDiceLaSuaDefinizione) {
+    Superficie s;
+    s.Ridimensiona(40, 33);
+    for (const Genere genere : {Genere::Linea, Genere::Larga, Genere::Cerchio})
+        for (int giro = 0; giro < 1000; ++giro) {
+            const Forma f = FormaACaso(genere);
+            f.Disegna(s);
+            ASSERT_TRUE(SecondoDefinizione(s, f));
+        }
+}
+
+TEST_F(SuperficieProva, AncheConGliEstremiLontanissimi) {
+    Superficie s;
+    s.Ridimensiona(40, 33);
+    for (const Genere genere : {Genere::Linea, Genere::Larga})
+        for (int giro = 0; giro < 500; ++giro) {
+            Forma f = FormaACaso(genere);
+            const int dx = Fra(-60, 60) * (1 << 21), dy = Fra(-60, 60) * (1 << 21);
+            const Pixel mezzo{Fra(0, 40), Fra(0, 33)};
+            f.a = {mezzo.x - dx, mezzo.y - dy};
+            f.b = {mezzo.x + dx, mezzo.y + dy};
+            f.Disegna(s);
+            ASSERT_TRUE(SecondoDefinizione(s, f));
+        }
+}
+
+TEST_F(SuperficieProva, IlTrattoComincaDalCapoASinistraOInAlto) {
+    struct Caso {
+        const char *che;
+        Pixel a, b;
+        Pixel passo; // from one pixel of the line to the next
+    };
+    const Tratteggio t{.bit = 0b1101, .periodo = 5}; // lit, dark, lit, lit, dark
+    for (const Caso &c : {Caso{.che = "to the right", .a = {2, 3}, .b = {13, 3}, .passo = {1, 0}},
+                          {.che = "to the left", .a = {13, 3}, .b = {2, 3}, .passo = {1, 0}},
+                          {.che = "downwards", .a = {2, 3}, .b = {2, 14}, .passo = {0, 1}},
+                          {.che = "upwards", .a = {2, 14}, .b = {2, 3}, .passo = {0, 1}},
+                          {.che = "slanting", .a = {2, 3}, .b = {13, 14}, .passo = {1, 1}}}) {
+        Superficie s;
+        s.Ridimensiona(20, 20);
+        s.Riempi(0);
+        s.LineaTratteggiata(c.a, c.b, kColore, t);
+        std::string visto;
+        for (int n = 0; n < 12; ++n)
+            visto += s.Leggi(2 + n * c.passo.x, 3 + n * c.passo.y) == kColore ? '#' : '.';
+        EXPECT_EQ(visto, "#.##.#.##.#.") << c.che;
+    }
+}
+
+TEST_F(SuperficieProva, UnaLetteraTimbrataEQuellaTracciata) {
+    Superficie timbrata, tracciata;
+    for (int giro = 0; giro < 500; ++giro) {
+        Tratti lettera;
+        double x = 0, y = 0;
+        for (int tratto = Fra(0, 6); tratto > 0; --tratto) {
+            if (Fra(0, 2) == 0) x = Fra(-200, 900) / 37.0, y = Fra(-900, 300) / 37.0;
+            const double x2 = Fra(-200, 900) / 37.0, y2 = Fra(-900, 300) / 37.0;
+            lettera.Aggiungi(x, y, x2, y2);
+            x = x2, y = y2;
+        }
+        const Pixel origine{Fra(-30, 70), Fra(-30, 70)};
+        const double fx = Fra(0, 3) / 4.0, fy = Fra(0, 3) / 4.0;
+        for (Superficie *s : {&timbrata, &tracciata}) {
+            s->Ridimensiona(50, 50);
+            s->Riempi(0);
+        }
+        Timbro timbro;
+        timbro.Riempi(lettera, fx, fy);
+        timbrata.Timbra(timbro, origine, kColore);
+        tracciata.LineeTratti(lettera, origine.x + fx, origine.y + fy, kColore);
+        for (int y1 = 0; y1 < 50; ++y1)
+            for (int x1 = 0; x1 < 50; ++x1)
+                ASSERT_EQ(timbrata.Leggi(x1, y1), tracciata.Leggi(x1, y1))
+                    << "letter " << giro << " at (" << origine.x + fx << "," << origine.y + fy
+                    << "): pixel (" << x1 << "," << y1 << ")";
+    }
+}
+
+TEST_F(SuperficieProva, LaMisuraNonScendeSottoUnPixel) {
+    Superficie s;
+    s.Ridimensiona(0, -3);
+    EXPECT_EQ(s.Larghezza(), 1);
+    EXPECT_EQ(s.Altezza(), 1);
+}
+
+} // namespace telva::prove

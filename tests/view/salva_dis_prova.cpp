@@ -1,47 +1,235 @@
 #include "model/legfont_cond.h"
+#include "platform/disegno.h"
 #include "sostegno/Banco.h"
+#include "startup/direttori_cond.h"
+#include "view/colori.h"
 #include "view/salva_dis_cond.h"
-using namespace telva;
-using namespace telva::prove;
+#include <algorithm>
 
-TEST_F(Banco, ListaDiDisegnoETesti) {
-    const auto avviso = [this](const char *t) {
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{t, Icona::Esclamazione, "Problema"}}));
+namespace telva::prove {
+
+struct SalvaDis : Banco {
+    void Avvisa(const char *testo) {
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Icona::Esclamazione, "Problema"}}));
         messaggi.clear();
-    };
-    DisLinea(0, 0, 1, 0, std::int16_t{7});
-    DisLinea(0.00009, 0, 1, 0.00009);
-    DisLinea(5, 5, 5.00009, 5.00009); // nothing
-    DisLinea(0.00011, 0, 1, 0);
-    EXPECT_EQ(NumElemDis * 100 + NumCoordDis * 10 + ElemDisColore[0], 337);
-    for (const auto &[distanza, posto] : {std::pair{30, 0}, {31, 32}, {40, 41}}) {
-        AzzeraDisegno();
-        for (int n = 0; n <= distanza; ++n) AggiungiCoordinata(n, 0);
-        EXPECT_EQ(AggiungiCoordinata(0, 0), posto);
     }
-    for (int n = NumCoordDis; n < 49999; ++n)
-        ASSERT_TRUE(AggiungiCoordinata(n, 0) == n && messaggi.empty());
-    EXPECT_EQ(AggiungiCoordinata(49999, 0), 49999);
-    avviso(" Numero eccessivo di coordinate ");
-    DisLinea(49999, 0, -1, 0); // its second point is refused
-    DisLinea(-1, 0, 49999, 0); // only its first
-    EXPECT_EQ(NumElemDis * 10 + ElemDisIni[0], 9);
-    AzzeraDisegno();
-    for (int n = 0; n < 50010; ++n) DisLinea(n % 2, 0, 2, 0);
-    EXPECT_EQ(NumElemDis, 50000);
-    avviso(" Numero eccessivo di elementi di disegno ");
-    SpazioFont = 50; // narrows the glyph, not the step
-    NumPtFont['A'] = 2, FontX('A', 0) = 0, FontX('A', 1) = FontY('A', 1) = 99, FontY('A', 0) = 30;
-    const auto testo = [](const char *t, std::int16_t angolo, double base, double altezza) {
-        std::string punti;
-        AzzeraDisegno(), DisTesto(t, 100.001, 200.001, angolo, base, altezza);
-        for (int c = 0; c < 2 * NumCoordDis; ++c)
-            punti += std::to_string((c % 2 ? CoordDisY : CoordDisX)[c / 2]).substr(0, 5) + " ";
-        return punti;
+};
+
+TEST_F(SalvaDis, UnSegmentoSottoUnDecimillesimoNonSiRegistra) {
+    struct Caso {
+        double x1, y1, x2, y2;
+        bool registrato;
     };
-    EXPECT_EQ(testo("AA", 0, 10, 20), "100.0 200.0 105.0 220.0 110.0 200.0 115.0 220.0 ");
-    EXPECT_EQ(testo("AA", 90, 10, 20), "100.0 200.0 80.00 205.0 100.0 210.0 80.00 215.0 ");
-    EXPECT_EQ(testo("\xC3\xA0\x01\x41", 0, 10, 20), "120.0 200.0 125.0 220.0 "); // steps
-    EXPECT_EQ(testo("\xD0\x96\x41", 0, 10, 20), ""); // not in the code page: the end
-    EXPECT_EQ(testo("A", 0, 0, 20) + testo("A", 0, 10, 0), "");
+    for (const Caso &c : {Caso{.x1 = 0, .y1 = 0, .x2 = 1, .y2 = 0, .registrato = true},
+                          {.x1 = 5, .y1 = 5, .x2 = 5.00009, .y2 = 5.00009, .registrato = false},
+                          {.x1 = 5, .y1 = 5, .x2 = 5.00011, .y2 = 5, .registrato = true},
+                          {.x1 = 5, .y1 = 5, .x2 = 5, .y2 = 4.99989, .registrato = true}}) {
+        AzzeraDisegno();
+        DisLinea(c.x1, c.y1, c.x2, c.y2);
+        EXPECT_EQ(NumElemDis, c.registrato ? 1 : 0) << "to (" << c.x2 << "," << c.y2 << ")";
+    }
 }
+
+TEST_F(SalvaDis, IPuntiViciniSonoLoStesso) {
+    DisLinea(0, 0, 1, 0);
+    DisLinea(0.00009, 0, 1, 0.00009);
+    EXPECT_EQ(NumElemDis, 2);
+    EXPECT_EQ(NumCoordDis, 2) << "the ends are shared";
+    EXPECT_EQ(ElemDisIni[1], ElemDisIni[0]);
+    EXPECT_EQ(ElemDisFin[1], ElemDisFin[0]);
+    DisLinea(0.00011, 0, 1, 0);
+    EXPECT_EQ(NumCoordDis, 3);
+}
+
+TEST_F(SalvaDis, UnSegmentoHaColoreTipoEScostamentoCorrenti) {
+    ColoreDisCorrente = 4, TipoDisCorrente = 2, OffsetDisX = 10, OffsetDisY = 20;
+    DisLinea(1, 2, 3, 4);
+    DisLinea(1, 2, 3, 4, std::int16_t{7});
+    EXPECT_EQ(ElemDisColore[0], 4);
+    EXPECT_EQ(ElemDisColore[1], 7);
+    EXPECT_EQ(ElemDisTipo[0], 2);
+    EXPECT_EQ(CoordDisX[ElemDisIni[0]], 11);
+    EXPECT_EQ(CoordDisY[ElemDisIni[0]], 22);
+    EXPECT_EQ(CoordDisX[ElemDisFin[0]], 13);
+    EXPECT_EQ(CoordDisY[ElemDisFin[0]], 24);
+}
+
+TEST_F(SalvaDis, UnPuntoSiCercaFraGliUltimiTrentuno) {
+    struct Caso {
+        int dopo; // points added after the one looked for
+        bool ritrovato;
+    };
+    for (const Caso &c : {Caso{.dopo = 29, .ritrovato = true},
+                          {.dopo = 30, .ritrovato = true},
+                          {.dopo = 31, .ritrovato = false},
+                          {.dopo = 40, .ritrovato = false}}) {
+        AzzeraDisegno();
+        for (int n = 0; n <= c.dopo; ++n) AggiungiCoordinata(n, 0);
+        EXPECT_EQ(AggiungiCoordinata(0, 0), c.ritrovato ? 0 : c.dopo + 1) << c.dopo << " after it";
+    }
+}
+
+TEST_F(SalvaDis, LaTabellaDelleCoordinatePienaSiAvvisaERifiuta) {
+    for (int n = 0; n < 49999; ++n) ASSERT_EQ(AggiungiCoordinata(n, 0), n);
+    EXPECT_TRUE(messaggi.empty());
+    EXPECT_EQ(AggiungiCoordinata(49999, 0), 49999) << "the last place";
+    Avvisa(" Numero eccessivo di coordinate ");
+    EXPECT_EQ(AggiungiCoordinata(-1, 0), -1);
+    EXPECT_EQ(AggiungiCoordinata(49999, 0), 49999) << "a known point";
+    DisLinea(49999, 0, -1, 0);
+    EXPECT_EQ(NumElemDis, 0) << "its second point is refused";
+}
+
+TEST_F(SalvaDis, LaTabellaDegliElementiPienaSiAvvisaERifiuta) {
+    for (int n = 0; n < 49999; ++n) DisLinea(n % 2, 0, 2, 0);
+    EXPECT_TRUE(messaggi.empty());
+    DisLinea(0, 0, 2, 0);
+    Avvisa(" Numero eccessivo di elementi di disegno ");
+    DisLinea(0, 0, 2, 0);
+    EXPECT_EQ(NumElemDis, 50000);
+    EXPECT_TRUE(messaggi.empty()) << "told once";
+}
+
+TEST_F(SalvaDis, ITestiSiRegistranoFinchePossono) {
+    ModoDisTesto = "gendis";
+    OffsetDisX = 5, OffsetDisY = 6;
+    DisTesto("Prova", 1, 2, 0, 10, 20);
+    ASSERT_EQ(TestiDis.size(), 1u);
+    EXPECT_EQ(TestiDis[0].testo, "Prova");
+    EXPECT_EQ(TestiDis[0].x, 6);
+    EXPECT_EQ(TestiDis[0].y, 8);
+    EXPECT_EQ(NumElemDis, 0) << "no strokes";
+    for (int n = 1; n < 14999; ++n) DisTesto("a", 1, 2, 0, 10, 20);
+    EXPECT_TRUE(messaggi.empty());
+    DisTesto("ultimo", 1, 2, 0, 10, 20);
+    Avvisa(" Numero eccessivo di testi ");
+    DisTesto("oltre", 1, 2, 0, 10, 20);
+    EXPECT_EQ(TestiDis.size(), 15000u);
+    EXPECT_EQ(TestiDis.back().testo, "ultimo");
+}
+
+TEST_F(SalvaDis, UnColoreFuoriTabellaEBianco) {
+    EXPECT_EQ(ColoreRGB(0), 0u);
+    EXPECT_EQ(ColoreRGB(3), 0x0000FFu) << "red, as 0x00BBGGRR";
+    EXPECT_EQ(ColoreRGB(9), 0x46A3FFu);
+    for (const int codice : {-1, 10, 1000}) EXPECT_EQ(ColoreRGB(codice), 0xFFFFFFu) << codice;
+}
+
+// A glyph of one stroke, from the base line at the left to the upper right corner of its cell.
+struct TestiProva : SalvaDis {
+    TestiProva() {
+        SpazioFont = 50; // narrows the glyph, not the step
+        NumPtFont['A'] = 2;
+        FontX('A', 0) = 0, FontY('A', 0) = 30;
+        FontX('A', 1) = 99, FontY('A', 1) = 99;
+    }
+    using Punti = std::vector<std::array<double, 2>>;
+    static void Scrive(const char *che, const char *testo, std::int16_t angolo, double base,
+                       double altezza, const Punti &attesi) {
+        AzzeraDisegno();
+        DisTesto(testo, 100.001, 200.001, angolo, base, altezza);
+        ASSERT_EQ(NumCoordDis, static_cast<int>(attesi.size())) << che;
+        for (int k = 0; k < NumCoordDis; ++k) {
+            EXPECT_NEAR(CoordDisX[k], attesi[static_cast<std::size_t>(k)][0] + 0.001, 1e-9) << che;
+            EXPECT_NEAR(CoordDisY[k], attesi[static_cast<std::size_t>(k)][1] + 0.001, 1e-9) << che;
+        }
+    }
+};
+
+TEST_F(TestiProva, OgniCarattereAvanzaDiUnaBase) {
+    Scrive("level", "AA", 0, 10, 20, {{100, 200}, {105, 220}, {110, 200}, {115, 220}});
+    Scrive("upwards", "AA", 90, 10, 20, {{100, 200}, {80, 205}, {100, 210}, {80, 215}});
+    Scrive("without width", "A", 0, 0, 20, {});
+    Scrive("without height", "A", 0, 10, 0, {});
+}
+
+TEST_F(TestiProva, UnCarattereSenzaTrattiAvanzaEUnoFuoriPaginaFinisce) {
+    Scrive("accented and control", "\u00E0\x01\x41", 0, 10, 20, {{120, 200}, {125, 220}});
+    Scrive("no character of the page", "\u0416\x41", 0, 10, 20, {});
+    Scrive("up to there", "A\u0416\x41", 0, 10, 20, {{100, 200}, {105, 220}});
+}
+
+// Small letters are stamped from ready pixels, large ones drawn stroke by stroke.
+struct LettereProva : Banco {
+    Modulo modulo{"prova"};
+    RiquadroDisegno d{&modulo, "Disegno"};
+
+    LettereProva() { // one unit a pixel
+        d.Width = 300 * 15;
+        d.Height = 200 * 15;
+        d.Scale(0, 200, 300, 0);
+        DirProgra = Radice() + "\\progra";
+        Installa();
+        LeggiFont();
+        SpazioFont = 20;
+    }
+    struct Scrittura {
+        const char *testo;
+        double x, y;
+        std::int16_t angolo;
+        double base, altezza;
+    };
+    Superficie Disegnata(const Scrittura &s) {
+        d.Cls();
+        DisTesto(s.testo, s.x, s.y, s.angolo, s.base, s.altezza, std::int16_t{3}, &d);
+        return d.Immagine();
+    }
+    // Line by line, from the display list.
+    Superficie Tracciata(const Scrittura &s) {
+        AzzeraDisegno();
+        DisTesto(s.testo, s.x, s.y, s.angolo, s.base, s.altezza);
+        d.Cls();
+        for (int k = 0; k < NumElemDis; ++k) {
+            const int i = ElemDisIni[k], j = ElemDisFin[k];
+            d.Line(CoordDisX[i], CoordDisY[i], CoordDisX[j], CoordDisY[j], ColoreRGB(3));
+        }
+        return d.Immagine();
+    }
+    static void Uguali(const Superficie &vista, const Superficie &attesa, const std::string &che) {
+        int diversi = 0, accesi = 0;
+        for (int y = 0; y < attesa.Altezza(); ++y)
+            for (int x = 0; x < attesa.Larghezza(); ++x) {
+                diversi += vista.Leggi(x, y) != attesa.Leggi(x, y);
+                accesi += attesa.Leggi(x, y) != 0;
+            }
+        EXPECT_EQ(diversi, 0) << "pixels: " << che;
+        EXPECT_GT(accesi, 9) << "something to see: " << che;
+    }
+};
+
+TEST_F(LettereProva, LeLettereTimbrateSonoQuelleTracciate) {
+    for (const Scrittura &s : {
+             Scrittura{.testo = "A8g", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7},
+             {.testo = "A8g", .x = 20.25, .y = 30.5, .angolo = 0, .base = 9.25, .altezza = 13.7},
+             {.testo = "Wq\u00E0", .x = 60, .y = 40, .angolo = 90, .base = 12, .altezza = 17.3},
+             {.testo = "M", .x = 60.75, .y = 40.25, .angolo = 37, .base = 23.3, .altezza = 31.1},
+             {.testo = "M", .x = -6, .y = -4, .angolo = 0, .base = 23.3, .altezza = 31.1},
+             {.testo = "M", .x = 290, .y = 190, .angolo = 0, .base = 23.3, .altezza = 31.1},
+             {.testo = "R2", .x = 20.1, .y = 30.3, .angolo = 0, .base = 110.3, .altezza = 90.7},
+         })
+        Uguali(Disegnata(s), Tracciata(s),
+               std::string(s.testo) + ", height " + std::to_string(s.altezza));
+}
+
+TEST_F(LettereProva, UnAltraMisuraOUnAltraScalaRifaILoroPixel) {
+    const Scrittura piccola{
+        .testo = "A", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7};
+    Scrittura larga = piccola, alta = piccola, girata = piccola;
+    larga.base = 14.3;
+    alta.altezza = 21.1;
+    girata.angolo = 90;
+    for (const Scrittura &s : {piccola, larga, alta, girata, piccola})
+        Uguali(Disegnata(s), Tracciata(s), "one size after the other");
+    d.Scale(0, 100, 150, 0);
+    Uguali(Disegnata(piccola), Tracciata(piccola), "two pixels a unit");
+}
+
+TEST_F(LettereProva, UnFontRilettoRifaILoroPixel) {
+    const Scrittura s{.testo = "A", .x = 20, .y = 30, .angolo = 0, .base = 19, .altezza = 23.7};
+    Disegnata(s);
+    Scrivi("progra/font.001", "0\r\nA00309999\r\n");
+    LeggiFont();
+    Uguali(Disegnata(s), Tracciata(s), "another font");
+}
+
+} // namespace telva::prove
