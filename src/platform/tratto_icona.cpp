@@ -9,8 +9,8 @@ namespace telva {
 
 namespace {
 
-constexpr int Campioni = 8; // per pixel side: one mask bit each
-constexpr std::uint32_t CampioniPixel = Campioni * Campioni;
+constexpr int kCampioni = 8; // per pixel side: one mask bit each
+constexpr std::uint32_t kCampioniPixel = kCampioni * kCampioni;
 
 bool Dispari(double n) { return std::fmod(n, 2.0) != 0.0; }
 
@@ -39,38 +39,38 @@ bool DentroPoligono(PuntoIcona p, std::span<const PuntoIcona> punti) {
 } // namespace
 
 double GrigliaIcona::Larghezza(double unita) const {
-    const double linea = std::max(1.0, std::round(std::min(unita, 1.0) * Scala_));
-    if (!Dispari(std::round(unita))) return std::max(1.0, std::round(unita * Scala_));
-    return linea + 2 * std::max(0.0, std::round((unita * Scala_ - linea) / 2));
+    const double linea = std::max(1.0, std::round(std::min(unita, 1.0) * scala_));
+    if (!Dispari(std::round(unita))) return std::max(1.0, std::round(unita * scala_));
+    return linea + 2 * std::max(0.0, std::round((unita * scala_ - linea) / 2));
 }
 
 double GrigliaIcona::Aggancia(double unita, double larghezza) const {
-    const double mezzo = Dispari(std::round(larghezza)) ? Unita / 2 - 0.5 : Unita / 2;
+    const double mezzo = Dispari(std::round(larghezza)) ? kUnita / 2 - 0.5 : kUnita / 2;
     const double fase = Dispari(Larghezza(larghezza)) ? 0.5 : 0.0;
-    const double centro = std::round(mezzo * Scala_ - fase) + fase;
-    return centro + std::round((unita - mezzo) * Scala_);
+    const double centro = std::round(mezzo * scala_ - fase) + fase;
+    return centro + std::round((unita - mezzo) * scala_);
 }
 
 TrattoIcona::TrattoIcona(int lato)
-    : Lato_(std::max(lato, 0)),
-      Pixel_(static_cast<std::size_t>(Lato_) * static_cast<std::size_t>(Lato_)),
-      Maschera_(Pixel_.size()) {}
+    : lato_(std::max(lato, 0)),
+      pixel_(static_cast<std::size_t>(lato_) * static_cast<std::size_t>(lato_)),
+      maschera_(pixel_.size()) {}
 
 template <class Dentro>
 void TrattoIcona::Segna(double x0, double y0, double x1, double y1, const Dentro &dentro) {
     const auto limita = [this](double v) {
-        return static_cast<int>(std::clamp(v, 0.0, static_cast<double>(Lato_)));
+        return static_cast<int>(std::clamp(v, 0.0, static_cast<double>(lato_)));
     };
     const int daX = limita(std::floor(x0)), aX = limita(std::ceil(x1));
     const int daY = limita(std::floor(y0)), aY = limita(std::ceil(y1));
     for (int y = daY; y < aY; ++y)
         for (int x = daX; x < aX; ++x) {
             std::uint64_t bit = 1, coperti = 0;
-            for (int j = 0; j < Campioni; ++j)
-                for (int i = 0; i < Campioni; ++i, bit <<= 1)
-                    if (dentro(PuntoIcona{x + (i + 0.5) / Campioni, y + (j + 0.5) / Campioni}))
+            for (int j = 0; j < kCampioni; ++j)
+                for (int i = 0; i < kCampioni; ++i, bit <<= 1)
+                    if (dentro(PuntoIcona{x + (i + 0.5) / kCampioni, y + (j + 0.5) / kCampioni}))
                         coperti |= bit;
-            Maschera_[static_cast<std::size_t>(y * Lato_ + x)] |= coperti;
+            maschera_[static_cast<std::size_t>(y * lato_ + x)] |= coperti;
         }
 }
 
@@ -95,16 +95,16 @@ void TrattoIcona::Spezzata(std::span<const PuntoIcona> punti, double larghezza) 
 }
 
 void TrattoIcona::Arco(PuntoIcona centro, double raggio, double da, double a, double larghezza) {
-    constexpr double gradi = 180 / std::numbers::pi;
+    constexpr double kGradi = 180 / std::numbers::pi;
     const double fuori = raggio + larghezza / 2, interno = std::max(0.0, raggio - larghezza / 2);
     Segna(centro.x - fuori, centro.y - fuori, centro.x + fuori, centro.y + fuori,
           [=](PuntoIcona p) {
               const double dx = p.x - centro.x, dy = p.y - centro.y, d2 = dx * dx + dy * dy;
               if (d2 > fuori * fuori || d2 < interno * interno) return false;
-              const double giro = std::fmod(std::atan2(dy, dx) * gradi - da, 360.0);
+              const double giro = std::fmod(std::atan2(dy, dx) * kGradi - da, 360.0);
               return (giro < 0 ? giro + 360 : giro) <= a - da;
           });
-    for (const double capo : {da / gradi, a / gradi}) {
+    for (const double capo : {da / kGradi, a / kGradi}) {
         const PuntoIcona p{centro.x + raggio * std::cos(capo), centro.y + raggio * std::sin(capo)};
         Spezzata({&p, 1}, larghezza);
     }
@@ -116,18 +116,18 @@ void TrattoIcona::Sottrai() { Componi(0xFF000000u, true); }
 
 // Source over destination, both premultiplied; equal rounding keeps every channel within its alpha.
 void TrattoIcona::Componi(std::uint32_t colore, bool togli) {
-    for (std::size_t k = 0; k < Pixel_.size(); ++k) {
-        const auto coperti = static_cast<std::uint32_t>(std::popcount(Maschera_[k]));
-        Maschera_[k] = 0;
+    for (std::size_t k = 0; k < pixel_.size(); ++k) {
+        const auto coperti = static_cast<std::uint32_t>(std::popcount(maschera_[k]));
+        maschera_[k] = 0;
         if (coperti == 0) continue;
-        const std::uint32_t alfa = ((colore >> 24) * coperti + CampioniPixel / 2) / CampioniPixel;
+        const std::uint32_t alfa = ((colore >> 24) * coperti + kCampioniPixel / 2) / kCampioniPixel;
         std::uint32_t risultato = 0;
         for (const int posto : {0, 8, 16, 24}) {
-            const std::uint32_t sotto = (Pixel_[k] >> posto) & 0xFFu;
+            const std::uint32_t sotto = (pixel_[k] >> posto) & 0xFFu;
             const std::uint32_t sopra = togli ? 0u : posto == 24 ? 255u : (colore >> posto) & 0xFFu;
             risultato |= (sopra * alfa + sotto * (255u - alfa) + 127u) / 255u << posto;
         }
-        Pixel_[k] = risultato;
+        pixel_[k] = risultato;
     }
 }
 

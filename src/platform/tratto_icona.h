@@ -15,12 +15,12 @@ struct PuntoIcona {
 // without it every horizontal and vertical would be blurred at 20 and 24 pixels.
 class GrigliaIcona {
   public:
-    static constexpr double Unita = 16;
+    static constexpr double kUnita = 16;
 
-    explicit GrigliaIcona(int lato) : Scala_(lato / Unita) {}
+    explicit GrigliaIcona(int lato) : scala_(lato / kUnita) {}
 
     // Units to pixels, unsnapped.
-    double Pixel(double unita) const { return unita * Scala_; }
+    double Pixel(double unita) const { return unita * scala_; }
     // Pixel width of a stroke `unita` wide: whole, at least 1; odd widths keep the parity of the
     // one-unit line, so that a node stays centred on its bar.
     double Larghezza(double unita) const;
@@ -29,7 +29,7 @@ class GrigliaIcona {
     double Aggancia(double unita, double larghezza) const;
 
   private:
-    double Scala_;
+    double scala_;
 };
 
 // Anti-aliased painter of one icon. Shapes, in pixels, gather in a mask of 8x8 samples per pixel;
@@ -52,16 +52,16 @@ class TrattoIcona {
     void Sottrai();
 
     // lato*lato pixels 0xAARRGGBB, alpha premultiplied, rows from the top.
-    const std::vector<std::uint32_t> &Pixel() const { return Pixel_; }
+    const std::vector<std::uint32_t> &Pixel() const { return pixel_; }
 
   private:
     template <class Dentro>
     void Segna(double x0, double y0, double x1, double y1, const Dentro &dentro);
     void Componi(std::uint32_t colore, bool togli);
 
-    int Lato_;
-    std::vector<std::uint32_t> Pixel_;
-    std::vector<std::uint64_t> Maschera_;
+    int lato_;
+    std::vector<std::uint32_t> pixel_;
+    std::vector<std::uint64_t> maschera_;
 };
 
 } // namespace telva

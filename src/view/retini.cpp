@@ -12,16 +12,16 @@
 namespace telva {
 namespace {
 
-// A family of parallel lines a*x + b*y = n*passo, in whole pixels of the picture: shells
+// A sheaf of parallel lines a*x + b*y = n*passo, in whole pixels of the picture: shells
 // of one type join up, and stacked ones (the floors of a building) do not add up to a solid colour.
 // `punti` > 0 draws dots that far apart instead, every second row shifted by half.
-struct Famiglia {
+struct Fascio {
     int a, b, passo, punti = 0;
 };
 
 struct Retino {
     int numero;
-    Famiglia famiglie[2];
+    Fascio fasci[2];
 };
 
 // Wide steps: bars and labels have to stay readable through several shells.
@@ -50,7 +50,7 @@ struct Poligono {
 // Where the line a*x + b*y = c enters and leaves the polygon, as places along x (along y for
 // upright lines), in order. A polygon whose sides cross (a warped shell seen from the edge) may be
 // met four times: consecutive pairs are inside.
-std::size_t Incontri(const Poligono &p, const Famiglia &f, int c, std::array<double, 4> &posti) {
+std::size_t Incontri(const Poligono &p, const Fascio &f, int c, std::array<double, 4> &posti) {
     std::size_t quanti = 0;
     for (std::size_t k = 0; k < p.numero; ++k) {
         const std::size_t dopo = k + 1 < p.numero ? k + 1 : 0;
@@ -68,7 +68,7 @@ std::size_t Incontri(const Poligono &p, const Famiglia &f, int c, std::array<dou
 }
 
 // The pixels da..a of the line a*x + b*y = c, along x or, for upright lines, along y.
-void DisegnaTratto(Superficie &s, const Famiglia &f, int c, int da, int a, std::uint32_t rgb) {
+void DisegnaTratto(Superficie &s, const Fascio &f, int c, int da, int a, std::uint32_t rgb) {
     if (f.b == 0) {
         s.Linea({c, da}, {c, a}, rgb);
         return;
@@ -83,7 +83,7 @@ void DisegnaTratto(Superficie &s, const Famiglia &f, int c, int da, int a, std::
         s.Linea({x, c}, {x + 1, c}, rgb);
 }
 
-void DisegnaFamiglia(Superficie &s, Poligono &p, const Famiglia &f, std::uint32_t rgb) {
+void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rgb) {
     // Only lines that meet both the polygon and the picture.
     int minimo = INT32_MAX, massimo = INT32_MIN;
     for (std::size_t k = 0; k < p.numero; ++k) {
@@ -128,8 +128,7 @@ void DisegnaRetino(int guscio, std::uint32_t colore) {
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
     const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
-    for (int k = 0; k < retino.numero; ++k)
-        DisegnaFamiglia(s, p, retino.famiglie[k], APixelRGB(colore));
+    for (int k = 0; k < retino.numero; ++k) DisegnaFascio(s, p, retino.fasci[k], APixelRGB(colore));
 }
 
 } // namespace telva
