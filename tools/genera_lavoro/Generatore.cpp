@@ -47,11 +47,6 @@ Misure MisureDi(const Parametri &p) {
     case Taglia::Decimo: return MisureDi(MaxNodi / 10, MaxGusci / 10);
     case Taglia::Terzo: return MisureDi(MaxNodi / 3, MaxGusci / 3);
     case Taglia::Piena: return MisureDi(MaxNodi, MaxGusci);
-    case Taglia::Numero: {
-        const std::int64_t totale = p.NumElementi;
-        const int nodi = static_cast<int>(totale * MaxNodi / MaxElementi);
-        return MisureDi(nodi, p.NumElementi - 2 * nodi);
-    }
     case Taglia::Campione: break;
     }
     Misure m;
@@ -239,16 +234,14 @@ void MettiElCont(const Cantiere &cantiere, const Misure &misure, Nomi ordine, Ca
     }
 }
 
-std::string TitoloDi(const Parametri &p) {
-    if (!p.Titolo.empty()) return p.Titolo;
-    switch (p.Misura) {
-    case Taglia::Campione: return "Edificio campione, unità A";
+const char *TitoloDi(Taglia misura) {
+    switch (misura) {
     case Taglia::Decimo: return "Edificio di prova, un decimo della capacità";
     case Taglia::Terzo: return "Edificio di prova, un terzo della capacità";
     case Taglia::Piena: return "Edificio di prova, piena capacità";
-    case Taglia::Numero: break;
+    case Taglia::Campione: break;
     }
-    return "Edificio di prova, " + std::to_string(p.NumElementi) + " unità";
+    return "Edificio campione, unità A";
 }
 
 void MettiTesti(const Misure &misure, Lavoro &lavoro) {
@@ -262,18 +255,10 @@ void MettiTesti(const Misure &misure, Lavoro &lavoro) {
                                         std::to_string(t) + " 0 1");
 }
 
-void Verifica(const Parametri &p) {
-    if (p.Tipo < 0 || p.Tipo > 4) throw std::invalid_argument("il tipo va da 0 a 4");
-    if (p.Misura == Taglia::Numero && (p.NumElementi < MinElementi || p.NumElementi > MaxElementi))
-        throw std::invalid_argument("gli elementi vanno da " + std::to_string(MinElementi) + " a " +
-                                    std::to_string(MaxElementi));
-}
-
 } // namespace
 
 Lavoro Genera(const Parametri &parametri) {
-    Verifica(parametri);
-    Casuale caso(parametri.Seme);
+    Casuale caso(1);
     const Misure misure = MisureDi(parametri);
     const Cantiere cantiere = misure.Conteggi.Nodi > 0 ? CostruisciEsatto(misure, caso)
                                                        : CostruisciCampione(misure, caso);
@@ -288,9 +273,7 @@ Lavoro Genera(const Parametri &parametri) {
     lavoro.Spessori = SchedeSpessore(misure.Spessori);
     lavoro.Sezioni = SchedeSezione(misure.Sezioni);
     MettiTesti(misure, lavoro);
-    lavoro.Titolo = TitoloDi(parametri);
-    lavoro.Selezione = parametri.Selezione;
-    lavoro.Tipo = parametri.Tipo;
+    lavoro.Titolo = TitoloDi(parametri.Misura);
     return lavoro;
 }
 

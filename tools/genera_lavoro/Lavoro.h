@@ -69,8 +69,7 @@ struct Lavoro {
     std::vector<SchedaSezione> Sezioni;   // card n at entry n-1
     std::array<std::vector<std::string>, 3> SezioniSaltate;
     std::vector<std::pair<std::string, std::string>> TestiFinali;
-    std::string Titolo, Selezione;
-    int Tipo = 0;
+    std::string Titolo; // UTF-8
 };
 
 } // namespace telva::generatore

@@ -1,5 +1,7 @@
 #include "ScriviLavoro.h"
 
+#include "platform/testo.h"
+
 #include <algorithm>
 #include <cmath>
 #include <fstream>
@@ -10,27 +12,6 @@ namespace telva::generatore {
 namespace {
 
 namespace fs = std::filesystem;
-
-// One UTF-8 character as a Windows-1252 byte. Of the signs above U+00FF only the euro occurs in
-// these jobs; everything else becomes a question mark.
-char In1252(unsigned codice) {
-    if (codice < 0x80 || (codice >= 0xA0 && codice <= 0xFF)) return static_cast<char>(codice);
-    return codice == 0x20AC ? static_cast<char>(0x80) : '?';
-}
-
-std::string Codifica(const std::string &utf8) {
-    std::string uscita;
-    for (std::size_t i = 0; i < utf8.size();) {
-        const auto primo = static_cast<unsigned char>(utf8[i++]);
-        const int seguenti = primo < 0xC0 ? 0 : primo < 0xE0 ? 1 : primo < 0xF0 ? 2 : 3;
-        unsigned codice =
-            seguenti == 0 ? primo : primo & (0x3FU >> static_cast<unsigned>(seguenti));
-        for (int s = 0; s < seguenti && i < utf8.size(); ++s)
-            codice = codice << 6U | (static_cast<unsigned char>(utf8[i++]) & 0x3FU);
-        uscita += In1252(codice);
-    }
-    return uscita;
-}
 
 // A number of whole hundredths, written without the C library's locale.
 std::string Decimale(double valore) {
@@ -44,7 +25,7 @@ std::string Decimale(double valore) {
 
 class Testo {
   public:
-    void Riga(const std::string &utf8) { Contenuto += Codifica(utf8) + "\r\n"; }
+    void Riga(const std::string &utf8) { Contenuto += AWindows1252(utf8) + "\r\n"; }
 
     // Right-aligned integers on one line.
     void Interi(std::initializer_list<int> valori) {
@@ -174,8 +155,8 @@ Testo ElementiContinui(const Lavoro &l) {
 Testo Ingresso(const Lavoro &l) {
     Testo t;
     t.Riga(l.Titolo);
-    t.Riga(l.Selezione);
-    t.Riga(std::to_string(l.Tipo));
+    t.Riga("");  // nothing selected
+    t.Riga("1"); // bars
     return t;
 }
 
@@ -200,17 +181,10 @@ Testo OpzioniInterne() {
     return t;
 }
 
-void ControllaCodice(const std::string &codice) {
-    const auto valido = [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); };
-    if (codice.size() != 6 || !std::all_of(codice.begin(), codice.end(), valido))
-        throw std::invalid_argument(
-            "il codice del lavoro ha sei caratteri, lettere minuscole o cifre");
-}
-
 void ScriviImpostazioni(const fs::path &cartella, const std::string &codice,
                         const std::optional<std::string> &radice) {
     fs::create_directories(cartella);
-    std::string vista = radice.value_or(RadicePredefinita);
+    std::string vista = radice.value_or(kRadicePredefinita);
     while (!vista.empty() && vista.back() == '\\') vista.pop_back();
     const std::string lavori = vista + "\\lavori";
     Testo dirlav; // only the first value of the file counts: a comma must stand in quotes
@@ -238,7 +212,6 @@ void ScriviLavoro(const fs::path &cartellaLavoro, const Lavoro &lavoro) {
 
 fs::path ScriviInstallazione(const fs::path &cartella, const std::string &codice,
                              const Lavoro &lavoro, const std::optional<std::string> &radice) {
-    ControllaCodice(codice);
     ScriviImpostazioni(cartella / "impostazioni", codice, radice);
     fs::create_directories(cartella / "progra");
     fs::create_directories(cartella / "custom");

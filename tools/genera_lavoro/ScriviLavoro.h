@@ -10,9 +10,7 @@
 
 namespace telva::generatore {
 
-// The job code used unless another is given; codes have six lower-case letters or digits.
-inline constexpr const char *CodicePredefinito = "dimo01";
-inline constexpr const char *RadicePredefinita = "c:\\telva";
+inline constexpr const char *kRadicePredefinita = "c:\\telva";
 
 // Writes the job's files (STRUTTUR.STR, Ingombri.tmp, spessori, sezioni_, el_conti.tmp,
 // TelvaIn.txt) into the folder, which is made when missing.
@@ -20,10 +18,10 @@ inline constexpr const char *RadicePredefinita = "c:\\telva";
 void ScriviLavoro(const std::filesystem::path &cartellaLavoro, const Lavoro &lavoro);
 
 // Lays out a whole installation in the folder (impostazioni, custom, progra, lavori) with this job
-// in it. `radice` is the folder as the program will see it (no value = RadicePredefinita). Settings
-// and options that are already there are kept, so that a second job goes beside the first; only a
-// given `radice` rewrites dirlav. Returns the folder of the job.
-// Throws std::invalid_argument on a bad code, std::runtime_error on a file that cannot be written.
+// in it; job codes have six lower-case letters or digits. `radice` is the folder as the program
+// will see it (no value = kRadicePredefinita). Settings and options that are already there are
+// kept, so that a second job goes beside the first; only a given `radice` rewrites dirlav. Returns
+// the folder of the job. Throws std::runtime_error on a file that cannot be written.
 std::filesystem::path ScriviInstallazione(const std::filesystem::path &cartella,
                                           const std::string &codice, const Lavoro &lavoro,
                                           const std::optional<std::string> &radice = std::nullopt);
