@@ -101,9 +101,8 @@ void Banco::Installa(const std::string &lavoro) const {
     Scrivi("impostazioni/dirlav", radice_ + "\\lavori\r\n");
     Scrivi("impostazioni/lavoro", lavoro + "\r\n");
     Scrivi("custom/TelOpInt.txt", "8|PC1|\r\n40|PC2|\r\n12|PC3|\r\n0|PC4|\r\n5|PC5|\r\n");
-    fs::create_directories(radice_ + "/progra");
-    fs::copy_file(TELVA_RISORSE "/font/font.001", radice_ + "/progra/font.001",
-                  fs::copy_options::overwrite_existing);
+    std::ifstream font(TELVA_RISORSE "/font/font.001", std::ios::binary);
+    Scrivi("progra/font.001", {std::istreambuf_iterator<char>(font), {}});
 }
 
 void Banco::ScriviLavoro(const LavoroProva &l, const std::string &lavoro) const {

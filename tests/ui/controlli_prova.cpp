@@ -4,6 +4,7 @@
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
 
+#include <memory>
 #include <span>
 
 namespace telva::prove {
@@ -487,6 +488,14 @@ TEST_F(ControlliProva, LaFinestraPrincipale) {
     EXPECT_EQ(f.Width, 15000);
     EXPECT_EQ(f.Height, 11400);
     Controlla(f, kFormTelva);
+}
+
+// Before anything has been asked.
+TEST_F(ControlliProva, AllaNascitaLaRispostaNonSiPuoScrivere) {
+    const auto nuova = std::make_unique<ModuloTelva>();
+    EXPECT_FALSE(nuova->Risposta.Enabled);
+    EXPECT_EQ(nuova->Risposta.BackColor, kColoreFaccia);
+    EXPECT_EQ(nuova->TipoElemento(), 0);
 }
 
 TEST_F(ControlliProva, LeOpzioniDiRappresentazione) {

@@ -6,6 +6,7 @@
 #include "model/struttura.h"
 #include "selection/selezione.h"
 #include "sostegno/Utente.h"
+#include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
 
 #include <algorithm>
@@ -117,6 +118,46 @@ TEST_F(LavoroPienoProva, LaListaInteraTornaAlChiamante) {
     Scrivi("lavori/prova1/TelvaIn.txt", "Titolo\r\n" + lista + "\r\n1\r\n");
     ASSERT_TRUE(Avvia()) << Detto();
     EXPECT_EQ(Lista(), lista);
+}
+
+// --- the end of a table that is not full
+
+// What stands behind the last element is not there: not drawn, not labelled, not selected.
+TEST_F(LavoroPienoProva, CioCheStaOltreLUltimoElementoNonCE) {
+    struct Visto {
+        std::vector<std::uint32_t> pixel;
+        std::vector<std::string> liste; // of everything, by kind
+    };
+    const auto guarda = [&] {
+        Visto v;
+        for (const Tabella &t : Tabelle()) {
+            Tipo(t.tipo);
+            Menu("Inverti");
+            v.liste.push_back(Lista());
+            EXPECT_EQ(t.flag[t.numero], 0) << "kind " << t.tipo;
+        }
+        const Superficie &s = f.Disegno.Immagine();
+        v.pixel.assign(s.Riga(0), s.Riga(0) + s.Larghezza() * s.Altezza());
+        return v;
+    };
+    LavoroProva intero = Telaio();
+    intero.nodi.push_back({.punto = 9, .nome = 10});
+    intero.punti.push_back({50, 0, 50});
+    intero.spessori = {{.materiale = 3, .valore = 20}, {.materiale = 4, .valore = 20}};
+    LavoroProva meno = intero;
+    meno.nodi.pop_back();
+    meno.aste.pop_back();
+    meno.gusci.pop_back();
+    meno.elementi.pop_back();
+    Apri(meno);
+    const Visto atteso = guarda();
+    AzzeraProgramma();
+    Apri(intero);
+    for (std::int16_t *numero : {&NumNodi, &NumAste, &NumGusci, &NumElCont}) --*numero;
+    Menu("Ridis");
+    const Visto visto = guarda();
+    EXPECT_EQ(visto.liste, atteso.liste);
+    EXPECT_TRUE(visto.pixel == atteso.pixel);
 }
 
 } // namespace telva::prove
