@@ -64,7 +64,7 @@ class LettoreStruttura {
         if (Minuscole(riga).find("release") != std::string::npos) return;
         MostraMessaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
                         Icona::Critica, "Attenzione");
-        FineProgramma();
+        FineProgramma(kFineDaSe);
     }
 
     // A line of tokens; where the file has ended although entries are still due, a fault.

@@ -21,7 +21,7 @@ FunzioneFine &Fine() {
 
 void ChiudiPerGuasto(const std::string &motivo) {
     MostraMessaggio(motivo, Icona::Critica, "ERRORE");
-    FineProgramma(1);
+    FineProgramma(kFineDaSe);
 }
 
 } // namespace

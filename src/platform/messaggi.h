@@ -11,8 +11,11 @@ enum class Icona { Critica, Esclamazione, Informazione };
 // Modal box with one OK button.
 void MostraMessaggio(const std::string &testo, Icona icona, const std::string &titolo);
 
+// Exit codes: the user ended the program, or it ended by itself (a bad start, a fault).
+inline constexpr int kFineUtente = 0, kFineDaSe = 1;
+
 // Ends the program at once; nothing more is written. Does not return.
-[[noreturn]] void FineProgramma(int codice = 0);
+[[noreturn]] void FineProgramma(int codice = kFineUtente);
 
 // Runs one event. A fault inside ends in one critical box titled "ERRORE" and in the end of the
 // program with exit code 1.

@@ -32,7 +32,7 @@ bool CodiceAmmesso(std::string_view codice) {
 
 [[noreturn]] void Termina(const std::string &testo, Icona icona = Icona::Esclamazione) {
     MostraMessaggio(testo, icona, "ERRORE");
-    FineProgramma();
+    FineProgramma(kFineDaSe);
 }
 
 [[noreturn]] void TerminaFileErrato(const char *file) {

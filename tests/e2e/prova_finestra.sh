@@ -26,3 +26,4 @@ prova '' 1600x1000 ''
 prova 144 1600x1000 ''
 prova 192 1600x1000 "$sensibili"
 prova '' 3840x2160 "$sensibili"
+[ -n "$solo" ] || prova 144 800x600 'schermo_piccolo,posto_*'

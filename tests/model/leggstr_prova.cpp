@@ -216,7 +216,7 @@ TEST_F(Leggstr, UnFileInaccettabileSiSpiegaConRigaEMotivo) {
 
 TEST_F(Leggstr, UnaVersioneVecchiaChiudeIlProgramma) {
     EXPECT_EQ(LeggiTesto("4.0\nRelease"), -1);
-    EXPECT_EQ(codiceFine, 0);
+    EXPECT_EQ(codiceFine, 1);
     EXPECT_EQ(messaggi,
               (std::vector<Messaggio>{
                   {"Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",

@@ -104,7 +104,7 @@ TEST_F(DirettoriProva, ImpostazioniSbagliateFermanoIlProgramma) {
                      impostazioni.lavoro);
         EXPECT_FALSE(Prosegue(impostazioni));
         EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, icona, "ERRORE"}}));
-        EXPECT_EQ(codiceFine, 0);
+        EXPECT_EQ(codiceFine, 1);
     }
 }
 

@@ -6,7 +6,7 @@ namespace telva {
 
 void EtichettaCentrataWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX;
-    const std::wstring testo = ALargo(TestoFinestra(hwnd_));
+    const std::wstring testo = ALargo(Testo());
     const int lunghezza = static_cast<int>(testo.size());
     const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(false));
     RECT r = d.rcItem, dentro = r;

@@ -2,6 +2,7 @@
 // Labels: the plain ones, and the one whose text stands in the middle of its height. The label that
 // shows data stands in riassunto_win32.h.
 
+#include "platform/mostrabile.h"
 #include "platform/win32/pari_win32.h"
 
 namespace telva {
@@ -12,13 +13,14 @@ class EtichettaWin32 : public PariDi<Etichetta> {
 
   protected:
     HWND Crea(const Nascita &nascita) override {
-        return nascita.Crea(L"STATIC", ALargo(controllo_.Caption()), Stile());
+        return nascita.Crea(L"STATIC", ALargo(Testo()), Stile());
     }
     void Mostra(Campo campo) override {
-        if (campo == Campo::Didascalia && MostraTesto(hwnd_, controllo_.Caption))
+        if (campo == Campo::Didascalia && MostraTesto(hwnd_, Testo()))
             InvalidateRect(hwnd_, nullptr, TRUE);
     }
     bool ConFontPiccolo() const override { return controllo_.stile == StileEtichetta::Pedice; }
+    std::string Testo() const { return Mostrabile(controllo_.Caption(), kCaratteriEtichetta); }
     virtual DWORD Stile() const {
         const bool unaRiga = controllo_.stile == StileEtichetta::Semplice;
         return SS_NOPREFIX | SS_NOTIFY |

@@ -1,6 +1,7 @@
 #include "platform/win32/finestra_win32.h"
 
 #include "platform/messaggi.h"
+#include "platform/mostrabile.h"
 #include "platform/win32/schermo_win32.h"
 
 #include <string_view>
@@ -16,6 +17,7 @@ FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria)
     modulo.dpi = DpiDi(proprietaria);
     CreaNativa(proprietaria);
     modulo.dpi = DpiDi(hwnd_);
+    misura_.RiduciDialogo();
     if (!modulo.barraMenu.empty()) menu_ = std::make_unique<MenuWin32>(modulo, *this);
     CreaControlli();
     modulo.pari = this;
@@ -41,6 +43,10 @@ void FinestraWin32::RegistraClassi() {
     }
 }
 
+std::string FinestraWin32::Titolo() const {
+    return Mostrabile(modulo_.Caption(), kCaratteriTitolo);
+}
+
 void FinestraWin32::CreaNativa(HWND proprietaria) {
     RegistraClassi();
     const bool principale = modulo_.ridimensionabile;
@@ -48,9 +54,9 @@ void FinestraWin32::CreaNativa(HWND proprietaria) {
         principale ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPSIBLINGS;
     hwnd_ = Richiesto(CreateWindowExW(principale ? 0 : WS_EX_DLGMODALFRAME,
                                       principale ? kClasseFinestra : kClasseDialogo,
-                                      ALargo(modulo_.Caption()).c_str(), stile, CW_USEDEFAULT,
-                                      CW_USEDEFAULT, 100, 100, proprietaria, nullptr,
-                                      GetModuleHandleW(nullptr), nullptr),
+                                      ALargo(Titolo()).c_str(), stile, CW_USEDEFAULT, CW_USEDEFAULT,
+                                      100, 100, proprietaria, nullptr, GetModuleHandleW(nullptr),
+                                      nullptr),
                       "CreateWindowEx");
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     AssegnaNome(hwnd_, modulo_.NomeControllo());
@@ -89,7 +95,7 @@ void FinestraWin32::MostraPopup(VoceMenu &menu) {
 
 void FinestraWin32::Cambia(Controllo &, Campo campo) {
     if (campo == Campo::Posizione) misura_.Applica();
-    if (campo == Campo::Didascalia) MostraTesto(hwnd_, modulo_.Caption);
+    if (campo == Campo::Didascalia) MostraTesto(hwnd_, Titolo());
     if (campo == Campo::Puntatore) AggiornaPuntatore();
 }
 
@@ -148,6 +154,9 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
         break;
     case WM_ACTIVATE: Attivata(LOWORD(w) != WA_INACTIVE); break;
     case WM_SETFOCUS: FuocoAllaFinestra(); return 0;
+    case WM_ENDSESSION: // the process ends after this, without a word
+        if (w && modulo_.ridimensionabile) ScriviPosto(misura_.Posto());
+        return 0;
     case WM_CLOSE: Evento([this] { modulo_.Chiudi(); }); return 0;
     default: break;
     }
@@ -166,7 +175,9 @@ void FinestraWin32::VoceCambiata(const VoceMenu &voce) {
 
 void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     modulo_.dpi = dpi;
-    const FontWin32 prima = std::exchange(font_, FontWin32(dpi)); // goes when nobody uses it
+    misura_.RiduciDialogo();
+    const FontWin32 prima =
+        std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
     suggerimenti_.ImpostaFont(font_.Normale());
     for (const auto &p : controlli_) {
         p->AggiornaFont(true);

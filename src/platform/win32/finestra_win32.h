@@ -50,6 +50,7 @@ class FinestraWin32 : public Pari, public OspiteWin32 {
     static LRESULT CALLBACK Procedura(HWND, UINT, WPARAM, LPARAM);
     LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
     static void RegistraClassi();
+    std::string Titolo() const;
     void CreaNativa(HWND proprietaria);
     void CreaControlli();
     void Comando(HWND nativo, WORD codice, WORD id);

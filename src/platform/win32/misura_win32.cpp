@@ -2,6 +2,8 @@
 
 #include "platform/win32/schermo_win32.h"
 
+#include <algorithm>
+
 namespace telva {
 
 void MisuraWin32::Nata(bool altroDpi) {
@@ -25,14 +27,29 @@ void MisuraWin32::Applica() const {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void MisuraWin32::ApplicaDialogo() const {
+SIZE MisuraWin32::EsternaDialogo() const {
     const HWND hwnd = finestra_.Maniglia();
     const SIZE interna{APixel(modulo_.Width, modulo_.dpi), APixel(modulo_.Height, modulo_.dpi)};
     const auto stile = static_cast<DWORD>(GetWindowLongPtrW(hwnd, GWL_STYLE));
     const auto esteso = static_cast<DWORD>(GetWindowLongPtrW(hwnd, GWL_EXSTYLE));
-    const SIZE esterna = MisuraEsterna(interna, stile, esteso, GetMenu(hwnd) != nullptr,
-                                       static_cast<UINT>(modulo_.dpi));
-    Colloca(hwnd, InMezzoA(GetWindow(hwnd, GW_OWNER), esterna));
+    return MisuraEsterna(interna, stile, esteso, GetMenu(hwnd) != nullptr, DpiDi(hwnd));
+}
+
+void MisuraWin32::ApplicaDialogo() const {
+    const HWND hwnd = finestra_.Maniglia();
+    Colloca(hwnd, InMezzoA(GetWindow(hwnd, GW_OWNER), EsternaDialogo()));
+}
+
+void MisuraWin32::RiduciDialogo() const {
+    if (modulo_.ridimensionabile) return;
+    const HWND hwnd = finestra_.Maniglia();
+    const SIZE esterna = EsternaDialogo();
+    const RECT posto = InMezzoA(GetWindow(hwnd, GW_OWNER), esterna); // smaller if it must be
+    const double larghezza = APixel(modulo_.Width, modulo_.dpi);
+    const double altezza = APixel(modulo_.Height, modulo_.dpi);
+    const LONG toltaX = esterna.cx - (posto.right - posto.left);
+    const LONG toltaY = esterna.cy - (posto.bottom - posto.top);
+    modulo_.dpi *= std::min((larghezza - toltaX) / larghezza, (altezza - toltaY) / altezza);
 }
 
 void MisuraWin32::Sposta(LONG left, LONG top) const {

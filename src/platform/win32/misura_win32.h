@@ -10,6 +10,9 @@ class MisuraWin32 {
   public:
     MisuraWin32(Modulo &modulo, OspiteWin32 &finestra) : modulo_(modulo), finestra_(finestra) {}
 
+    // Before the controls are made: a dialog too large for the screen is laid out smaller, so that
+    // nothing of it is out of reach.
+    void RiduciDialogo() const;
     // The window has all its controls: it takes its size; `altroDpi` when it was laid out for
     // another DPI than it has.
     void Nata(bool altroDpi);
@@ -26,6 +29,7 @@ class MisuraWin32 {
     PostoFinestra Posto() const;
 
   private:
+    SIZE EsternaDialogo() const;
     void ApplicaDialogo() const;
 
     Modulo &modulo_;

@@ -1,5 +1,7 @@
 #include "platform/win32/pari_win32.h"
 
+#include "platform/mostrabile.h"
+
 #include <algorithm>
 #include <typeinfo>
 
@@ -62,6 +64,8 @@ void PariWin32::AggiornaFont(bool ridisegna) {
                  ridisegna);
 }
 
-std::wstring PariWin32::TestoSuggerito() const { return ALargo(questo_.ToolTipText()); }
+std::wstring PariWin32::TestoSuggerito() const {
+    return ALargo(Mostrabile(questo_.ToolTipText(), kCaratteriSuggerimento));
+}
 
 } // namespace telva

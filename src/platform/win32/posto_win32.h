@@ -1,20 +1,16 @@
 #pragma once
 // Where the user left the main window, remembered for each user from one run to the next.
 
+#include "platform/posto.h"
 #include "platform/win32/base_win32.h"
 
 #include <optional>
 
 namespace telva {
 
-struct PostoFinestra {
-    LONG left = 0, top = 0;            // outer corner, pixels
-    double larghezza = 0, altezza = 0; // visible outer size, twips: it holds on every monitor
-    bool massimizzata = false;
-};
-
-// Nothing when there is none, or none that can be.
-std::optional<PostoFinestra> LeggiPosto();
+// Nothing when there is none, or none that can be; the size is one that a window of this DPI can
+// have on the monitor nearest to the place.
+std::optional<PostoFinestra> LeggiPosto(double dpi);
 // A place that cannot be written is forgotten without a word.
 void ScriviPosto(const PostoFinestra &posto);
 // Where a window stands, or will stand once it is neither minimised nor maximised; its visible size

@@ -1,5 +1,6 @@
 // The process: argument string, message loop, windows and boxes of the system.
 #include "platform/messaggi.h"
+#include "platform/mostrabile.h"
 #include "platform/programma.h"
 #include "platform/win32/finestra_win32.h"
 #include "platform/win32/schermo_win32.h"
@@ -12,11 +13,13 @@
 namespace telva {
 namespace {
 
+constexpr std::size_t kColonneRiquadro = 100;
+
 class Sistema : public SistemaFinestre {
   public:
     void Prepara(Modulo &modulo) override {
         modulo.dpi = DpiDi(nullptr);
-        if (!(posto_ = LeggiPosto())) return;
+        if (!(posto_ = LeggiPosto(modulo.dpi))) return;
         modulo.Width = std::max(posto_->larghezza, modulo.larghezzaMinima);
         modulo.Height = std::max(posto_->altezza, modulo.altezzaMinima);
     }
@@ -120,7 +123,9 @@ int Esegui() {
     InitCommonControlsEx(&classi);
     ImpostaMessaggi([](const std::string &testo, Icona icona, const std::string &titolo) {
         ReleaseCapture(); // a drag ends where a box begins
-        MessageBoxW(IlSistema().Attiva(), ALargo(testo).c_str(), ALargo(titolo).c_str(),
+        const std::string mostrato =
+            ConRigheBrevi(Mostrabile(testo, kCaratteriRiquadro), kColonneRiquadro);
+        MessageBoxW(IlSistema().Attiva(), ALargo(mostrato).c_str(), ALargo(titolo).c_str(),
                     MB_OK | MB_SETFOREGROUND | IconaDiSistema(icona));
     });
     // At once: nothing of what is still on the way may run any more.

@@ -1,75 +1,12 @@
 #include "platform/win32/riassunto_win32.h"
 
+#include "platform/messaggi.h"
+
 namespace telva {
 namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
 constexpr int kMargine = 4;
-// What lies beyond the field cannot be seen: the system need not measure a megabyte of list.
-constexpr std::size_t kMassimo = 4000;
-
-std::wstring Testo(HWND hwnd) { return ALargo(TestoFinestra(hwnd)); }
-
-HFONT Font(HWND hwnd) { return reinterpret_cast<HFONT>(GetWindowLongPtrW(hwnd, GWLP_USERDATA)); }
-
-void Dipingi(HWND hwnd) {
-    PAINTSTRUCT p{};
-    const HDC dc = BeginPaint(hwnd, &p);
-    if (!dc) return;
-    RECT r{};
-    GetClientRect(hwnd, &r);
-    FillRect(dc, &r, GetSysColorBrush(COLOR_WINDOW));
-    const HGDIOBJ prima = SelectObject(dc, Font(hwnd));
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
-    RECT dentro = r;
-    InflateRect(&dentro, -kMargine, 0);
-    std::wstring testo = Testo(hwnd);
-    if (testo.size() > kMassimo) testo.resize(kMassimo);
-    DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &dentro,
-              DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(dc, prima);
-    if (GetFocus() == hwnd) {
-        InflateRect(&r, -1, -1);
-        DrawFocusRect(dc, &r);
-    }
-    EndPaint(hwnd, &p);
-}
-
-void Copia(HWND hwnd) {
-    const std::wstring testo = Testo(hwnd);
-    const SIZE_T byte = (testo.size() + 1) * sizeof(wchar_t);
-    if (testo.empty() || !OpenClipboard(hwnd)) return;
-    EmptyClipboard();
-    if (const HGLOBAL blocco = GlobalAlloc(GMEM_MOVEABLE, byte)) {
-        if (void *dove = GlobalLock(blocco)) {
-            CopyMemory(dove, testo.c_str(), byte);
-            GlobalUnlock(blocco);
-        }
-        if (!SetClipboardData(CF_UNICODETEXT, blocco)) GlobalFree(blocco);
-    }
-    CloseClipboard();
-}
-
-LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
-    switch (messaggio) {
-    case WM_PAINT: Dipingi(hwnd); return 0;
-    case WM_ERASEBKGND: return 1;
-    case WM_SETFONT: SetWindowLongPtrW(hwnd, GWLP_USERDATA, static_cast<LONG_PTR>(w)); break;
-    case WM_GETFONT: return GetWindowLongPtrW(hwnd, GWLP_USERDATA);
-    case WM_SETTEXT:
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-    case WM_SIZE: InvalidateRect(hwnd, nullptr, FALSE); break;
-    case WM_LBUTTONDOWN: SetFocus(hwnd); return 0;
-    case WM_COPY: Copia(hwnd); return 0;
-    case WM_KEYDOWN:
-        if (w == 'C' && GetKeyState(VK_CONTROL) < 0) Copia(hwnd);
-        return 0;
-    default: break;
-    }
-    return DefWindowProcW(hwnd, messaggio, w, l);
-}
 
 // A list has no blanks to break lines at: a tip breaks it after commas.
 std::wstring SpezzaElenco(std::wstring_view elenco) {
@@ -88,23 +25,91 @@ std::wstring SpezzaElenco(std::wstring_view elenco) {
     return righe;
 }
 
+} // namespace
+
+void RiassuntoWin32::Dipingi() const {
+    PAINTSTRUCT p{};
+    const HDC dc = BeginPaint(hwnd_, &p);
+    if (!dc) return;
+    RECT r{};
+    GetClientRect(hwnd_, &r);
+    FillRect(dc, &r, GetSysColorBrush(COLOR_WINDOW));
+    const HGDIOBJ prima = SelectObject(dc, font_);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    RECT dentro = r;
+    InflateRect(&dentro, -kMargine, 0);
+    const std::wstring testo = ALargo(Testo());
+    DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &dentro,
+              DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
+    SelectObject(dc, prima);
+    if (GetFocus() == hwnd_) {
+        InflateRect(&r, -1, -1);
+        DrawFocusRect(dc, &r);
+    }
+    EndPaint(hwnd_, &p);
+}
+
+// The whole, not only what is shown.
+void RiassuntoWin32::Copia() const {
+    const std::wstring testo = ALargo(controllo_.Caption());
+    const SIZE_T byte = (testo.size() + 1) * sizeof(wchar_t);
+    if (testo.empty() || !OpenClipboard(hwnd_)) return;
+    EmptyClipboard();
+    if (const HGLOBAL blocco = GlobalAlloc(GMEM_MOVEABLE, byte)) {
+        if (void *dove = GlobalLock(blocco)) {
+            CopyMemory(dove, testo.c_str(), byte);
+            GlobalUnlock(blocco);
+        }
+        if (!SetClipboardData(CF_UNICODETEXT, blocco)) GlobalFree(blocco);
+    }
+    CloseClipboard();
+}
+
 // True when the whole text does not fit into the field.
-bool Tagliato(HWND hwnd) {
-    const std::wstring testo = Testo(hwnd);
-    if (testo.size() > kMassimo) return true;
-    const HDC dc = GetDC(hwnd);
+bool RiassuntoWin32::Tagliato() const {
+    const std::string mostrato = Testo();
+    if (mostrato.size() < controllo_.Caption().size()) return true;
+    const std::wstring testo = ALargo(mostrato);
+    const HDC dc = GetDC(hwnd_);
     if (!dc) return false;
-    const HGDIOBJ prima = SelectObject(dc, Font(hwnd));
+    const HGDIOBJ prima = SelectObject(dc, font_);
     SIZE misura{};
     GetTextExtentPoint32W(dc, testo.c_str(), static_cast<int>(testo.size()), &misura);
     SelectObject(dc, prima);
-    ReleaseDC(hwnd, dc);
+    ReleaseDC(hwnd_, dc);
     RECT r{};
-    GetClientRect(hwnd, &r);
+    GetClientRect(hwnd_, &r);
     return misura.cx > r.right - 2 * kMargine;
 }
 
-} // namespace
+LRESULT RiassuntoWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
+    switch (messaggio) {
+    case WM_PAINT: Dipingi(); return 0;
+    case WM_ERASEBKGND: return 1;
+    case WM_SETFONT: font_ = reinterpret_cast<HFONT>(w); break;
+    case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
+    case WM_SETTEXT:
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_SIZE: InvalidateRect(hwnd_, nullptr, FALSE); break;
+    case WM_LBUTTONDOWN: SetFocus(hwnd_); return 0;
+    case WM_COPY: Copia(); return 0;
+    case WM_KEYDOWN:
+        if (w == 'C' && GetKeyState(VK_CONTROL) < 0) Copia();
+        return 0;
+    default: break;
+    }
+    return DefWindowProcW(hwnd_, messaggio, w, l);
+}
+
+LRESULT CALLBACK RiassuntoWin32::Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l) {
+    auto *questo = reinterpret_cast<RiassuntoWin32 *>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!questo) return DefWindowProcW(hwnd, messaggio, w, l);
+    LRESULT esito = 0;
+    EseguiProtetto([&] { esito = questo->Messaggio(messaggio, w, l); });
+    return esito;
+}
 
 HWND RiassuntoWin32::Crea(const Nascita &nascita) {
     WNDCLASSEXW classe{};
@@ -112,18 +117,20 @@ HWND RiassuntoWin32::Crea(const Nascita &nascita) {
     classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     classe.lpszClassName = kClasse;
     RegistraClasse(classe);
-    return nascita.Crea(kClasse, ALargo(controllo_.Caption()), WS_TABSTOP, WS_EX_STATICEDGE);
+    hwnd_ = nascita.Crea(kClasse, ALargo(Testo()), WS_TABSTOP, WS_EX_STATICEDGE);
+    SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    return hwnd_;
 }
 
 void RiassuntoWin32::Mostra(Campo campo) {
-    if (campo != Campo::Didascalia || !MostraTesto(hwnd_, controllo_.Caption)) return;
-    InvalidateRect(hwnd_, nullptr, TRUE);
+    if (campo != Campo::Didascalia) return;
+    if (MostraTesto(hwnd_, Testo())) InvalidateRect(hwnd_, nullptr, TRUE);
     AggiornaSuggerimento();
 }
 
 std::wstring RiassuntoWin32::TestoSuggerito() const {
-    return Tagliato(hwnd_) ? SpezzaElenco(ALargo(controllo_.Caption()))
-                           : EtichettaWin32::TestoSuggerito();
+    if (!Tagliato()) return EtichettaWin32::TestoSuggerito();
+    return SpezzaElenco(ALargo(Mostrabile(controllo_.Caption(), kCaratteriSuggerimento)));
 }
 
 } // namespace telva

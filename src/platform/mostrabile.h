@@ -1,0 +1,22 @@
+#pragma once
+// What of a text the screen can show. Texts come from files and from boxes and may have any length;
+// the system cannot hold them all, and nobody could read them.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace telva {
+
+// Characters that a window's title, a label, a tip and a message box take.
+inline constexpr std::size_t kCaratteriTitolo = 250, kCaratteriEtichetta = 4000,
+                             kCaratteriSuggerimento = 6000, kCaratteriRiquadro = 1000;
+
+// The text, or its first characters and an ellipsis: at most `caratteri` in all, at least 1.
+std::string Mostrabile(std::string_view testo, std::size_t caratteri);
+
+// A message box breaks lines at blanks only: lines longer than `colonne` characters without a blank
+// are broken there, or the box would leave the screen.
+std::string ConRigheBrevi(std::string_view testo, std::size_t colonne);
+
+} // namespace telva
