@@ -74,6 +74,11 @@ Sessione::Sessione(const Ambiente &amb, Genere genere, const std::string &selezi
     Annota("start on the small job");
     p.Dimensiona(finestra, GetSystemMetrics(SM_CXSCREEN) * 11 / 16,
                  GetSystemMetrics(SM_CYSCREEN) * 4 / 5);
+    // The nodes are looked for in the new picture: painted at once, and on the screen by the second
+    // time that the program has nothing left to do.
+    RedrawWindow(disegno, nullptr, nullptr, RDW_UPDATENOW);
+    p.Smaltisci(finestra);
+    p.Smaltisci(finestra);
     RECT r{};
     GetClientRect(disegno, &r);
     p.Aspetta("the picture at its new size", [&] {

@@ -86,6 +86,8 @@ class Programma {
     /// is left. A greyed item runs nothing and may leave the menu too: look at the effect.
     void Menu(const std::string &apri, const std::string &tasti);
 
+    /// Waits until the thread of a top-level window has no key, no move and no painting left to do.
+    void Smaltisci(HWND cima) const;
     /// Moves the pointer to a client position, once no other window covers it; gives the screen
     /// position.
     POINT Punta(HWND finestra, POINT dove);
@@ -112,7 +114,6 @@ class Programma {
     std::string Stato() const;
     bool InMenu() const;
     bool Pronta(HWND finestra) const;
-    void Smaltisci(HWND cima) const;
     void Muovi(HWND cima, POINT schermo) const;
     void Stabile(HWND finestra = nullptr);
 
