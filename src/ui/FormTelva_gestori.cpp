@@ -160,6 +160,7 @@ void CollegaFormTelva() {
     f.Disegno.MouseUp = Disegno_MouseUp;
     f.Disegno.DblClick = Disegno_DblClick;
     f.Disegno.CatturaPersa = Disegno_CatturaPersa;
+    f.Disegno.Ridisegna = DisegnaStruttura;
 }
 
 } // namespace telva

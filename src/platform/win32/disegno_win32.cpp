@@ -108,6 +108,17 @@ void DisegnoWin32::Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARA
     finestra_.Evento([&] { gestore(tasti, maiuscoli, x, y); });
 }
 
+// Where the pointer stands by now, if more of its moves wait right behind this one: each of them
+// may cost a picture.
+LPARAM DisegnoWin32::PostoPiuRecente(WPARAM w, LPARAM l) const {
+    for (MSG m{}; PeekMessageW(&m, nullptr, 0, 0, PM_NOREMOVE) && m.hwnd == hwnd_ &&
+                  m.message == WM_MOUSEMOVE && m.wParam == w;) {
+        if (!PeekMessageW(&m, hwnd_, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_REMOVE)) break;
+        l = m.lParam;
+    }
+    return l;
+}
+
 void DisegnoWin32::TastoPremuto(int tasto, WPARAM w, LPARAM l) {
     // A held button keeps the mouse, so that a drag goes on outside the drawing.
     if (tasto == 4) SetCapture(hwnd_);
@@ -129,7 +140,7 @@ LRESULT DisegnoWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_LBUTTONUP: TastoLasciato(1, w, l); return 0;
     case WM_RBUTTONUP: TastoLasciato(2, w, l); return 0;
     case WM_MBUTTONUP: TastoLasciato(4, w, l); return 0;
-    case WM_MOUSEMOVE: Mouse(controllo_.MouseMove, Tasti(w), w, l); return 0;
+    case WM_MOUSEMOVE: Mouse(controllo_.MouseMove, Tasti(w), w, PostoPiuRecente(w, l)); return 0;
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK: Evento(controllo_.DblClick); return 0;
