@@ -10,6 +10,8 @@
 #include "startup/direttori_cond.h"
 #include "ui/controlli/FormTelva.h"
 
+#include <algorithm>
+
 namespace telva {
 namespace {
 
@@ -18,6 +20,8 @@ std::string FileUscita() { return DirLavoro + "\\TelvaOut.txt"; }
 } // namespace
 
 std::string StrSelNodi, StrSelAste, StrSelGusci, StrSelElCont, StrSelPareti;
+
+int TipoRichiesto = -1;
 
 std::string &StrSel(int tipo) {
     static const Tabella<std::string *, 5> liste = [] {
@@ -34,6 +38,7 @@ void LeggiIngresso(std::string &sel) {
     TogliProvvisori(FileUscita());
     FileTesto file;
     TitoloIn.clear();
+    TipoRichiesto = -1;
     if (!file.Apri(DirLavoro + "\\TelvaIn.txt")) {
         FormTelva.StringaSel.Caption = "";
         FormTelva.OptElem[0].Seleziona();
@@ -46,7 +51,8 @@ void LeggiIngresso(std::string &sel) {
     file.LeggiNumero(letto);
     const double tipo = ArrotondaPari(letto);
     if (tipo >= 0 && tipo <= 2) StrSel(static_cast<int>(tipo)) = sel;
-    FormTelva.OptElem[tipo >= 0 && tipo <= 4 ? static_cast<int>(tipo) : 0].Seleziona();
+    if (tipo >= 0 && tipo <= 4) TipoRichiesto = static_cast<int>(tipo);
+    FormTelva.OptElem[std::max(TipoRichiesto, 0)].Seleziona();
 }
 
 void ScriviUscita() {

@@ -10,6 +10,9 @@ extern std::string StrSelNodi, StrSelAste, StrSelGusci, StrSelElCont, StrSelPare
 // The one of an element kind: 0 nodes, 1 bars, 2 shells, 3 continuous elements, 4 walls.
 std::string &StrSel(int tipo);
 
+// Element kind that the caller wants, 0..4; -1 without a file, or with a kind that is none.
+extern int TipoRichiesto;
+
 // Reads DirLavoro\TelvaIn.txt: title, selection string (into `sel`), element kind, whose button is
 // ticked. A missing file gives nodes and leaves `sel` as it is.
 void LeggiIngresso(std::string &sel);

@@ -134,15 +134,17 @@ Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
 }
 
 // One text in the window: on one line; on several; on several with its middle at half height; as
-// data in a sunken field, with an ellipsis and the whole in a tip; as an index.
-enum class StileEtichetta { Semplice, SuPiuRighe, Centrata, Riassunto, Pedice };
+// data in a sunken field, with an ellipsis and the whole in a tip; as an index; in two rows that
+// tell how things stand, each with an ellipsis and the whole in a tip.
+enum class StileEtichetta { Semplice, SuPiuRighe, Centrata, Riassunto, Pedice, Stato };
 
 class Etichetta : public Controllo {
   public:
     Etichetta(Modulo *f, std::string nome, Controllo *genitore = nullptr)
         : Controllo(f, std::move(nome), Tipo::Etichetta, genitore),
-          Caption(*this, Campo::Didascalia) {}
+          Caption(*this, Campo::Didascalia), Evidenza(*this, Campo::Didascalia) {}
     Proprieta<std::string> Caption;
+    Proprieta<std::string> Evidenza; // in the style Stato: the beginning of Caption to stand out
     StileEtichetta stile = StileEtichetta::Semplice;
 };
 
@@ -284,6 +286,8 @@ class Modulo : public Controllo {
     std::function<void(int)> KeyUp;    // virtual key code
     std::function<bool(int)> KeyDown;  // the same, with Ctrl, outside text boxes; true when used
     std::function<void()> Unload;      // the window is about to go
+    std::function<void()> Distratta;   // a key, a menu or another window has the word
+    std::function<void()> DopoEvento;  // every event of the user ends with it
     std::function<void(int)> Rotella;  // mouse wheel, one step at a time: +1 or -1
 
     // The DPI and the size that the window will have when it is shown, as far as the system can

@@ -5,49 +5,71 @@
 #include "platform/numeri.h"
 #include "startup/basCommon_cond.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/visibile.h"
 
-#include <array>
 #include <optional>
 
 namespace telva {
 namespace {
 
+std::int16_t MaterialeAsta(int b) { return MaterialeSezione(SezioneAsta[b]); }
+std::int16_t MaterialeGuscio(int s) { return MaterialeSpessore(SpessoreGuscio[s]); }
+std::int16_t Sezione(int b) { return SezioneAsta[b]; }
+std::int16_t Spessore(int s) { return SpessoreGuscio[s]; }
+std::int16_t Orientamento(int b) { return OrientAsta[b]; }
+std::int16_t Svincolo(int b) { return SvincoloAsta[b]; }
+std::int16_t Vincolo(int i) { return VincoloNodo[i]; }
+
 constexpr SchedaProprieta kProprieta[] = {
     {kMateriale,
      "Inserire i numeri delle schede di materiale e premere INVIO",
      "Seleziona per materiale",
+     "materiali presenti",
      SelezionaPerMateriale,
-     {kMsgMaterialeNodi, kAmmesso, kAmmesso, kAmmesso, kAmmesso}},
+     {kMsgMaterialeNodi, kAmmesso, kAmmesso, kAmmesso, kAmmesso},
+     {nullptr, MaterialeAsta, MaterialeGuscio, MaterialeAsta, nullptr}},
     {kNome,
      "Inserire i nomi degli elementi e premere INVIO",
      "Seleziona per nome elemento",
+     "nomi presenti",
      SelezionaElementoPerNome,
-     {kAmmesso, kAmmesso, kAmmesso, kAmmesso, kAmmesso}},
+     {kAmmesso, kAmmesso, kAmmesso, kAmmesso, kAmmesso},
+     {}},
     {kSezione,
      "Inserire i numeri delle schede di sezione e premere INVIO",
      "Seleziona per sezione",
+     "sezioni presenti",
      SelezionaPerSezione,
-     {kMsgSezioneNodi, kAmmesso, kMsgSezioneGusci, kAmmesso, kIgnorato}},
+     {kMsgSezioneNodi, kAmmesso, kMsgSezioneGusci, kAmmesso, kIgnorato},
+     {nullptr, Sezione, nullptr, Sezione, nullptr}},
     {kSpessore,
      "Inserire i numeri delle schede di spessore e premere INVIO",
      "Seleziona per spessore",
+     "spessori presenti",
      SelezionaPerSpessore,
-     {kMsgSpessoreNodi, kMsgSpessoreAste, kAmmesso, kMsgSpessoreElCont, kIgnorato}},
+     {kMsgSpessoreNodi, kMsgSpessoreAste, kAmmesso, kMsgSpessoreElCont, kIgnorato},
+     {nullptr, nullptr, Spessore, nullptr, nullptr}},
     {kOrientamento,
      "Inserire i numeri delle schede di orientamento e premere INVIO",
      "Seleziona per orientamento",
+     "orientamenti presenti",
      SelezionaPerOrientamento,
-     {kMsgOrientamentoNodi, kAmmesso, kMsgOrientamentoGusci, kAmmesso, kIgnorato}},
+     {kMsgOrientamentoNodi, kAmmesso, kMsgOrientamentoGusci, kAmmesso, kIgnorato},
+     {nullptr, Orientamento, nullptr, Orientamento, nullptr}},
     {kSvincolo,
      "Inserire i numeri delle schede di svincolo e premere INVIO",
      "Seleziona per svincolo",
+     "svincoli presenti",
      SelezionaPerSvincolo,
-     {kMsgSvincoloNodi, kAmmesso, kMsgSvincoloGusci, kMsgSvincoloElCont, kIgnorato}},
+     {kMsgSvincoloNodi, kAmmesso, kMsgSvincoloGusci, kMsgSvincoloElCont, kIgnorato},
+     {nullptr, Svincolo, nullptr, nullptr, nullptr}},
     {kVincolo,
      "Inserire i numeri delle schede di vincolo e premere INVIO",
      "Seleziona per vincolo",
+     "vincoli presenti",
      SelezionaPerVincolo,
-     {kAmmesso, kMsgVincoloAste, kMsgVincoloGusci, kMsgVincoloElCont, kIgnorato}},
+     {kAmmesso, kMsgVincoloAste, kMsgVincoloGusci, kMsgVincoloElCont, kIgnorato},
+     {Vincolo, nullptr, nullptr, nullptr, nullptr}},
 };
 
 class LettoreLista {
@@ -107,11 +129,6 @@ class Insieme {
     std::vector<bool> presenti_;
 };
 
-// The card of a part (node, bar or shell) that a property goes by.
-using Scheda = std::int16_t (*)(int parte);
-// By element kind; nullptr where the property marks nothing.
-using Schede = std::array<Scheda, kTipiElemento>;
-
 // Reads the list; one that cannot be taken shows its message: false.
 bool Leggi(const std::string &testo, int capacita, std::vector<std::int16_t> &numeri) {
     switch (LeggiLista(testo, capacita, numeri)) {
@@ -128,23 +145,24 @@ bool Leggi(const std::string &testo, int capacita, std::vector<std::int16_t> &nu
 }
 
 // One number of the set fits every part; any number fits an element without parts.
-bool StessaScheda(const Elementi &e, int i, Scheda scheda, const Insieme &insieme) {
+bool StessaScheda(const Elementi &e, int i, NumeroDiParte numeroDi, const Insieme &insieme) {
     std::optional<std::int16_t> numero; // of the first part
     return e.OgniParte(i, [&](int parte) {
-        const std::int16_t n = scheda(parte);
+        const std::int16_t n = numeroDi(parte);
         if (numero) return n == *numero;
         numero = n;
         return insieme.Contiene(n);
     });
 }
 
-bool SelezionaPerScheda(const std::string &testo, Segno segno, const Schede &schede) {
+bool SelezionaPerScheda(std::uint8_t codice, const std::string &testo, Segno segno) {
     std::vector<std::int16_t> numeri;
     if (!Leggi(testo, kCapacitaSchede, numeri)) return false;
     const Insieme insieme(numeri);
     const Elementi &e = ElementiDi(FormTelva.TipoElemento());
-    if (const Scheda scheda = schede[e.tipo]; scheda && !numeri.empty())
-        Segna(e, segno, [&](int i) { return StessaScheda(e, i, scheda, insieme); });
+    const NumeroDiParte numero = ProprietaDi(codice)->numero[e.tipo];
+    if (numero && !numeri.empty())
+        Segna(e, segno, [&](int i) { return StessaScheda(e, i, numero, insieme); });
     MostraSelezione();
     return true;
 }
@@ -160,6 +178,27 @@ const SchedaProprieta *ProprietaDi(std::uint8_t codice) {
     for (const SchedaProprieta &p : kProprieta)
         if (p.codice == codice) return &p;
     return nullptr;
+}
+
+std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo) {
+    const Elementi &e = ElementiDi(tipo);
+    const NumeroDiParte numero = proprieta.numero[tipo];
+    std::vector<bool> presenti(INT16_MAX + 1, false);
+    const auto segna = [&](int n) {
+        if (n > 0) presenti[static_cast<std::size_t>(n)] = true;
+        return true;
+    };
+    for (int i = 0; i < e.numero; ++i) {
+        if (!Disegnato(e, i)) continue;
+        if (proprieta.codice == kNome)
+            segna(e.nomi[i]);
+        else if (numero)
+            e.OgniParte(i, [&](int parte) { return segna(numero(parte)); });
+    }
+    std::vector<int> numeri;
+    for (int n = 1; n <= INT16_MAX; ++n)
+        if (presenti[static_cast<std::size_t>(n)]) numeri.push_back(n);
+    return numeri;
 }
 
 void IniziaProprieta(std::uint8_t codice) {
@@ -195,34 +234,27 @@ bool SelezionaElementoPerNome(const std::string &testo, Segno segno) {
 }
 
 bool SelezionaPerMateriale(const std::string &testo, Segno segno) {
-    const Scheda asta = [](int b) { return MaterialeSezione(SezioneAsta[b]); };
-    const Scheda guscio = [](int s) { return MaterialeSpessore(SpessoreGuscio[s]); };
-    return SelezionaPerScheda(testo, segno, {nullptr, asta, guscio, asta});
+    return SelezionaPerScheda(kMateriale, testo, segno);
 }
 
 bool SelezionaPerSezione(const std::string &testo, Segno segno) {
-    const Scheda asta = [](int b) { return SezioneAsta[b]; };
-    return SelezionaPerScheda(testo, segno, {nullptr, asta, nullptr, asta});
+    return SelezionaPerScheda(kSezione, testo, segno);
 }
 
 bool SelezionaPerSpessore(const std::string &testo, Segno segno) {
-    const Scheda guscio = [](int s) { return SpessoreGuscio[s]; };
-    return SelezionaPerScheda(testo, segno, {nullptr, nullptr, guscio});
+    return SelezionaPerScheda(kSpessore, testo, segno);
 }
 
 bool SelezionaPerOrientamento(const std::string &testo, Segno segno) {
-    const Scheda asta = [](int b) { return OrientAsta[b]; };
-    return SelezionaPerScheda(testo, segno, {nullptr, asta, nullptr, asta});
+    return SelezionaPerScheda(kOrientamento, testo, segno);
 }
 
 bool SelezionaPerSvincolo(const std::string &testo, Segno segno) {
-    const Scheda asta = [](int b) { return SvincoloAsta[b]; };
-    return SelezionaPerScheda(testo, segno, {nullptr, asta}); // no continuous elements
+    return SelezionaPerScheda(kSvincolo, testo, segno);
 }
 
 bool SelezionaPerVincolo(const std::string &testo, Segno segno) {
-    const Scheda nodo = [](int i) { return VincoloNodo[i]; };
-    return SelezionaPerScheda(testo, segno, {nodo});
+    return SelezionaPerScheda(kVincolo, testo, segno);
 }
 
 } // namespace telva

@@ -21,18 +21,28 @@ inline constexpr int kCapacitaSchede = 100, kCapacitaNomi = 20000;
 // Numbers of a list such as "1-5,7", in the order typed.
 EsitoLista LeggiLista(std::string_view testo, int capacita, std::vector<std::int16_t> &numeri);
 
+// The number of a part (node, bar or shell) that a property goes by.
+using NumeroDiParte = std::int16_t (*)(int parte);
+
 // A property's command: what it asks, what it is called, and for which kinds it is refused.
 struct SchedaProprieta {
     std::uint8_t codice; // CodSottoFun
     const char *domanda;
     const char *titolo;
+    const char *presenti; // of the numbers that elements carry
     bool (*seleziona)(const std::string &testo, Segno segno);
     // By element kind 0..4: index of the refusal in Messaggi, or one of the two below.
     int rifiuto[kTipiElemento];
+    // By element kind; nullptr where the property marks nothing, and for the names of elements.
+    NumeroDiParte numero[kTipiElemento];
 };
 inline constexpr int kAmmesso = -1, kIgnorato = -2;
 // The property of a sub-function code, or nullptr.
 const SchedaProprieta *ProprietaDi(std::uint8_t codice);
+
+// The numbers above 0 that the elements drawn of a kind carry, ascending, each once: what a list
+// for this property can name.
+std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo);
 
 // Starts the pending property: prompt, title, answer box ready for typing.
 void IniziaProprieta(std::uint8_t codice);

@@ -143,6 +143,12 @@ std::string FormattaListaSel(std::span<const int> nomi) {
     return lista;
 }
 
+std::string FormattaNumeri(const std::vector<int> &numeri) {
+    std::vector<int> dopoUnAssente = {-2}; // no run begins there, and nothing is doubled
+    dopoUnAssente.insert(dopoUnAssente.end(), numeri.begin(), numeri.end());
+    return FormattaListaSel(dopoUnAssente);
+}
+
 void AzzeraSelezione() {
     CodFunAttiva = kNessunaFunzione;
     CodSottoFun = kNessuna;

@@ -28,6 +28,12 @@ enum SottoFunzione : std::uint8_t {
 extern std::uint8_t CodFunAttiva; // Funzione
 extern std::uint8_t CodSottoFun;  // SottoFunzione
 
+// True while direct pick is the sub-function of a running function; without one there is nothing
+// that a pick could add or remove.
+inline bool SelezioneDirettaPronta() {
+    return CodSottoFun == kDiretta && CodFunAttiva != kNessunaFunzione;
+}
+
 // What the running function marks with.
 inline Segno SegnoFunzione() { return CodFunAttiva == kAggiungi ? Segno::Messo : Segno::Tolto; }
 
@@ -60,6 +66,8 @@ std::vector<int> OrdinaNumeriSel(int tipo);
 
 // The compact number list of such a row of names.
 std::string FormattaListaSel(std::span<const int> nomi);
+// The same of numbers above 0, ascending, all of them in it, without a doubled head.
+std::string FormattaNumeri(const std::vector<int> &numeri);
 
 void AzzeraSelezione();
 

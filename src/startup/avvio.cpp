@@ -19,6 +19,7 @@
 #include "ui/FormTelva_gestori.h"
 #include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/stato.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
 #include "view/proiezione.h"
@@ -85,6 +86,7 @@ void Avvia() {
     else
         MostraProblema("Errore nella lettura della struttura");
     FormTelva.MousePointer = Puntatore::Predefinito;
+    AggiornaStato();
 }
 
 void AzzeraProgramma() {

@@ -12,6 +12,7 @@
 #include "selection/trappola.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/gesto.h"
+#include "ui/preda.h"
 #include "ui/vista_gestori.h"
 #include "view/inquadra.h"
 
@@ -100,11 +101,6 @@ void PrimoAngoloRettangolo(Gesto aperto, double x, double y) {
 }
 
 bool SenzaArea(const Rettangolo &r) { return r.Width * r.Height == 0; }
-
-// Without a running function there is nothing that a pick could add or remove.
-bool SelezioneDirettaPronta() {
-    return CodSottoFun == kDiretta && CodFunAttiva != kNessunaFunzione;
-}
 
 void AttendiFinestra(Gesto attesa) {
     CodSottoFun = kFinestra;
@@ -267,6 +263,12 @@ void Disegno_MouseMove(int button, int, float x, float y) {
     }
     if (PrimoAngolo == 1) TendiRettangolo(x, y);
     MostraCoordinate(x, y);
+    PuntatoreSu(x, y);
+}
+
+void Disegno_MouseLeave() {
+    FormTelva.LabCoord.Caption = "";
+    PuntatoreFuori();
 }
 
 void Disegno_MouseUp(int button, int, float, float) {
@@ -288,6 +290,7 @@ void ChiudiFinestraInCorso() {
 
 void AzzeraPuntatore() {
     FinisciGesti();
+    PuntatoreFuori();
     UltimoTasto = 0;
     primoX = primoY = 0;
 }

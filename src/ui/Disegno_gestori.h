@@ -12,6 +12,7 @@ void Disegno_MouseMove(int button, int shift, float x, float y);
 void Disegno_MouseUp(int button, int shift, float x, float y);
 void Disegno_DblClick();
 void Disegno_CatturaPersa();
+void Disegno_MouseLeave();
 
 void Finestra_Click();
 void ZoomIn_Click();

@@ -12,6 +12,8 @@
 #include "ui/FormOpt_gestori.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/gesto.h"
+#include "ui/preda.h"
+#include "ui/stato.h"
 #include "ui/vista_gestori.h"
 #include "view/FunzDisegno.h"
 
@@ -88,6 +90,7 @@ void VisCoord_Click() {
     FormTelva.VisCoord.Checked = !FormTelva.VisCoord.Checked;
     FormTelva.LabCoord.Caption = "";
     FormTelva.FrameCoord.Visible = FormTelva.VisCoord.Checked;
+    FormTelva.Disponi(); // the line of state takes its room, or gives it back
 }
 
 void BarraLat_Click() {
@@ -160,7 +163,9 @@ void CollegaFormTelva() {
     f.Disegno.MouseUp = Disegno_MouseUp;
     f.Disegno.DblClick = Disegno_DblClick;
     f.Disegno.CatturaPersa = Disegno_CatturaPersa;
-    f.Disegno.Ridisegna = DisegnaStruttura;
+    f.Disegno.MouseLeave = Disegno_MouseLeave;
+    f.Distratta = PuntatoreFuori;
+    f.DopoEvento = AggiornaStato;
 }
 
 } // namespace telva

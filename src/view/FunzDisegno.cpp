@@ -8,7 +8,6 @@
 #include "view/assi.h"
 #include "view/colori.h"
 #include "view/etichette.h"
-#include "view/posti.h"
 #include "view/proiezione.h"
 #include "view/retini.h"
 #include "view/visibile.h"
@@ -62,19 +61,20 @@ std::vector<bool> AsteEvidenziate() {
     return aste;
 }
 
-void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
+void DisegnaAste(const Stile &stile) {
     RiquadroDisegno &d = FormTelva.Disegno;
     const std::vector<bool> evidenziate = AsteEvidenziate();
     for (int b = 0; b < NumAste; ++b) {
         if (!AstaDisegnata(b)) continue;
         const bool sel = evidenziate[static_cast<std::size_t>(b)];
+        const int i = NodoIAsta[b], j = NodoJAsta[b];
         d.DrawWidth = stile.Larghezza(sel);
-        posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
-                    TrattoLinea(TipoLinAsta[b]));
+        d.Line(XNodo(i), YNodo(i), XNodo(j), YNodo(j), stile.Colore(sel, ColAsta[b]),
+               TrattoLinea(TipoLinAsta[b]));
     }
 }
 
-void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
+void DisegnaGusci(const Stile &stile) {
     RiquadroDisegno &d = FormTelva.Disegno;
     for (int s = 0; s < NumGusci; ++s) {
         if (!GuscioDisegnato(s)) continue;
@@ -82,23 +82,23 @@ void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
         const std::uint32_t colore = stile.Colore(sel, ColGuscio[s]);
         const auto &nodi = NodiGuscio[s];
         const auto angoli = static_cast<std::size_t>(NumeroAngoli(s));
-        DisegnaRetino(s, colore, posti);
+        DisegnaRetino(s, colore);
         d.DrawWidth = stile.Larghezza(sel);
-        for (std::size_t c = 0; c < angoli; ++c)
-            posti.Linea(nodi[c], nodi[c + 1 < angoli ? c + 1 : 0], colore);
+        for (std::size_t c = 0; c < angoli; ++c) {
+            const int a = nodi[c], z = nodi[(c + 1) % angoli];
+            d.Line(XNodo(a), YNodo(a), XNodo(z), YNodo(z), colore);
+        }
     }
 }
 
-void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
+void DisegnaNodi(const Stile &stile) {
     RiquadroDisegno &d = FormTelva.Disegno;
-    const int raggio = d.RaggioInPixel(OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel());
+    const double raggio = OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel();
     for (int i = 0; i < NumNodi; ++i) {
         if (!NodoDisegnato(i)) continue;
-        const std::optional<Pixel> centro = posti.Posto(i);
-        if (!centro) continue; // far outside
         const bool sel = SelNodo[i] == 1;
         d.DrawWidth = stile.Larghezza(sel);
-        d.Circle(*centro, raggio, stile.Colore(sel, ColNodo[i]));
+        d.Circle(XNodo(i), YNodo(i), raggio, stile.Colore(sel, ColNodo[i]));
     }
 }
 
@@ -106,7 +106,6 @@ void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
 
 void DisegnaStruttura() {
     RiquadroDisegno &d = FormTelva.Disegno;
-    if (d.Rimandata()) return;
     const Stile stile;
     d.Cls();
     if (!Proiettata()) {
@@ -114,10 +113,9 @@ void DisegnaStruttura() {
         return;
     }
     if (FormTelva.VisAssi.Checked) DisegnaAssi();
-    const PostiNodi posti(d);
-    DisegnaAste(stile, posti);
-    DisegnaGusci(stile, posti);
-    DisegnaNodi(stile, posti);
+    DisegnaAste(stile);
+    DisegnaGusci(stile);
+    DisegnaNodi(stile);
     DisegnaEtichette();
     d.DrawWidth = 1;
     d.Presenta();

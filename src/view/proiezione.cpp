@@ -4,7 +4,9 @@
 #include "ui/controlli/FormTelva.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <initializer_list>
 
 namespace telva {
@@ -50,6 +52,8 @@ Estremi EstremiStruttura() {
             e.Comprendi(NodiGuscio[s][static_cast<std::size_t>(c)]);
     return e;
 }
+
+std::array<EstremiAsse, 3> estremiModello; // as AggiornaIntervalli last found them
 
 // Nearest whole unit, halves up.
 std::string TestoIntero(double valore) { return TestoNumero(ParteIntera(valore + 0.5)); }
@@ -101,11 +105,14 @@ void AggiornaIntervalli(unsigned char k) {
     const Estremi e = EstremiStruttura();
     Schiera<CasellaNumero, 2> *campi[3] = {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ};
     for (int asse = 0; asse < 3; ++asse) {
+        estremiModello[static_cast<std::size_t>(asse)] = {e.minimo[asse], e.massimo[asse]};
         if (k != 4 && k != asse + 1) continue;
         (*campi[asse])[0].Text = TestoIntero(e.minimo[asse]);
         (*campi[asse])[1].Text = TestoIntero(e.massimo[asse]);
     }
 }
+
+EstremiAsse EstremiModello(int asse) { return estremiModello[static_cast<std::size_t>(asse)]; }
 
 bool Proiettata() {
     // Seen from wherever, at most one axis is a point.
@@ -118,6 +125,7 @@ void AzzeraProiezione() {
     XDis.Azzera();
     YDis.Azzera();
     DirAsseX = DirAsseY = DirAsseZ = {};
+    estremiModello = {};
 }
 
 } // namespace telva

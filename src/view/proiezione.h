@@ -30,6 +30,12 @@ bool Proiettata();
 // 4 = all three; any other value does nothing.
 void AggiornaIntervalli(unsigned char k);
 
+// Extent of the model as read, in its units: axis 0 X, 1 Y, 2 Z.
+struct EstremiAsse {
+    double minimo = 0, massimo = 0;
+};
+EstremiAsse EstremiModello(int asse);
+
 // Projection of node i.
 inline double XNodo(int i) { return XDis[PuntoNodo[i]]; }
 inline double YNodo(int i) { return YDis[PuntoNodo[i]]; }

@@ -5,6 +5,7 @@
 #include "model/tabelle_cond.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
+#include "view/proiezione.h"
 
 namespace telva {
 namespace {
@@ -13,16 +14,15 @@ namespace {
 // small tolerance covers the sums' own rounding.
 struct Intervallo {
     double minimo, massimo;
-    explicit Intervallo(Schiera<CasellaNumero, 2> &campi) {
-        for (CasellaNumero &casella : campi) casella.Accogli();
-        minimo = campi[0].Valore() - 0.5 - 1e-6;
-        massimo = campi[1].Valore() + 0.5 + 1e-6;
-    }
+    explicit Intervallo(Schiera<CasellaNumero, 2> &campi)
+        : minimo(campi[0].Valore() - 0.5 - 1e-6), massimo(campi[1].Valore() + 0.5 + 1e-6) {}
     bool Comprende(double valore) const { return valore >= minimo && valore <= massimo; }
 };
 
 const NodiDentro &NodiNegliIntervalli() {
     static NodiDentro nodi;
+    for (auto *campi : {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ})
+        for (CasellaNumero &casella : *campi) casella.Accogli();
     const Intervallo x(FormTelva.IntX), y(FormTelva.IntY), z(FormTelva.IntZ);
     nodi.Calcola([&](int i) {
         const int p = PuntoNodo[i];
@@ -38,7 +38,7 @@ struct Filtri {
     bool nonSelezionati = FormTelva.ElNonSelez.Value;
 };
 
-bool Disegnato(const Elementi &e, int i) {
+bool ParteDisegnata(const Elementi &e, int i) {
     return e.nomi[i] > 0 && e.colori[i] < kColoreNascosto && e.attivi[i] == 1;
 }
 
@@ -62,8 +62,39 @@ void CalcolaAttivi() {
     }
 }
 
-bool NodoDisegnato(int i) { return Disegnato(ElementiDi(kNodiTipo), i); }
-bool AstaDisegnata(int b) { return Disegnato(ElementiDi(kAsteTipo), b); }
-bool GuscioDisegnato(int s) { return Disegnato(ElementiDi(kGusciTipo), s) && !GuscioSottile(s); }
+bool NodoDisegnato(int i) { return ParteDisegnata(ElementiDi(kNodiTipo), i); }
+bool AstaDisegnata(int b) { return ParteDisegnata(ElementiDi(kAsteTipo), b); }
+bool GuscioDisegnato(int s) {
+    return ParteDisegnata(ElementiDi(kGusciTipo), s) && !GuscioSottile(s);
+}
+
+bool Disegnato(const Elementi &e, int i) {
+    static constexpr bool (*kDisegnata[])(int) = {NodoDisegnato, AstaDisegnata, GuscioDisegnato};
+    const auto disegnata = kDisegnata[e.parti];
+    return !e.OgniParte(i, [=](int parte) { return !disegnata(parte); });
+}
+
+bool NessunElementoDisegnato() {
+    for (const TipoElemento tipo : {kNodiTipo, kAsteTipo, kGusciTipo}) {
+        const Elementi &e = ElementiDi(tipo);
+        for (int i = 0; i < e.numero; ++i)
+            if (Disegnato(e, i)) return false;
+    }
+    return true;
+}
+
+bool VistaFiltrata() {
+    const ModuloTelva &f = FormTelva;
+    for (const CasellaSpunta *c : {&f.NodiAtt, &f.AsteAtt, &f.GusciAtt, &f.ElSelez, &f.ElNonSelez})
+        if (!c->Value) return true;
+    Schiera<CasellaNumero, 2> *const campi[] = {&FormTelva.IntX, &FormTelva.IntY, &FormTelva.IntZ};
+    for (int asse = 0; asse < 3; ++asse) {
+        const Intervallo intervallo(*campi[asse]);
+        const EstremiAsse estremi = EstremiModello(asse);
+        if (!intervallo.Comprende(estremi.minimo) || !intervallo.Comprende(estremi.massimo))
+            return true;
+    }
+    return false;
+}
 
 } // namespace telva

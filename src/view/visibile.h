@@ -1,6 +1,8 @@
 #pragma once
 // What of the structure is shown: active elements, and those that are drawn.
 
+#include "model/elementi.h"
+
 namespace telva {
 
 // Active flags of all elements, from the coordinate intervals and the side bar's check boxes. In
@@ -11,5 +13,13 @@ void CalcolaAttivi();
 bool NodoDisegnato(int nodo);
 bool AstaDisegnata(int asta);
 bool GuscioDisegnato(int guscio);
+// The same by kind; a continuous element is seen as soon as one of its bars is.
+bool Disegnato(const Elementi &e, int elemento);
+// Nothing of the structure is drawn.
+bool NessunElementoDisegnato();
+
+// True while something may be hidden: a box of the side bar is not ticked, or a coordinate interval
+// does not hold the whole structure.
+bool VistaFiltrata();
 
 } // namespace telva

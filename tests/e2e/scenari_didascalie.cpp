@@ -78,6 +78,7 @@ const ControlloAtteso kFinestra[] = {
     {.nome = "Frame2"},
     {.nome = "FunAttiva"},
     {.nome = "SottoFunAttiva"},
+    {.nome = "LabStato", .didascalia = "1 asta selezionata\r\nCtrl+A aggiunge, Ctrl+T rimuove"},
     {.nome = "FrameCoord"},
     {.nome = "Label6", .didascalia = "Coordinate:"},
     {.nome = "LabCoord"},

@@ -152,7 +152,10 @@ bool Banco::Avvia(const std::string &argomento) {
 void Banco::Passo(const std::string &testo, const std::function<void()> &evento) {
     if (Finito()) throw std::logic_error("the program has ended before " + testo);
     passi.push_back(testo);
-    Esegui(evento);
+    Esegui([&] { // as the window does with every event
+        evento();
+        if (FormTelva.DopoEvento) FormTelva.DopoEvento();
+    });
 }
 
 std::string Banco::Letterale(float v) {

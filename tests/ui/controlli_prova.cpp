@@ -172,6 +172,10 @@ const Atteso kFormTelva[] = {
     {.nome = "Frame2", .dove = {30, 10130, 2610, 465}, .bordo = false},
     {.nome = "FunAttiva", .in = "Frame2", .dove = {30, 0, 2580, 225}},
     {.nome = "SottoFunAttiva", .in = "Frame2", .dove = {30, 230, 2580, 235}},
+    {.nome = "LabStato",
+     .testo = "nessun nodo selezionato\r\nCtrl+A aggiunge, Ctrl+T rimuove",
+     .dove = {2730, 10130, 9285, 465},
+     .stile = StileEtichetta::Stato},
     {.nome = "FrameCoord", .dove = {4700, 10130, 9450, 465}, .bordo = false},
     {.nome = "Label6",
      .in = "FrameCoord",
@@ -467,7 +471,7 @@ void ControllaCheStiano(const Modulo &modulo) {
         EXPECT_LE(a->LeftAssoluto() + a->Width, modulo.Width);
         EXPECT_LE(a->TopAssoluto() + a->Height, modulo.Height);
         for (const Controllo *b : modulo.controlli)
-            if (a != b && !Contiene(*a) && !Contiene(*b)) {
+            if (a != b && a->Visible && b->Visible && !Contiene(*a) && !Contiene(*b)) {
                 EXPECT_TRUE(Separati(*a, *b)) << "over " << b->NomeControllo();
             }
     }

@@ -108,15 +108,10 @@ void DisegnoWin32::Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARA
     finestra_.Evento([&] { gestore(tasti, maiuscoli, x, y); });
 }
 
-// Where the pointer stands by now, if more of its moves wait right behind this one: each of them
-// may cost a picture.
-LPARAM DisegnoWin32::PostoPiuRecente(WPARAM w, LPARAM l) const {
-    for (MSG m{}; PeekMessageW(&m, nullptr, 0, 0, PM_NOREMOVE) && m.hwnd == hwnd_ &&
-                  m.message == WM_MOUSEMOVE && m.wParam == w;) {
-        if (!PeekMessageW(&m, hwnd_, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_REMOVE)) break;
-        l = m.lParam;
-    }
-    return l;
+void DisegnoWin32::Mosso(WPARAM w, LPARAM l) {
+    TRACKMOUSEEVENT avviso{sizeof avviso, TME_LEAVE, hwnd_, 0};
+    TrackMouseEvent(&avviso); // told once when the pointer leaves; without it nothing is lost
+    Mouse(controllo_.MouseMove, Tasti(w), w, l);
 }
 
 void DisegnoWin32::TastoPremuto(int tasto, WPARAM w, LPARAM l) {
@@ -140,7 +135,8 @@ LRESULT DisegnoWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_LBUTTONUP: TastoLasciato(1, w, l); return 0;
     case WM_RBUTTONUP: TastoLasciato(2, w, l); return 0;
     case WM_MBUTTONUP: TastoLasciato(4, w, l); return 0;
-    case WM_MOUSEMOVE: Mouse(controllo_.MouseMove, Tasti(w), w, PostoPiuRecente(w, l)); return 0;
+    case WM_MOUSEMOVE: Mosso(w, l); return 0;
+    case WM_MOUSELEAVE: Evento(controllo_.MouseLeave); return 0;
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK: Evento(controllo_.DblClick); return 0;

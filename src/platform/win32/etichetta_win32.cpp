@@ -8,7 +8,7 @@ void EtichettaCentrataWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX;
     const std::wstring testo = ALargo(Testo());
     const int lunghezza = static_cast<int>(testo.size());
-    const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(false));
+    const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(Carattere::Normale));
     RECT r = d.rcItem, dentro = r;
     FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
     SetBkMode(d.hDC, TRANSPARENT);

@@ -19,8 +19,11 @@ class EtichettaWin32 : public PariDi<Etichetta> {
         if (campo == Campo::Didascalia && MostraTesto(hwnd_, Testo()))
             InvalidateRect(hwnd_, nullptr, TRUE);
     }
-    bool ConFontPiccolo() const override { return controllo_.stile == StileEtichetta::Pedice; }
     std::string Testo() const { return Mostrabile(controllo_.Caption(), kCaratteriEtichetta); }
+    Carattere FontProprio() const override {
+        const bool pedice = controllo_.stile == StileEtichetta::Pedice;
+        return pedice ? Carattere::Piccolo : Carattere::Normale;
+    }
     virtual DWORD Stile() const {
         const bool unaRiga = controllo_.stile == StileEtichetta::Semplice;
         return SS_NOPREFIX | SS_NOTIFY |

@@ -65,7 +65,7 @@ void FinestraWin32::CreaNativa(HWND proprietaria) {
 void FinestraWin32::CreaControlli() {
     suggerimenti_.Crea(hwnd_, modulo_.dpi);
     font_ = FontWin32(modulo_.dpi);
-    suggerimenti_.ImpostaFont(font_.Normale());
+    suggerimenti_.ImpostaFont(font_[Carattere::Normale]);
     controlli_.Crea(modulo_, *this);
 }
 
@@ -108,6 +108,7 @@ void FinestraWin32::Suggerisci(HWND nativo, std::wstring testo) {
 void FinestraWin32::Evento(const std::function<void()> &evento) {
     EseguiProtetto([&] {
         evento();
+        if (modulo_.DopoEvento) modulo_.DopoEvento();
         ApplicaPosizioni();
     });
 }
@@ -152,6 +153,7 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
         if (LOWORD(l) == HTCLIENT && MostraPuntatore(modulo_, reinterpret_cast<HWND>(w)))
             return TRUE;
         break;
+    case WM_ENTERMENULOOP: Distrai(); break;
     case WM_ACTIVATE: Attivata(LOWORD(w) != WA_INACTIVE); break;
     case WM_SETFOCUS: FuocoAllaFinestra(); return 0;
     case WM_ENDSESSION: // the process ends after this, without a word
@@ -178,7 +180,7 @@ void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     misura_.RiduciDialogo();
     const FontWin32 prima =
         std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
-    suggerimenti_.ImpostaFont(font_.Normale());
+    suggerimenti_.ImpostaFont(font_[Carattere::Normale]);
     for (const auto &p : controlli_) {
         p->AggiornaFont(true);
         p->DpiCambiato();
@@ -205,6 +207,7 @@ void FinestraWin32::LasciaFuoco(HWND nativo) {
 
 void FinestraWin32::Attivata(bool si) {
     if (si) return;
+    Distrai();
     const HWND fuoco = GetFocus();
     ultimoFuoco_ = fuoco && IsChild(hwnd_, fuoco) ? fuoco : nullptr;
     tastiera_.Lascia();
@@ -215,7 +218,12 @@ void FinestraWin32::FuocoAllaFinestra() const {
         SetFocus(ultimoFuoco_);
 }
 
+void FinestraWin32::Distrai() {
+    if (modulo_.Distratta) Evento(modulo_.Distratta);
+}
+
 bool FinestraWin32::PreTraduci(MSG &m) {
+    if (m.message == WM_KEYDOWN || m.message == WM_SYSKEYDOWN) Distrai();
     if (menu_ && menu_->TraduciScorciatoia(m)) return true;
     if (tastiera_.Tratta(m)) return true;
     return IsDialogMessageW(hwnd_, &m) != 0;

@@ -36,7 +36,7 @@ class FinestraWin32 : public Pari, public OspiteWin32 {
     void Cambia(Controllo &controllo, Campo campo) override;
     HWND Maniglia() const override { return hwnd_; }
     double Dpi() const override { return modulo_.dpi; }
-    HFONT Font(bool piccolo) const override { return piccolo ? font_.Piccolo() : font_.Normale(); }
+    HFONT Font(Carattere c) const override { return font_[c]; }
     void Evento(const std::function<void()> &evento) override;
     void DaPosizionare(PariWin32 &pari) override { controlli_.Sposta(pari); }
     void ApplicaPosizioni() override { controlli_.ApplicaPosizioni(hwnd_); }
@@ -56,6 +56,7 @@ class FinestraWin32 : public Pari, public OspiteWin32 {
     void Comando(HWND nativo, WORD codice, WORD id);
     void DpiCambiato(UINT dpi, const RECT &proposto);
     void Attivata(bool si);
+    void Distrai();
     void FuocoAllaFinestra() const;
 
     Modulo &modulo_;

@@ -14,19 +14,22 @@ FontWin32::FontWin32(double dpi) {
         GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof tipo, &tipo);
     // The system tells the size for its own DPI; this window may stand on another monitor.
     tipo.lfHeight = MulDiv(tipo.lfHeight, static_cast<int>(dpi), static_cast<int>(DpiDi(nullptr)));
-    normale_ = Richiesto(CreateFontIndirectW(&tipo), "CreateFontIndirect");
-    tipo.lfHeight = MulDiv(tipo.lfHeight, 3, 4);
-    piccolo_ = Richiesto(CreateFontIndirectW(&tipo), "CreateFontIndirect");
+    const auto crea = [](const LOGFONTW &come) {
+        return Richiesto(CreateFontIndirectW(&come), "CreateFontIndirect");
+    };
+    LOGFONTW piccolo = tipo, grassetto = tipo;
+    piccolo.lfHeight = MulDiv(tipo.lfHeight, 3, 4);
+    grassetto.lfWeight = FW_BOLD;
+    font_ = {crea(tipo), crea(piccolo), crea(grassetto)};
 }
 
 FontWin32::~FontWin32() {
-    if (normale_) DeleteObject(normale_);
-    if (piccolo_) DeleteObject(piccolo_);
+    for (const HFONT font : font_)
+        if (font) DeleteObject(font);
 }
 
 FontWin32 &FontWin32::operator=(FontWin32 &&altro) noexcept {
-    std::swap(normale_, altro.normale_);
-    std::swap(piccolo_, altro.piccolo_);
+    std::swap(font_, altro.font_);
     return *this;
 }
 

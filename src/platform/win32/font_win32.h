@@ -1,11 +1,15 @@
 #pragma once
-// The fonts of a window: that of the system's own boxes, and a small one for indices.
+// The fonts of a window: that of the system's own boxes, a small one for indices, a bold one.
 
 #include "platform/win32/base_win32.h"
 
+#include <array>
+#include <cstddef>
 #include <utility>
 
 namespace telva {
+
+enum class Carattere { Normale, Piccolo, Grassetto };
 
 class FontWin32 {
   public:
@@ -15,11 +19,10 @@ class FontWin32 {
     FontWin32(FontWin32 &&altro) noexcept { *this = std::move(altro); }
     FontWin32 &operator=(FontWin32 &&altro) noexcept;
 
-    HFONT Normale() const { return normale_; }
-    HFONT Piccolo() const { return piccolo_; }
+    HFONT operator[](Carattere c) const { return font_[static_cast<std::size_t>(c)]; }
 
   private:
-    HFONT normale_ = nullptr, piccolo_ = nullptr;
+    std::array<HFONT, 3> font_{}; // by Carattere
 };
 
 } // namespace telva

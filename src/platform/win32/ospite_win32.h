@@ -3,6 +3,7 @@
 
 #include "platform/controlli.h"
 #include "platform/win32/base_win32.h"
+#include "platform/win32/font_win32.h"
 
 #include <functional>
 
@@ -14,9 +15,9 @@ class OspiteWin32 {
   public:
     virtual HWND Maniglia() const = 0;
     virtual double Dpi() const = 0;
-    virtual HFONT Font(bool piccolo) const = 0;
-    // The one way out of an event: what moved is brought to its place, a fault is shown and ends
-    // the program.
+    virtual HFONT Font(Carattere c) const = 0;
+    // The one way out of an event: the module has the last word, what moved is brought to its
+    // place, a fault is shown and ends the program.
     virtual void Evento(const std::function<void()> &evento) = 0;
     // The control has another place; it goes there at the end of the event, with all the others,
     // or now.

@@ -9,6 +9,7 @@
 #include "platform/win32/casella_testo_win32.h"
 #include "platform/win32/cornice_win32.h"
 #include "platform/win32/disegno_win32.h"
+#include "platform/win32/etichetta_stato_win32.h"
 #include "platform/win32/etichetta_win32.h"
 #include "platform/win32/pulsante_win32.h"
 #include "platform/win32/riassunto_win32.h"
@@ -24,6 +25,7 @@ std::unique_ptr<PariWin32> Nuovo(Controllo &c, OspiteWin32 &finestra) {
 std::unique_ptr<PariWin32> NuovaEtichetta(Controllo &c, OspiteWin32 &finestra) {
     switch (static_cast<Etichetta &>(c).stile) {
     case StileEtichetta::Centrata: return Nuovo<EtichettaCentrataWin32, Etichetta>(c, finestra);
+    case StileEtichetta::Stato: return Nuovo<EtichettaStatoWin32, Etichetta>(c, finestra);
     case StileEtichetta::Riassunto: return Nuovo<RiassuntoWin32, Etichetta>(c, finestra);
     default: return Nuovo<EtichettaWin32, Etichetta>(c, finestra);
     }

@@ -60,7 +60,7 @@ void PariWin32::Cambia(Controllo &, Campo campo) {
 }
 
 void PariWin32::AggiornaFont(bool ridisegna) {
-    SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(finestra_.Font(ConFontPiccolo())),
+    SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(finestra_.Font(FontProprio())),
                  ridisegna);
 }
 

@@ -38,9 +38,6 @@ class PariWin32 : public Pari {
     virtual void Spostato() {}
     virtual void DpiCambiato() {}
     virtual void ColoriCambiati() { SendMessageW(hwnd_, WM_SYSCOLORCHANGE, 0, 0); }
-    // Around wheel steps that come together.
-    virtual void InizioRotella() {}
-    virtual void FineRotella() {}
     virtual void VoceCambiata([[maybe_unused]] const VoceMenu &voce) {}
 
     // ---- What the window asks
@@ -58,7 +55,7 @@ class PariWin32 : public Pari {
     virtual void Mostra([[maybe_unused]] Campo campo) {}
     // Arrow keys move among neighbours of this kind, when they have the same parent.
     virtual bool FaGruppo() const { return false; }
-    virtual bool ConFontPiccolo() const { return false; }
+    virtual Carattere FontProprio() const { return Carattere::Normale; }
     virtual std::wstring TestoSuggerito() const;
     void AggiornaSuggerimento() { finestra_.Suggerisci(hwnd_, TestoSuggerito()); }
 

@@ -15,6 +15,7 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     LabCoord.stile = StileEtichetta::SuPiuRighe;
     Label6.stile = StileEtichetta::SuPiuRighe;
     StringaSel.stile = StileEtichetta::Riassunto;
+    LabStato.stile = StileEtichetta::Stato;
     for (Etichetta &e : Label2) e.stile = StileEtichetta::Pedice;
     for (CasellaTesto &c : Angolo) c.stretta = true;
     Inizio();
@@ -74,7 +75,7 @@ void ModuloTelva::Inizio() {
     }
     Label5.Caption = "Risultato della selezione:";
     Label6.Caption = "Coordinate:";
-    for (Etichetta *e : {&Domanda, &StringaSel, &FunAttiva, &SottoFunAttiva, &LabCoord})
+    for (Etichetta *e : {&Domanda, &StringaSel, &FunAttiva, &SottoFunAttiva, &LabStato, &LabCoord})
         e->Caption = "";
     Risposta.Text = "";
     Risposta.Enabled = false;

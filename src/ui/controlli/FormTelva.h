@@ -51,6 +51,9 @@ struct ModuloTelva : Modulo {
     Etichetta FunAttiva{this, "FunAttiva", &Frame2};
     Etichetta SottoFunAttiva{this, "SottoFunAttiva", &Frame2};
 
+    // How many are selected, what is hidden, what a click would take: ui/stato tells it.
+    Etichetta LabStato{this, "LabStato"};
+
     Cornice FrameCoord{this, "FrameCoord"};
     Etichetta Label6{this, "Label6", &FrameCoord};
     Etichetta LabCoord{this, "LabCoord", &FrameCoord};

@@ -3,10 +3,13 @@
 
 #include "ui/controlli/FormTelva.h"
 
+#include <algorithm>
+
 namespace telva {
 namespace {
 
 constexpr double kAltezzaBarra = 400;
+constexpr double kDistanzaStato = 90, kStatoMinimo = 900;
 
 // Inside the two frames of the side bar, whose size never changes.
 void DisponiBarraLaterale(ModuloTelva &f) {
@@ -64,6 +67,13 @@ void ModuloTelva::Disponi() {
     FrameCoord.Posiziona(4700, fondo, w - 5550, 465);
     LabCoord.Posiziona(FrameCoord.Width - 1000, 15, 1690, 460);
     Label6.Posiziona(LabCoord.Left - 1045, 15, 1000, 235);
+
+    // Between the two, as far as there is room for a word.
+    const double prima = Frame2.Left + Frame2.Width + kDistanzaStato;
+    const double fine = FrameCoord.Visible ? FrameCoord.Left + Label6.Left - kDistanzaStato
+                                           : w - kDistanzaStato - 180;
+    LabStato.Posiziona(prima, fondo, std::max(fine - prima, 0.0), 465);
+    LabStato.Visible = fine - prima >= kStatoMinimo;
 }
 
 } // namespace telva

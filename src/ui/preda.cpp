@@ -1,0 +1,81 @@
+#include "ui/preda.h"
+
+#include "model/elementi.h"
+#include "model/opzioni_cond.h"
+#include "selection/selezione.h"
+#include "selection/trappola.h"
+#include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "view/proiezione.h"
+
+#include <optional>
+#include <utility>
+
+namespace telva {
+namespace {
+
+std::optional<std::pair<double, double>> puntatore; // where it rests on the drawing
+EffettoClic effetto = EffettoClic::Nessuno;
+ElementiPresi preda;
+
+EffettoClic EffettoDelGesto() {
+    if (InCorso(Gesto::Trascina)) return EffettoClic::Nessuno;
+    if (InCorso(Gesto::SpostaArmato)) return EffettoClic::PuntoDaSpostare;
+    if (InCorso(Gesto::SpostaAperto)) return EffettoClic::Destinazione;
+    if (PrimoAngolo == 1) return EffettoClic::AngoloOpposto;
+    if (InCorso(Gesto::ZoomArmato) || !InCorso(Gesto::Riposo)) return EffettoClic::Angolo;
+    return SelezioneDirettaPronta() ? EffettoClic::ApreFinestra : EffettoClic::Nessuno;
+}
+
+void TrovaElementi(double x, double y) {
+    const std::int16_t nome = SelezioneDiretta(x, y);
+    if (nome < 1) return;
+    preda.tipo = FormTelva.TipoElemento();
+    const Elementi &e = ElementiDi(preda.tipo);
+    for (int i = 0; i < e.numero; ++i)
+        if (e.nomi[i] == nome && e.Attivo(i)) preda.elementi.push_back(i);
+    if (!preda.elementi.empty()) effetto = EffettoClic::Elemento;
+}
+
+void Contorno(TipoElemento tipo, int parte, Sagoma &sagoma) {
+    std::vector<int> nodi;
+    OgniNodo(tipo, parte, [&](int nodo) {
+        nodi.push_back(nodo);
+        return true;
+    });
+    if (nodi.size() == 1)
+        sagoma.cerchi.push_back({XNodo(nodi[0]), YNodo(nodi[0]), OpzioneNumero(kOpzRaggioNodo)});
+    const std::size_t lati = nodi.size() > 2 ? nodi.size() : nodi.size() - 1;
+    for (std::size_t k = 0; k < lati; ++k) {
+        const int a = nodi[k], z = nodi[(k + 1) % nodi.size()];
+        sagoma.linee.push_back({XNodo(a), YNodo(a), XNodo(z), YNodo(z)});
+    }
+}
+
+void MostraPreda() {
+    Sagoma sagoma;
+    const Elementi &e = ElementiDi(preda.tipo);
+    for (const int i : preda.elementi)
+        e.OgniParte(i, [&](int parte) {
+            Contorno(e.parti, parte, sagoma);
+            return true;
+        });
+    FormTelva.Disegno.Anteprima = sagoma;
+}
+
+} // namespace
+
+void PuntatoreSu(double x, double y) { puntatore.emplace(x, y); }
+void PuntatoreFuori() { puntatore.reset(); }
+
+void CercaPreda() {
+    preda.elementi.clear();
+    effetto = puntatore && Proiettata() ? EffettoDelGesto() : EffettoClic::Nessuno;
+    if (effetto == EffettoClic::ApreFinestra) TrovaElementi(puntatore->first, puntatore->second);
+    MostraPreda();
+}
+
+EffettoClic ClicSulDisegno() { return effetto; }
+const ElementiPresi &Preda() { return preda; }
+
+} // namespace telva

@@ -1,0 +1,321 @@
+// The line of state, and what a click would take: told before it is made, and then so.
+#include "model/elementi.h"
+#include "selection/selezione.h"
+#include "sostegno/Utente.h"
+#include "ui/controlli/FormTelva.h"
+#include "ui/gesto.h"
+#include "ui/preda.h"
+#include "ui/stato.h"
+
+#include <algorithm>
+#include <random>
+
+namespace telva::prove {
+
+struct StatoProva : Utente {
+    ModuloTelva &f = FormTelva;
+    RiquadroDisegno &d = FormTelva.Disegno;
+
+    void ApriCon(int tipoRichiesto) {
+        ScriviIngresso("Titolo", "", tipoRichiesto);
+        Apri(Telaio());
+    }
+    void Distrai() { // by a key, a menu, another window
+        Passo("Distrai()", [this] { f.Distratta(); });
+    }
+    void Esci() { // the pointer, from the drawing
+        Passo("Esci()", [this] { d.MouseLeave(); });
+    }
+    // The row of the label, without what stands out before it.
+    std::string Adesso() { return ComponiStato().adesso; }
+    std::string Poi() { return ComponiStato().poi; }
+    std::string Evidenza() { return ComponiStato().evidenza; }
+};
+
+TEST_F(StatoProva, QuantiSonoSelezionati) {
+    ApriCon(kAsteTipo);
+    struct Caso {
+        int tipo;
+        const char *elenco;
+        const char *atteso;
+    };
+    const Caso casi[] = {
+        {.tipo = kNodiTipo, .elenco = "", .atteso = "nessun nodo selezionato"},
+        {.tipo = kNodiTipo, .elenco = "5", .atteso = "1 nodo selezionato"},
+        {.tipo = kNodiTipo, .elenco = "1-9", .atteso = "9 nodi selezionati"},
+        {.tipo = kAsteTipo, .elenco = "", .atteso = "nessuna asta selezionata"},
+        {.tipo = kAsteTipo, .elenco = "12", .atteso = "1 asta selezionata"},
+        {.tipo = kAsteTipo, .elenco = "1-3", .atteso = "4 aste selezionate"},
+        {.tipo = kGusciTipo, .elenco = "", .atteso = "nessun guscio selezionato"},
+        {.tipo = kGusciTipo, .elenco = "1-2", .atteso = "2 gusci selezionati"},
+        {.tipo = kElContTipo, .elenco = "", .atteso = "nessun elemento continuo selezionato"},
+        {.tipo = kElContTipo, .elenco = "10", .atteso = "1 elemento continuo selezionato"},
+        {.tipo = kElContTipo, .elenco = "20", .atteso = "2 elementi continui selezionati"},
+        // Under walls it is shells that are marked.
+        {.tipo = kParetiTipo, .elenco = "", .atteso = "2 gusci selezionati"},
+    };
+    Menu("Aggiungi");
+    for (const Caso &caso : casi) {
+        Tipo(caso.tipo);
+        Menu("Nome");
+        Elenco(caso.elenco);
+        EXPECT_EQ(Adesso(), caso.atteso) << "kind " << caso.tipo << ", list " << caso.elenco;
+    }
+}
+
+TEST_F(StatoProva, QuantiNonSiVedono) {
+    ApriCon(kAsteTipo);
+    Menu("Aggiungi");
+    Menu("Nome");
+    Elenco("1-3");
+    Mostra(Filtro::Aste);
+    EXPECT_EQ(Adesso(), "3 aste selezionate, di cui 3 nascoste; vista filtrata");
+    Mostra(Filtro::Aste);
+    EXPECT_EQ(Adesso(), "3 aste selezionate");
+    ColAsta[0] = 10; // a colour that hides
+    EXPECT_EQ(Adesso(), "3 aste selezionate, di cui 1 nascosta");
+    Tipo(kElContTipo);
+    Menu("Nome");
+    Elenco("10");
+    EXPECT_EQ(Adesso(), "1 elemento continuo selezionato") << "one of its bars is seen";
+    ColAsta[1] = 10;
+    EXPECT_EQ(Adesso(), "1 elemento continuo selezionato, di cui 1 nascosto");
+}
+
+TEST_F(StatoProva, QuandoLaVistaEFiltrata) {
+    ApriCon(kNodiTipo);
+    const auto filtrata = [&] { return Adesso().find("vista filtrata") != std::string::npos; };
+    EXPECT_FALSE(filtrata());
+    for (const Filtro filtro :
+         {Filtro::Nodi, Filtro::Aste, Filtro::Gusci, Filtro::Selezionati, Filtro::NonSelezionati}) {
+        Mostra(filtro);
+        EXPECT_TRUE(filtrata());
+        Mostra(filtro);
+        EXPECT_FALSE(filtrata());
+    }
+    Intervallo(Estremo::MaxX, "150", false);
+    EXPECT_FALSE(filtrata()) << "typed, not yet taken over";
+    Intervallo(Estremo::MaxX, "150");
+    EXPECT_TRUE(filtrata()) << "an interval narrower than the structure";
+    Tutto(Asse::X);
+    EXPECT_FALSE(filtrata());
+    Intervallo(Estremo::MinZ, "-1000");
+    EXPECT_FALSE(filtrata()) << "an interval wider than the structure";
+}
+
+TEST_F(StatoProva, CheCosaVuoleIlChiamante) {
+    struct Caso {
+        int richiesto, scelto;
+        const char *evidenza;
+    };
+    const Caso casi[] = {
+        {.richiesto = kAsteTipo, .scelto = kAsteTipo, .evidenza = ""},
+        {.richiesto = kAsteTipo, .scelto = kGusciTipo, .evidenza = "richieste: aste"},
+        {.richiesto = kNodiTipo, .scelto = kAsteTipo, .evidenza = "richiesti: nodi"},
+        {.richiesto = kGusciTipo, .scelto = kNodiTipo, .evidenza = "richiesti: gusci"},
+        {.richiesto = kElContTipo, .scelto = kNodiTipo, .evidenza = "richiesti: elementi continui"},
+        {.richiesto = kParetiTipo, .scelto = kNodiTipo, .evidenza = "richieste: pareti"},
+        {.richiesto = 7, .scelto = kAsteTipo, .evidenza = ""}, // no kind
+    };
+    for (const Caso &caso : casi) {
+        ApriCon(caso.richiesto);
+        Tipo(caso.scelto);
+        EXPECT_EQ(Evidenza(), caso.evidenza) << caso.richiesto << " asked, " << caso.scelto;
+    }
+    Cancella("lavori/prova1/TelvaIn.txt");
+    Apri(Telaio());
+    Tipo(kGusciTipo);
+    EXPECT_EQ(Evidenza(), "") << "nobody asks for anything";
+}
+
+TEST_F(StatoProva, NienteDaVedere) {
+    ApriCon(kNodiTipo);
+    for (const Filtro filtro : {Filtro::Nodi, Filtro::Aste, Filtro::Gusci}) Mostra(filtro);
+    EXPECT_EQ(Evidenza(), "nessun elemento mostrato: vedere filtri e intervalli");
+    Tipo(kAsteTipo);
+    EXPECT_EQ(Evidenza(), "nessun elemento mostrato: vedere filtri e intervalli; richiesti: nodi");
+    Mostra(Filtro::Aste);
+    EXPECT_EQ(Evidenza(), "richiesti: nodi");
+}
+
+TEST_F(StatoProva, CheCosaSiPuoScrivere) {
+    ApriCon(kAsteTipo);
+    Menu("Aggiungi");
+    struct Caso {
+        const char *voce;
+        int tipo;
+        const char *atteso;
+    };
+    const Caso casi[] = {
+        {.voce = "SchSezione", .tipo = kAsteTipo, .atteso = "sezioni presenti: 1-2"},
+        {.voce = "SchSvincolo", .tipo = kAsteTipo, .atteso = "svincoli presenti: 1"},
+        {.voce = "SchOrientamento", .tipo = kAsteTipo, .atteso = "orientamenti presenti: 1-3,7"},
+        {.voce = "Materiale", .tipo = kAsteTipo, .atteso = "materiali presenti: 1-2"},
+        {.voce = "Materiale", .tipo = kGusciTipo, .atteso = "materiali presenti: 3"},
+        {.voce = "SchSpessore", .tipo = kGusciTipo, .atteso = "spessori presenti: 1"},
+        {.voce = "SchVincolo", .tipo = kNodiTipo, .atteso = "vincoli presenti: 1-2"},
+        {.voce = "Nome", .tipo = kAsteTipo, .atteso = "nomi presenti: da 1 a 12"},
+        {.voce = "Nome", .tipo = kElContTipo, .atteso = "nomi presenti: da 10 a 20"},
+    };
+    for (const Caso &caso : casi) {
+        Tipo(caso.tipo);
+        Menu(caso.voce);
+        EXPECT_EQ(Poi(), caso.atteso) << caso.voce << ", kind " << caso.tipo;
+    }
+    Tipo(kAsteTipo);
+    Menu("SchSezione");
+    Tipo(kNodiTipo);
+    EXPECT_EQ(Poi(), "La selezione per sezione non è possibile per i nodi");
+    Tipo(kAsteTipo);
+    Menu("SchOrientamento");
+    Intervallo(Estremo::MinZ, "150"); // only the uppermost row of bars
+    EXPECT_EQ(Poi(), "orientamenti presenti: 3") << "of what is shown";
+    Mostra(Filtro::Aste);
+    EXPECT_EQ(Poi(), "orientamenti presenti: -") << "nothing is shown";
+}
+
+TEST_F(StatoProva, CheCosaFarebbeUnClic) {
+    ApriCon(kNodiTipo);
+    EXPECT_EQ(Poi(), "Ctrl+A aggiunge, Ctrl+T rimuove");
+    Muovi(0, 0);
+    EXPECT_EQ(Poi(), "Ctrl+A aggiunge, Ctrl+T rimuove") << "without a function nothing is picked";
+    Menu("Aggiungi");
+    struct Caso {
+        int tipo;
+        float x, y;
+        const char *atteso;
+    };
+    const Caso casi[] = {
+        {.tipo = kNodiTipo, .x = 0, .y = 0, .atteso = "clic: nodo 1"},
+        {.tipo = kNodiTipo, .x = 100, .y = 100, .atteso = "clic: nodo 5, vincolo 1"},
+        {.tipo = kNodiTipo, .x = 50, .y = 50, .atteso = "clic: apre una finestra"},
+        {.tipo = kAsteTipo, .x = 50, .y = 0, .atteso = "clic: asta 1, sezione 1, materiale 1"},
+        {.tipo = kGusciTipo,
+         .x = 150,
+         .y = 50,
+         .atteso = "clic: guscio 2, spessore 1, materiale 3"},
+        {.tipo = kElContTipo,
+         .x = 50,
+         .y = 0,
+         .atteso = "clic: elemento continuo 10 - Trave bassa"},
+        {.tipo = kParetiTipo, .x = 50, .y = 0, .atteso = "clic: apre una finestra"},
+    };
+    for (const Caso &caso : casi) {
+        Tipo(caso.tipo);
+        Muovi(caso.x, caso.y);
+        EXPECT_EQ(Poi(), caso.atteso) << "kind " << caso.tipo << " at " << caso.x << ", " << caso.y;
+    }
+    Tipo(kNodiTipo);
+    Muovi(0, 0);
+    Distrai();
+    EXPECT_EQ(Poi(), "") << "a key has the word";
+    Muovi(0, 0);
+    Esci();
+    EXPECT_EQ(Poi(), "") << "the pointer has left";
+    EXPECT_EQ(f.LabCoord.Caption(), "") << "and its coordinates with it";
+    Menu("Finestra");
+    Muovi(50, 50);
+    EXPECT_EQ(Poi(), "clic: primo angolo");
+    Clic(50, 50);
+    EXPECT_EQ(Poi(), "clic: angolo opposto");
+    Menu("Sposta");
+    EXPECT_EQ(Poi(), "clic: punto da spostare");
+    Clic(20, 20);
+    EXPECT_EQ(Poi(), "clic: dove portarlo");
+}
+
+TEST_F(StatoProva, LEtichettaSiNascondeSenzaPosto) {
+    ApriCon(kGusciTipo);
+    struct Caso {
+        double larghezza;
+        bool coordinate, attesa;
+    };
+    const Caso casi[] = {
+        {.larghezza = 15000, .coordinate = true, .attesa = true},
+        {.larghezza = 5550, .coordinate = true, .attesa = false},
+        {.larghezza = 5550, .coordinate = false, .attesa = true}, // their room is free
+        {.larghezza = 6400, .coordinate = true, .attesa = false},
+        {.larghezza = 6800, .coordinate = true, .attesa = true},
+    };
+    for (const Caso &caso : casi) {
+        Ridimensiona(caso.larghezza, 11400);
+        if (f.VisCoord.Checked != caso.coordinate) Menu("VisCoord");
+        EXPECT_EQ(f.LabStato.Visible(), caso.attesa) << caso.larghezza << " twips";
+    }
+    Tipo(kAsteTipo);
+    EXPECT_EQ(f.LabStato.Evidenza(), "richiesti: gusci");
+    EXPECT_EQ(f.LabStato.Caption(), "richiesti: gusci; nessuna asta selezionata\r\n"
+                                    "Ctrl+A aggiunge, Ctrl+T rimuove");
+}
+
+struct PredaProva : StatoProva {
+    std::vector<int> Selezionati(int tipo) {
+        const Elementi &e = ElementiDi(tipo);
+        std::vector<int> flag;
+        for (int i = 0; i < e.numero; ++i) flag.push_back(e.selezionati[i]);
+        return flag;
+    }
+};
+
+TEST_F(PredaProva, CioCheSiVedePrimaECioCheSiPrende) {
+    LavoroProva lavoro = Telaio();
+    lavoro.nodi.push_back({0, 5}); // a second node of that name
+    lavoro.elementi.push_back({30, "Senza aste", {}});
+    Apri(lavoro);
+    std::mt19937 sorte(7);
+    const auto posto = [&] {
+        const auto fra = std::uniform_int_distribution(-40, 240)(sorte);
+        return static_cast<float>(fra) / (sorte() % 2 ? 1.0f : 5.0f);
+    };
+    for (int giro = 0; giro < 400; ++giro) {
+        const int tipo = giro % 5;
+        const bool aggiunge = giro / 5 % 3 != 0;
+        Menu(aggiunge ? "Aggiungi" : "Rimuovi");
+        Tipo(tipo);
+        const float x = posto(), y = posto();
+        Muovi(x, y);
+        const EffettoClic effetto = ClicSulDisegno();
+        const ElementiPresi preda = Preda();
+        std::vector<int> attesi = tipo == kParetiTipo ? std::vector<int>() : Selezionati(tipo);
+        for (const int i : preda.elementi) attesi[static_cast<std::size_t>(i)] = aggiunge ? 1 : 0;
+        Clic(x, y);
+        if (tipo != kParetiTipo) {
+            EXPECT_EQ(Selezionati(tipo), attesi) << x << ", " << y;
+        }
+        EXPECT_EQ(effetto, PrimoAngolo == 1 ? EffettoClic::ApreFinestra : EffettoClic::Elemento)
+            << "kind " << tipo << " at " << x << ", " << y;
+        EXPECT_EQ(preda.elementi.empty(), effetto != EffettoClic::Elemento);
+    }
+}
+
+TEST_F(PredaProva, LaSagomaEQuellaDellElemento) {
+    Apri(Telaio());
+    Menu("Aggiungi");
+    struct Caso {
+        int tipo;
+        float x, y;
+        std::size_t linee, cerchi;
+    };
+    const Caso casi[] = {
+        {.tipo = kNodiTipo, .x = 0, .y = 0, .linee = 0, .cerchi = 1},
+        {.tipo = kAsteTipo, .x = 50, .y = 0, .linee = 1, .cerchi = 0},
+        {.tipo = kGusciTipo, .x = 50, .y = 50, .linee = 4, .cerchi = 0},
+        {.tipo = kElContTipo, .x = 50, .y = 0, .linee = 2, .cerchi = 0}, // both of its bars
+        {.tipo = kAsteTipo, .x = 50, .y = 50, .linee = 0, .cerchi = 0},
+    };
+    for (const Caso &caso : casi) {
+        Tipo(caso.tipo);
+        Muovi(caso.x, caso.y);
+        EXPECT_EQ(d.Anteprima().linee.size(), caso.linee) << "kind " << caso.tipo;
+        EXPECT_EQ(d.Anteprima().cerchi.size(), caso.cerchi) << "kind " << caso.tipo;
+    }
+    Tipo(kAsteTipo);
+    Muovi(50, 0);
+    const Sagoma::Linea attesa{0, 0, 100, 0};
+    ASSERT_EQ(d.Anteprima().linee.size(), 1u);
+    EXPECT_EQ(d.Anteprima().linee[0], attesa);
+    Distrai();
+    EXPECT_TRUE(d.Anteprima().Vuota()) << "gone with a key, a menu, another window";
+}
+
+} // namespace telva::prove
