@@ -22,8 +22,10 @@ prova() { # DPI or nothing, screen, scenarios or nothing for all
         wine "$windows/tests/e2e/prove_e2e.exe" --telva "$windows/telva.exe" --dati "$radice" \
         --foto "$dati/foto" ${scelti:+--solo "$scelti"}
 }
-prova '' 1600x1000 ''
-prova 144 1600x1000 ''
-prova 192 1600x1000 "$sensibili"
-prova '' 3840x2160 "$sensibili"
-[ -n "$solo" ] || prova 144 800x600 'schermo_piccolo,posto_*'
+# Each of them runs, whatever the one before has found.
+esito=0
+prova '' 1600x1000 '' || esito=1
+prova 144 1600x1000 '' || esito=1
+prova 192 1600x1000 "$sensibili" || esito=1
+prova '' 3840x2160 "$sensibili" || esito=1
+exit $esito

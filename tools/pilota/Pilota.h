@@ -1,7 +1,7 @@
 #pragma once
 // Drives a program's real window from outside: starts it, presses keys and mouse buttons, reads
 // what it shows. Texts are UTF-8, positions are pixels. Nothing here waits for a time: each step
-// polls for its condition, and after 20 seconds fails with what was awaited and what was seen.
+// polls for its condition, and after a minute fails with what was awaited and what was seen.
 #include "Base.h"
 #include "Ingressi.h"
 #include "Schermo.h"
