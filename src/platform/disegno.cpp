@@ -108,7 +108,10 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
                            Tratteggio t) {
     Pixel a, b;
-    if (!EstremiInPixel(x1, y1, x2, y2, a, b)) return;
+    if (EstremiInPixel(x1, y1, x2, y2, a, b)) Line(a, b, colore, t);
+}
+
+void RiquadroDisegno::Line(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t) {
     const std::uint32_t rgb = APixelRGB(colore);
     if (DrawWidth > 1)
         superficie_.LineaLarga(a, b, DrawWidth, rgb);
@@ -139,10 +142,28 @@ void RiquadroDisegno::LineeTratti(const Tratti &t, double x, double y, std::uint
 void RiquadroDisegno::Circle(double x, double y, double raggio, std::uint32_t colore) {
     bool fuori = false;
     const Pixel centro = InPixel(x, y, fuori);
-    if (fuori) return;
+    if (!fuori) Circle(centro, RaggioInPixel(raggio), colore);
+}
+
+void RiquadroDisegno::Circle(Pixel centro, int raggio, std::uint32_t colore) {
+    superficie_.Cerchio(centro, raggio, std::max(DrawWidth, 1), APixelRGB(colore));
+}
+
+int RiquadroDisegno::RaggioInPixel(double raggio) const {
     const double r = std::min(raggio / UnitaPerPixel(), double{Superficie::kRaggioMassimo});
-    superficie_.Cerchio(centro, InteroVicino(std::max(r, 0.0)), std::max(DrawWidth, 1),
-                        APixelRGB(colore));
+    return InteroVicino(std::max(r, 0.0));
+}
+
+void RiquadroDisegno::Rilascia() {
+    if (--trattenuta_ > 0 || !dovuta_) return;
+    dovuta_ = false;
+    if (Ridisegna) Ridisegna();
+}
+
+bool RiquadroDisegno::Rimandata() {
+    if (trattenuta_ == 0) return false;
+    dovuta_ = true;
+    return true;
 }
 
 } // namespace telva

@@ -55,6 +55,11 @@ class RiquadroDisegno : public Controllo {
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore);
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore, Tratteggio t);
     void Circle(double x, double y, double raggio, std::uint32_t colore);
+    // The same between pixels, for places and radii that many shapes share.
+    void Line(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t);
+    void Circle(Pixel centro, int raggio, std::uint32_t colore);
+    // Radius of a circle in whole pixels, at most Superficie::kRaggioMassimo.
+    int RaggioInPixel(double raggio) const;
     // Segments in pixels whose origin is the point (x, y).
     void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore);
     // Lit pixels around a pixel.
@@ -81,6 +86,15 @@ class RiquadroDisegno : public Controllo {
     // A zone of the picture with them over it, as it is shown.
     void ComponiElastici(Superficie &parte, const ZonaPixel &zona) const;
 
+    // Between these two a picture that is asked for may be left out (Rimandata); the last Rilascia
+    // asks Ridisegna for it. For events that come in a row, of which only the last one's picture is
+    // seen. They may be nested.
+    void Trattieni() { ++trattenuta_; }
+    void Rilascia();
+    // Asked by who is about to draw: true while pictures are held back, and then one is owed.
+    bool Rimandata();
+    std::function<void()> Ridisegna;
+
   private:
     void AggiornaScala();
     struct TrattoElastico;
@@ -92,6 +106,8 @@ class RiquadroDisegno : public Controllo {
 
     Superficie superficie_;
     double scalaX_ = 1, scalaY_ = 1; // pixels per unit
+    int trattenuta_ = 0;
+    bool dovuta_ = false;
 };
 
 } // namespace telva

@@ -33,7 +33,7 @@ double MezzaCorda(double raggio, double dy) {
 const std::uint32_t *Superficie::Riga(int y) const {
     return pixel_.data() + static_cast<std::ptrdiff_t>(y) * larghezza_;
 }
-std::uint32_t *Superficie::Riga(int y) {
+std::uint32_t *Superficie::Scrivibile(int y) {
     return pixel_.data() + static_cast<std::ptrdiff_t>(y) * larghezza_;
 }
 
@@ -45,9 +45,13 @@ void Superficie::Ridimensiona(int larghezza, int altezza) {
     pixel_.resize(pixel);
 }
 
-void Superficie::Riempi(std::uint32_t colore) { std::fill(pixel_.begin(), pixel_.end(), colore); }
+void Superficie::Riempi(std::uint32_t colore) {
+    ++giro_;
+    std::fill(pixel_.begin(), pixel_.end(), colore);
+}
 
 void Superficie::CopiaZona(const Superficie &altra, const ZonaPixel &zona) {
+    ++giro_;
     larghezza_ = zona.larghezza;
     altezza_ = zona.altezza;
     pixel_.clear();
@@ -73,7 +77,7 @@ void Superficie::Orizzontale(int xDa, int xA, int y, std::uint32_t colore) {
     if (y < 0 || y >= altezza_) return;
     xDa = std::max(xDa, 0);
     xA = std::min(xA, larghezza_ - 1);
-    if (xDa <= xA) Stendi(Riga(y) + xDa, xA - xDa + 1, colore);
+    if (xDa <= xA) Stendi(Scrivibile(y) + xDa, xA - xDa + 1, colore);
 }
 
 namespace {
@@ -157,6 +161,7 @@ void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
 }
 
 void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
+    Intingi(colore);
     if (a.y == b.y) {
         Orizzontale(std::min(a.x, b.x), std::max(a.x, b.x), a.y, colore);
         return;
@@ -166,6 +171,7 @@ void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
 }
 
 void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t) {
+    Intingi(colore);
     std::uint32_t *pixel = pixel_.data();
     Percorri(a, b, [=](std::ptrdiff_t posto, int passo) {
         if ((t.bit >> (passo % t.periodo)) & 1u) pixel[posto] = colore;
@@ -212,17 +218,18 @@ void Timbro::Riempi(const Tratti &t, double x, double y) {
 }
 
 void Superficie::Timbra(const Timbro &t, Pixel o, std::uint32_t colore) {
+    Intingi(colore);
     const bool dentro = o.x + t.minimo.x >= 0 && o.y + t.minimo.y >= 0 &&
                         o.x + t.massimo.x < larghezza_ && o.y + t.massimo.y < altezza_;
     if (dentro) {
-        std::uint32_t *origine = Riga(o.y) + o.x;
+        std::uint32_t *origine = Scrivibile(o.y) + o.x;
         const std::ptrdiff_t riga = larghezza_;
         for (const Pixel &p : t.pixel) origine[p.y * riga + p.x] = colore;
         return;
     }
     for (const Pixel &p : t.pixel) {
         const int x = o.x + p.x, y = o.y + p.y;
-        if (x >= 0 && y >= 0 && x < larghezza_ && y < altezza_) Riga(y)[x] = colore;
+        if (x >= 0 && y >= 0 && x < larghezza_ && y < altezza_) Scrivibile(y)[x] = colore;
     }
 }
 
@@ -263,18 +270,27 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
     return anello_;
 }
 
-void Superficie::TimbraForma(const std::vector<Tratto> &forma, Pixel c, std::uint32_t colore) {
+void Superficie::TimbraForma(const std::vector<Tratto> &forma, Pixel c, int ingombro,
+                             std::uint32_t colore) {
+    if (c.x >= ingombro && c.y >= ingombro && c.x + ingombro < larghezza_ &&
+        c.y + ingombro < altezza_) {
+        std::uint32_t *centro = Scrivibile(c.y) + c.x;
+        for (const Tratto &t : forma)
+            Stendi(centro + std::ptrdiff_t{t.y} * larghezza_ + t.xDa, t.xA - t.xDa + 1, colore);
+        return;
+    }
     for (const Tratto &t : forma) Orizzontale(c.x + t.xDa, c.x + t.xA, c.y + t.y, colore);
 }
 
 void Superficie::Cerchio(Pixel c, int raggio, int larghezza, std::uint32_t colore) {
     raggio = std::clamp(raggio, 0, kRaggioMassimo);
     larghezza = std::clamp(larghezza, 1, kPennaMassima);
+    Intingi(colore);
     const int ingombro = raggio + larghezza;
     if (c.x < -ingombro || c.y < -ingombro || c.x > larghezza_ + ingombro ||
         c.y > altezza_ + ingombro)
         return;
-    TimbraForma(raggio == 0 ? Disco(larghezza) : Anello(raggio, larghezza), c, colore);
+    TimbraForma(raggio == 0 ? Disco(larghezza) : Anello(raggio, larghezza), c, ingombro, colore);
 }
 
 namespace {
@@ -309,6 +325,26 @@ class Fascia {
 
 } // namespace
 
+void Superficie::Intingi(std::uint32_t colore) {
+    if (colore == colore_) return;
+    colore_ = colore;
+    ++giro_;
+}
+
+// Neighbouring shells share a side, and often a bar with it. Remembers the line; the table forgets
+// when another one takes its place.
+bool Superficie::GiaTracciata(Pixel a, Pixel b, int larghezza) {
+    constexpr std::uint32_t kBitPosti = 14;
+    if (tracciate_.empty()) tracciate_.resize(std::size_t{1} << kBitPosti);
+    std::uint32_t chiave = 0;
+    for (const int v : {a.x, a.y, b.x, b.y})
+        chiave = (chiave ^ static_cast<std::uint32_t>(v)) * 0x9E3779B1u;
+    Tracciata &t = tracciate_[(chiave ^ chiave >> 15) & ((1u << kBitPosti) - 1)];
+    if (t.giro == giro_ && t.a == a && t.b == b && t.larghezza == larghezza) return true;
+    t = {a, b, larghezza, giro_};
+    return false;
+}
+
 // The band between two discs is convex: every row of it is one run, whose ends are the outermost
 // of the two discs and of the two long edges that touch both. Rows between the discs have their
 // ends on the edges alone.
@@ -317,12 +353,14 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
     if (std::max(a.x, b.x) < -larghezza || std::min(a.x, b.x) > larghezza_ + larghezza ||
         std::max(a.y, b.y) < -larghezza || std::min(a.y, b.y) > altezza_ + larghezza)
         return;
+    Intingi(colore);
     const std::vector<Tratto> &disco = Disco(larghezza);
     if (a == b) {
-        TimbraForma(disco, a, colore);
+        TimbraForma(disco, a, larghezza, colore);
         return;
     }
-    if (a.y > b.y) std::swap(a, b);
+    if (a.y > b.y || (a.y == b.y && a.x > b.x)) std::swap(a, b);
+    if (GiaTracciata(a, b, larghezza)) return;
     const Fascia fascia(a, b, larghezza);
     const int sopra = disco.front().y, sotto = disco.back().y;
     const auto righe = [&](int da, int fino, auto riga) {

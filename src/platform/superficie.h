@@ -56,7 +56,10 @@ class Superficie {
     int Larghezza() const { return larghezza_; }
     int Altezza() const { return altezza_; }
     const std::uint32_t *Riga(int y) const;
-    std::uint32_t *Riga(int y);
+    std::uint32_t *Riga(int y) { // to write there from outside
+        ++giro_;
+        return Scrivibile(y);
+    }
     std::uint32_t Leggi(int x, int y) const { return Riga(y)[x]; }
 
     // New size (at least 1 x 1); the content is undefined until the next Riempi.
@@ -84,13 +87,23 @@ class Superficie {
     struct Tratto { // pixels xDa..xA of one row, relative to the centre
         int y, xDa, xA;
     };
+    // A wide line in the colour that has not changed since: drawing it again would change nothing.
+    struct Tracciata {
+        Pixel a, b;
+        int larghezza = 0;
+        std::uint32_t giro = 0;
+    };
+    std::uint32_t *Scrivibile(int y);
+    void Intingi(std::uint32_t colore);
+    bool GiaTracciata(Pixel a, Pixel b, int larghezza);
     static void Stendi(std::uint32_t *da, std::ptrdiff_t quanti, std::uint32_t colore);
     void Orizzontale(int xDa, int xA, int y, std::uint32_t colore);
     template <class Scrivi>
     void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
     const std::vector<Tratto> &Disco(int larghezza);
     const std::vector<Tratto> &Anello(int raggio, int larghezza);
-    void TimbraForma(const std::vector<Tratto> &forma, Pixel centro, std::uint32_t colore);
+    void TimbraForma(const std::vector<Tratto> &forma, Pixel centro, int ingombro,
+                     std::uint32_t colore);
 
     int larghezza_ = 0;
     int altezza_ = 0;
@@ -99,6 +112,8 @@ class Superficie {
     std::vector<Tratto> anello_; // of the radius and pen used last: a picture uses few
     int raggioAnello_ = -1;
     int pennaAnello_ = -1;
+    std::vector<Tracciata> tracciate_;
+    std::uint32_t colore_ = 0, giro_ = 1; // what is drawn in now, and how often that has changed
 };
 
 } // namespace telva

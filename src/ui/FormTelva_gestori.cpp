@@ -166,6 +166,7 @@ void CollegaFormTelva() {
     f.Disegno.MouseLeave = Disegno_MouseLeave;
     f.Distratta = PuntatoreFuori;
     f.DopoEvento = AggiornaStato;
+    f.Disegno.Ridisegna = DisegnaStruttura;
 }
 
 } // namespace telva

@@ -8,6 +8,7 @@
 #include "view/assi.h"
 #include "view/colori.h"
 #include "view/etichette.h"
+#include "view/posti.h"
 #include "view/proiezione.h"
 #include "view/retini.h"
 #include "view/visibile.h"
@@ -61,20 +62,19 @@ std::vector<bool> AsteEvidenziate() {
     return aste;
 }
 
-void DisegnaAste(const Stile &stile) {
+void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
     const std::vector<bool> evidenziate = AsteEvidenziate();
     for (int b = 0; b < NumAste; ++b) {
         if (!AstaDisegnata(b)) continue;
         const bool sel = evidenziate[static_cast<std::size_t>(b)];
-        const int i = NodoIAsta[b], j = NodoJAsta[b];
         d.DrawWidth = stile.Larghezza(sel);
-        d.Line(XNodo(i), YNodo(i), XNodo(j), YNodo(j), stile.Colore(sel, ColAsta[b]),
-               TrattoLinea(TipoLinAsta[b]));
+        posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
+                    TrattoLinea(TipoLinAsta[b]));
     }
 }
 
-void DisegnaGusci(const Stile &stile) {
+void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
     for (int s = 0; s < NumGusci; ++s) {
         if (!GuscioDisegnato(s)) continue;
@@ -82,23 +82,23 @@ void DisegnaGusci(const Stile &stile) {
         const std::uint32_t colore = stile.Colore(sel, ColGuscio[s]);
         const auto &nodi = NodiGuscio[s];
         const auto angoli = static_cast<std::size_t>(NumeroAngoli(s));
-        DisegnaRetino(s, colore);
+        DisegnaRetino(s, colore, posti);
         d.DrawWidth = stile.Larghezza(sel);
-        for (std::size_t c = 0; c < angoli; ++c) {
-            const int a = nodi[c], z = nodi[(c + 1) % angoli];
-            d.Line(XNodo(a), YNodo(a), XNodo(z), YNodo(z), colore);
-        }
+        for (std::size_t c = 0; c < angoli; ++c)
+            posti.Linea(nodi[c], nodi[c + 1 < angoli ? c + 1 : 0], colore);
     }
 }
 
-void DisegnaNodi(const Stile &stile) {
+void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
-    const double raggio = OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel();
+    const int raggio = d.RaggioInPixel(OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel());
     for (int i = 0; i < NumNodi; ++i) {
         if (!NodoDisegnato(i)) continue;
+        const std::optional<Pixel> centro = posti.Posto(i);
+        if (!centro) continue; // far outside
         const bool sel = SelNodo[i] == 1;
         d.DrawWidth = stile.Larghezza(sel);
-        d.Circle(XNodo(i), YNodo(i), raggio, stile.Colore(sel, ColNodo[i]));
+        d.Circle(*centro, raggio, stile.Colore(sel, ColNodo[i]));
     }
 }
 
@@ -106,6 +106,7 @@ void DisegnaNodi(const Stile &stile) {
 
 void DisegnaStruttura() {
     RiquadroDisegno &d = FormTelva.Disegno;
+    if (d.Rimandata()) return;
     const Stile stile;
     d.Cls();
     if (!Proiettata()) {
@@ -113,9 +114,10 @@ void DisegnaStruttura() {
         return;
     }
     if (FormTelva.VisAssi.Checked) DisegnaAssi();
-    DisegnaAste(stile);
-    DisegnaGusci(stile);
-    DisegnaNodi(stile);
+    const PostiNodi posti(d);
+    DisegnaAste(stile, posti);
+    DisegnaGusci(stile, posti);
+    DisegnaNodi(stile, posti);
     DisegnaEtichette();
     d.DrawWidth = 1;
     d.Presenta();

@@ -109,22 +109,21 @@ void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rg
 
 } // namespace
 
-void DisegnaRetino(int guscio, std::uint32_t colore) {
+void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
     const int tipo = TrattGuscio[guscio];
     if (tipo < 1 || tipo > 8) return;
-    RiquadroDisegno &d = FormTelva.Disegno;
     Poligono p;
     p.numero = static_cast<std::size_t>(NumeroAngoli(guscio));
-    bool fuori = false;
     int minX = INT32_MAX, maxX = INT32_MIN, minY = INT32_MAX, maxY = INT32_MIN;
     for (std::size_t c = 0; c < p.numero; ++c) {
-        const int nodo = NodiGuscio[guscio][c];
-        const Pixel v = p.vertici[c] = d.InPixel(XNodo(nodo), YNodo(nodo), fuori);
+        const std::optional<Pixel> posto = posti.Posto(NodiGuscio[guscio][c]);
+        if (!posto) return;
+        const Pixel v = p.vertici[c] = *posto;
         minX = std::min(minX, v.x), maxX = std::max(maxX, v.x);
         minY = std::min(minY, v.y), maxY = std::max(maxY, v.y);
     }
-    Superficie &s = d.Immagine();
-    if (fuori || std::min(maxX - minX, maxY - minY) < kLatoMinimo || maxX < 0 || maxY < 0 ||
+    Superficie &s = FormTelva.Disegno.Immagine();
+    if (std::min(maxX - minX, maxY - minY) < kLatoMinimo || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
     const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];

@@ -108,10 +108,21 @@ void DisegnoWin32::Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARA
     finestra_.Evento([&] { gestore(tasti, maiuscoli, x, y); });
 }
 
+// Where the pointer stands by now, if more of its moves wait right behind this one: each of them
+// may cost a picture.
+LPARAM DisegnoWin32::PostoPiuRecente(WPARAM w, LPARAM l) const {
+    for (MSG m{}; PeekMessageW(&m, nullptr, 0, 0, PM_NOREMOVE) && m.hwnd == hwnd_ &&
+                  m.message == WM_MOUSEMOVE && m.wParam == w;) {
+        if (!PeekMessageW(&m, hwnd_, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_REMOVE)) break;
+        l = m.lParam;
+    }
+    return l;
+}
+
 void DisegnoWin32::Mosso(WPARAM w, LPARAM l) {
     TRACKMOUSEEVENT avviso{sizeof avviso, TME_LEAVE, hwnd_, 0};
     TrackMouseEvent(&avviso); // told once when the pointer leaves; without it nothing is lost
-    Mouse(controllo_.MouseMove, Tasti(w), w, l);
+    Mouse(controllo_.MouseMove, Tasti(w), w, PostoPiuRecente(w, l));
 }
 
 void DisegnoWin32::TastoPremuto(int tasto, WPARAM w, LPARAM l) {

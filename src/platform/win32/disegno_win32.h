@@ -12,6 +12,8 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
 
     Puntatore FormaPuntatore() const override { return controllo_.MousePointer; }
     bool PrendeRotella() const override { return true; }
+    void InizioRotella() override { controllo_.Trattieni(); }
+    void FineRotella() override { controllo_.Rilascia(); }
 
   protected:
     HWND Crea(const Nascita &nascita) override;
@@ -25,6 +27,7 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     void DipingiZona(HDC dc, const ZonaPixel &zona) const;
     void Invalida(const std::vector<ZonaPixel> &zone) const;
     void AggiornaElastici();
+    LPARAM PostoPiuRecente(WPARAM w, LPARAM l) const;
     void Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l);
     void Mosso(WPARAM w, LPARAM l);
     void TastoPremuto(int tasto, WPARAM w, LPARAM l);

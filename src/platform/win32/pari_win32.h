@@ -38,6 +38,9 @@ class PariWin32 : public Pari {
     virtual void Spostato() {}
     virtual void DpiCambiato() {}
     virtual void ColoriCambiati() { SendMessageW(hwnd_, WM_SYSCOLORCHANGE, 0, 0); }
+    // Around wheel steps that come together.
+    virtual void InizioRotella() {}
+    virtual void FineRotella() {}
     virtual void VoceCambiata([[maybe_unused]] const VoceMenu &voce) {}
 
     // ---- What the window asks

@@ -52,13 +52,25 @@ bool TastieraWin32::Rotella(const MSG &m) {
     const HWND sotto = WindowFromPoint(dove);
     // The property of another process's window would be a pointer into that process.
     const bool nostra = sotto && GetAncestor(sotto, GA_ROOT) == finestra_.Maniglia();
-    const PariWin32 *p = nostra ? PariDiNativo(sotto) : nullptr;
+    PariWin32 *p = nostra ? PariDiNativo(sotto) : nullptr;
     if (!p || !p->PrendeRotella()) return false;
+    p->InizioRotella();
+    Scatti(m);
+    // Steps that wait right behind this one: nobody would see the pictures between.
+    for (MSG altro{}; PeekMessageW(&altro, nullptr, 0, 0, PM_NOREMOVE) && altro.hwnd == m.hwnd &&
+                      altro.message == WM_MOUSEWHEEL && altro.lParam == m.lParam;) {
+        if (!PeekMessageW(&altro, m.hwnd, WM_MOUSEWHEEL, WM_MOUSEWHEEL, PM_REMOVE)) break;
+        Scatti(altro);
+    }
+    finestra_.Evento([p] { p->FineRotella(); });
+    return true;
+}
+
+void TastieraWin32::Scatti(const MSG &m) {
     const int passi = rotella_.Aggiungi(static_cast<short>(HIWORD(m.wParam)));
     // One by one: five at once, each a tenth from either side, would leave nothing of the window.
     for (int n = std::abs(passi); n > 0; --n)
         finestra_.Evento([&] { modulo_.Rotella(passi > 0 ? 1 : -1); });
-    return true;
 }
 
 } // namespace telva

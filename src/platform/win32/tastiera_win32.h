@@ -19,6 +19,7 @@ class TastieraWin32 {
     bool Tasto(const MSG &messaggio);
     bool Esc(const MSG &messaggio);
     bool Rotella(const MSG &messaggio);
+    void Scatti(const MSG &messaggio);
 
     const Modulo &modulo_;
     OspiteWin32 &finestra_;
