@@ -1,20 +1,19 @@
 #!/bin/bash
-# Measures every operation at a tenth, a third and the whole capacity, natively and in the real program
-# under Wine, and prints the table with targets.
-#   bench/misura.sh            JSON and texts stay in build/misure
+# Measures every operation: without a window, natively and in both Windows builds, at a tenth, a third and the whole
+# capacity and in three sizes of the picture; and in the real program, both builds, under Wine. Prints the tables.
+#   bench/misura.sh [ROUNDS]       (3; the builds take turns, and each figure is the median of its best round)
+# The texts stay in build/misure.
 set -eu
 cd "$(dirname "$0")/.."
+giri=${1:-3} fuori=build/misure
 tools/prepara.sh
-cmake --preset nativo >/dev/null
+for preset in nativo x64 x86; do cmake --preset $preset >/dev/null; done
 cmake --build build/nativo --target misure genera_lavoro
-cmake --preset x64 >/dev/null
-cmake --build build/x64 --target telva misure_finestra finestra_vuota
-fuori=build/misure
+for preset in x64 x86; do cmake --build build/$preset --target telva misure misure_finestra finestra_vuota; done
+rm -rf $fuori
 mkdir -p $fuori
-build/nativo/bench/misure --benchmark_repetitions=5 --benchmark_report_aggregates_only=true \
-    --benchmark_min_time=0.2 --benchmark_out=$fuori/nativo.json --benchmark_out_format=json >/dev/null
+
 installa() { # folder: a job at full capacity; prints its root
-    rm -rf "$1"
     bash tools/installa_campione.sh build/nativo/tools/genera_lavoro/genera_lavoro "$1" \
         --lavoro piena0 --taglia piena
 }
@@ -23,7 +22,26 @@ rm $fuori/piena/custom/TelOpzio.txt # the defaults: selected elements with a pen
 etichette=$(installa $fuori/etichette)
 printf '%s\r\n' 1 1 1 4 0 1 5 1 1 1 5 5 1 5 1 1 1 1 1 1 1 1 1 1 1 1 0 0 0 0 \
     >$fuori/etichette/custom/TelOpzio.txt
-bash tests/e2e/esegui_wine.sh --prefisso build/wine -- wine build/x64/bench/misure_finestra.exe \
-    --telva build/x64/telva.exe --vuota build/x64/bench/finestra_vuota.exe \
-    --argomento "|diroot=$radice|" --etichette "|diroot=$etichette|" >$fuori/finestra.txt
-python3 bench/tabella.py $fuori/nativo.json $fuori/finestra.txt
+
+windows() { # x64 or x86, and a command of that build
+    local build=$1 con=()
+    shift
+    [ "$build" = x64 ] || con=(tools/wine32.sh)
+    "${con[@]}" bash tests/e2e/esegui_wine.sh --prefisso build/wine${build#x64} --schermo 4200x2500 -- wine "$@" |
+        tr -d '\r'
+}
+for ((giro = 1; giro <= giri; ++giro)); do
+    echo "round $giro of $giri" >&2
+    build/nativo/bench/misure --cartella $fuori/lavori_nativo >>$fuori/nativo.txt
+    for build in x64 x86; do
+        windows $build build/$build/bench/misure.exe --cartella $fuori/lavori_$build >>$fuori/$build.txt
+    done
+    for quadro in 1000x650 2560x1440 3840x2160; do
+        for build in x64 x86; do
+            windows $build build/$build/bench/misure_finestra.exe --telva build/$build/telva.exe \
+                --vuota build/$build/bench/finestra_vuota.exe --quadro $quadro \
+                --argomento "|diroot=$radice|" --etichette "|diroot=$etichette|" >>$fuori/finestra_$build.txt
+        done
+    done
+done
+python3 bench/tabella.py $fuori | tee $fuori/tabelle.md

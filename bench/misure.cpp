@@ -1,5 +1,10 @@
-// What an engineer waits for, measured on generated jobs of a tenth, a third and the whole capacity
-// (argument 0, 1, 2), drawing 1000 x 650 pixels. Natively, without a window.
+// What an engineer waits for, on generated jobs, without a window: the same program in every build,
+// native, 64 and 32 bit.
+//   misure --cartella DIR [--solo PREFIX] [--durata MILLISECONDS]
+// The jobs go into DIR. Prints one line "name job picture median processor", in milliseconds, for
+// each operation: a tenth, a third and the whole capacity at 1000x650, and the whole capacity in
+// larger pictures too. The second figure is the mean time of the processor: on a busy machine it is
+// the one to compare.
 #include "Generatore.h"
 #include "ScriviLavoro.h"
 #include "model/legfont_cond.h"
@@ -24,203 +29,363 @@
 #include "view/inquadra.h"
 #include "view/proiezione.h"
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
 #include <filesystem>
+#include <functional>
 #include <string>
-#include <unistd.h>
+#include <vector>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 using namespace telva;
 namespace fs = std::filesystem;
 
 namespace {
 
-const char *const kCodici[] = {"decimo", "terzo0", "piena0", "invers"};
+struct Lavoro {
+    const char *codice;
+    generatore::Taglia taglia;
+    generatore::Nomi nomi;
+};
+constexpr Lavoro kDecimo{"decimo", generatore::Taglia::Decimo, generatore::Nomi::Misti};
+constexpr Lavoro kTerzo{"terzo0", generatore::Taglia::Terzo, generatore::Nomi::Misti};
+constexpr Lavoro kPieno{"piena0", generatore::Taglia::Piena, generatore::Nomi::Misti};
+constexpr Lavoro kInverso{"invers", generatore::Taglia::Piena, generatore::Nomi::Inversi};
 
-fs::path Cartella() {
-    static const fs::path cartella = "/tmp/telva_misure_" + std::to_string(::getpid());
-    return cartella;
-}
+struct Quadro {
+    int larghezza, altezza;
+};
+constexpr Quadro kQuadri[] = {{1000, 650}, {2560, 1440}, {3840, 2160}};
 
-std::string Argomento(int taglia) {
-    std::string radice = Cartella().string();
+fs::path cartella;
+std::string solo;
+double durata = 300; // milliseconds, of each operation
+
+std::string Argomento(const Lavoro &lavoro) {
+    std::string radice = fs::absolute(cartella).string();
     std::replace(radice.begin(), radice.end(), '/', '\\');
-    return "|diroot=" + radice + "|LAVORO=" + kCodici[taglia];
+    return "|diroot=" + radice + "|LAVORO=" + lavoro.codice;
 }
 
 void Installa() {
-    using namespace telva::generatore;
-    std::string radice = Cartella().string();
+    std::string radice = fs::absolute(cartella).string();
     std::replace(radice.begin(), radice.end(), '/', '\\');
-    for (int taglia = 0; taglia < 4; ++taglia) {
-        Parametri p;
-        p.Misura = taglia == 0 ? Taglia::Decimo : taglia == 1 ? Taglia::Terzo : Taglia::Piena;
-        p.Ordine = taglia == 3 ? Nomi::Inversi : Nomi::Misti;
-        ScriviInstallazione(Cartella(), kCodici[taglia], Genera(p), radice);
+    for (const Lavoro &lavoro : {kDecimo, kTerzo, kPieno, kInverso}) {
+        generatore::Parametri p;
+        p.Misura = lavoro.taglia;
+        p.Ordine = lavoro.nomi;
+        generatore::ScriviInstallazione(cartella, lavoro.codice, generatore::Genera(p), radice);
     }
-    fs::copy_file(TELVA_RISORSE "/font/font.001", Cartella() / "progra" / "font.001",
-                  fs::copy_options::overwrite_existing);
+    const fs::path font = cartella / "progra" / "font.001";
+    fs::remove(font); // not every library can overwrite
+    fs::copy_file(TELVA_RISORSE "/font/font.001", font);
 }
 
-// The program, started on the job of that size, its drawing at the size of the targets.
-void Apri(int taglia) {
+// The program, started on that job, its drawing of that size.
+void Apri(const Lavoro &lavoro, const Quadro &quadro) {
     AzzeraProgramma();
-    ArgomentoAvvio = Argomento(taglia);
+    ArgomentoAvvio = Argomento(lavoro);
     Avvia();
-    FormTelva.Width = 1000 * 15 + 3024;
-    FormTelva.Height = 650 * 15 + 2700;
+    FormTelva.Width = quadro.larghezza * 15 + 3024;
+    FormTelva.Height = quadro.altezza * 15 + 2700;
     Form_Resize();
     CodFunAttiva = kAggiungi;
 }
+
+using Passo = std::function<void()>;
+constexpr auto kNiente = [] {};
+
+double Millisecondi(const Passo &passo) {
+    const auto inizio = std::chrono::steady_clock::now();
+    passo();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inizio)
+        .count();
+}
+
+// Milliseconds that the processor has worked for this program.
+double Processore() {
+#ifdef _WIN32
+    FILETIME nascita{}, fine{}, sistema{}, utente{};
+    GetProcessTimes(GetCurrentProcess(), &nascita, &fine, &sistema, &utente);
+    const auto decimi = [](const FILETIME &t) {
+        return static_cast<double>(t.dwHighDateTime) * 4294967296.0 + t.dwLowDateTime;
+    };
+    return (decimi(sistema) + decimi(utente)) / 10000;
+#else
+    return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+#endif
+}
+
+struct Tempi {
+    double mediana, processore;
+};
+
+// As many rounds as fit into the time, at least seven; what `prima` does counts only for the
+// processor.
+Tempi Cronometra(const Passo &prima, const Passo &fai) {
+    std::vector<double> tempi;
+    prima();
+    fai(); // the first one finds cold caches and makes tables that stay
+    const double inizio = Processore();
+    for (double somma = 0; somma < durata || tempi.size() < 7; somma += tempi.back()) {
+        prima();
+        tempi.push_back(Millisecondi(fai));
+    }
+    const double lavoro = (Processore() - inizio) / static_cast<double>(tempi.size());
+    std::sort(tempi.begin(), tempi.end());
+    return {tempi[tempi.size() / 2], lavoro};
+}
+
+// One job in one picture, and the operations on it.
+class Banco {
+  public:
+    Banco(const Lavoro &lavoro, const Quadro &quadro) : lavoro_(lavoro), quadro_(quadro) {}
+
+    // Starts the program anew, then `prepara`; counts what `fai` takes, after `prima` each time.
+    void Misura(const std::string &nome, const Passo &prepara, const Passo &fai,
+                const Passo &prima = kNiente) const {
+        if (!nome.starts_with(solo)) return;
+        Apri(lavoro_, quadro_);
+        prepara();
+        const Tempi tempi = Cronometra(prima, fai);
+        std::printf("%s %s %dx%d %.4f %.4f\n", nome.c_str(), lavoro_.codice, quadro_.larghezza,
+                    quadro_.altezza, tempi.mediana, tempi.processore);
+        std::fflush(stdout);
+    }
+    void Letture() const;
+    void Ridisegni() const;
+    void Selezioni() const;
+    void Puntatore() const;
+    void Elastici() const;
+    void Mezzo() const;
+
+  private:
+    const Lavoro &lavoro_;
+    const Quadro &quadro_;
+};
+
+const char *const kTipi[] = {"nodi", "aste", "gusci", "elementi"};
 
 void Tutto(int tipo) {
     FormTelva.OptElem[tipo].Seleziona();
     SelezionaPerColore(kOgniColore, Segno::Messo);
 }
 
-void Lettura(benchmark::State &s) {
-    Apri(static_cast<int>(s.range(0)));
-    for (auto _ : s) {
-        std::int16_t ok = 0;
-        LeggiOpzioni();
-        LeggiOpzInt();
-        LeggiFont();
-        LeggiSpessori();
-        LeggiSezioni();
-        LeggiElCont();
-        LeggiStruttura(ok);
-        benchmark::DoNotOptimize(ok);
-    }
-}
-
-void Avvio(benchmark::State &s) {
-    for (auto _ : s) {
-        s.PauseTiming();
-        AzzeraProgramma();
-        ArgomentoAvvio = Argomento(static_cast<int>(s.range(0)));
-        s.ResumeTiming();
-        Avvia();
-    }
-}
-
-void Ridisegno(benchmark::State &s, bool selezionato) {
-    Apri(static_cast<int>(s.range(0)));
+void SelezionaTutto() {
     Opzioni[kOpzPennaSel] = 4.0;
-    if (selezionato)
-        for (int tipo = 0; tipo < 4; ++tipo) Tutto(tipo);
-    for (auto _ : s) DisegnaStruttura();
+    for (int tipo = 0; tipo < 4; ++tipo) Tutto(tipo);
 }
 
-void RidisegnoEtichette(benchmark::State &s) {
-    Apri(static_cast<int>(s.range(0)));
-    for (int voce : {7, 8, 9, 24, 25}) Opzioni[voce] = 1.0;
-    for (auto _ : s) DisegnaStruttura();
-}
-
-// Back to nothing selected, so that every run has the same to do.
+// Back to nothing selected, so that every round has the same to do.
 void Deseleziona() {
     for (auto *t : {&SelNodo, &SelAsta}) std::fill_n(t->Dati(), t->Capacita(), std::int16_t{0});
     std::fill_n(SelGuscio.Dati(), SelGuscio.Capacita(), std::int16_t{0});
     std::fill_n(SelElCont.Dati(), SelElCont.Capacita(), std::int16_t{0});
 }
 
-void Rettangolo(benchmark::State &s, int tipo) {
-    Apri(static_cast<int>(s.range(0)));
-    FormTelva.OptElem[tipo].Seleziona();
+void LeggiTutto() {
+    std::int16_t ok = 0;
+    LeggiOpzioni();
+    LeggiOpzInt();
+    LeggiFont();
+    LeggiSpessori();
+    LeggiSezioni();
+    LeggiElCont();
+    LeggiStruttura(ok);
+    if (ok != 1) std::fprintf(stderr, "misure: the job cannot be read\n");
+}
+
+void Banco::Letture() const {
+    Misura("Lettura", kNiente, LeggiTutto);
+    Misura("Avvio", kNiente, Avvia, [&] {
+        AzzeraProgramma();
+        ArgomentoAvvio = Argomento(lavoro_);
+    });
+}
+
+void Banco::Ridisegni() const {
+    Misura("Ridisegno/niente", kNiente, DisegnaStruttura);
+    Misura("Ridisegno/tutto", SelezionaTutto, DisegnaStruttura);
+    Misura(
+        "Ridisegno/etichette",
+        [] {
+            for (const int voce : {7, 8, 9, 24, 25}) Opzioni[voce] = 1.0;
+        },
+        DisegnaStruttura);
+}
+
+void Banco::Selezioni() const {
     const RiquadroDisegno &d = FormTelva.Disegno;
-    for (auto _ : s) {
-        SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight, Segno::Messo);
-        s.PauseTiming();
-        Deseleziona();
-        s.ResumeTiming();
-    }
+    for (int tipo = 0; tipo < 4; ++tipo)
+        Misura(
+            std::string("Rettangolo/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
+            [&] {
+                SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight,
+                                  Segno::Messo);
+            },
+            Deseleziona);
+    for (int tipo = 0; tipo < 2; ++tipo)
+        Misura(
+            std::string("Lista/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
+            [] { SelezionaElementoPerNome("1-20000", Segno::Messo); }, Deseleziona);
+    // A click where the middle element of the table stands.
+    for (int tipo = 0; tipo < 4; ++tipo)
+        Misura(
+            std::string("Diretta/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
+            [] {
+                const int nodo = NumNodi / 2;
+                Disegno_MouseDown(1, 0, static_cast<float>(XNodo(nodo)),
+                                  static_cast<float>(YNodo(nodo)));
+            },
+            [] {
+                FinisciGesti();
+                Deseleziona();
+                CodSottoFun = kDiretta;
+            });
 }
 
-void Lista(benchmark::State &s, int tipo) {
-    Apri(static_cast<int>(s.range(0)));
-    FormTelva.OptElem[tipo].Seleziona();
-    for (auto _ : s) {
-        SelezionaElementoPerNome("1-20000", Segno::Messo);
-        s.PauseTiming();
-        Deseleziona();
-        s.ResumeTiming();
-    }
-}
-
-// A click where the middle element of the table stands.
-void Diretta(benchmark::State &s, int tipo) {
-    Apri(static_cast<int>(s.range(0)));
-    FormTelva.OptElem[tipo].Seleziona();
-    const int nodo = NumNodi / 2;
-    const auto x = static_cast<float>(XNodo(nodo)), y = static_cast<float>(YNodo(nodo));
-    for (auto _ : s) {
-        CodSottoFun = kDiretta;
-        Disegno_MouseDown(1, 0, x, y);
-        s.PauseTiming();
-        FinisciGesti();
-        Deseleziona();
-        s.ResumeTiming();
-    }
-}
-
-// The pointer over nothing: every node has to be looked at.
-void Coordinate(benchmark::State &s) {
-    Apri(static_cast<int>(s.range(0)));
+void Banco::Puntatore() const {
     const RiquadroDisegno &d = FormTelva.Disegno;
-    const auto x = static_cast<float>(d.XDaPixel(3)), y = static_cast<float>(d.YDaPixel(3));
-    for (auto _ : s) Disegno_MouseMove(0, 0, x, y);
+    // Over nothing: every node has to be looked at.
+    Misura("Coordinate", kNiente, [&] {
+        Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(3)),
+                          static_cast<float>(d.YDaPixel(3)));
+    });
 }
 
-void ListaCompatta(benchmark::State &s) {
-    Apri(s.range(0) == 2 ? 3 : static_cast<int>(s.range(0)));
-    Tutto(kNodiTipo);
-    for (auto _ : s) AggiornaSelezione();
+// A move of the second corner, or of the second point, from one side of the picture to the other.
+void Banco::Elastici() const {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    int mossa = 0;
+    const auto muovi = [&] {
+        const int scarto = ++mossa % 2 * 7;
+        Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(quadro_.larghezza - 20 - scarto)),
+                          static_cast<float>(d.YDaPixel(quadro_.altezza - 20 - scarto)));
+        Superficie parte;
+        for (const ZonaPixel &zona : d.ZoneElastici()) d.ComponiElastici(parte, zona);
+    };
+    const auto premi = [&] {
+        Disegno_MouseDown(1, 0, static_cast<float>(d.XDaPixel(10)),
+                          static_cast<float>(d.YDaPixel(10)));
+    };
+    Misura(
+        "Elastici/rettangolo",
+        [&] {
+            Finestra_Click();
+            premi();
+        },
+        muovi);
+    Misura(
+        "Elastici/linea",
+        [&] {
+            Sposta_Click();
+            premi();
+        },
+        muovi);
 }
 
-void Conversione(benchmark::State &s) {
-    Apri(static_cast<int>(s.range(0)));
-    for (int k = 0; k < kElCont; ++k) NumAsteElCont[k] = kAsteElCont;
-    NumElCont = kElCont;
-    for (auto _ : s) {
-        s.PauseTiming();
-        for (int k = 0; k < kElCont; ++k)
-            for (int j = 0; j < kAsteElCont; ++j)
-                AsteElCont(k, j) = NomeAsta[(k * 331 + j * 67) % std::max<int>(NumAste, 1)];
-        s.ResumeTiming();
-        ConvertiAsteElCont();
+// What no drawing can do without: clearing the picture, moving its pixels once, and the bare lines.
+void Banco::Mezzo() const {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    Misura("Mezzo/pulizia", kNiente, [&] { d.Cls(); });
+    std::vector<std::uint32_t> copia;
+    const Superficie &s = d.Immagine();
+    Misura(
+        "Mezzo/copia", [&] { copia.assign(s.Riga(0), s.Riga(s.Altezza())); },
+        [&] { std::memcpy(copia.data(), s.Riga(0), copia.size() * sizeof copia[0]); });
+    struct Segmento {
+        Pixel a, b;
+    };
+    std::vector<Segmento> segmenti;
+    const auto aggiungi = [&](int i, int j) {
+        bool fuori = false;
+        segmenti.push_back(
+            {d.InPixel(XNodo(i), YNodo(i), fuori), d.InPixel(XNodo(j), YNodo(j), fuori)});
+    };
+    const auto raccogli = [&] {
+        segmenti.clear();
+        for (int b = 0; b < NumAste; ++b) aggiungi(NodoIAsta[b], NodoJAsta[b]);
+        for (int g = 0; g < NumGusci; ++g) {
+            const auto angoli = static_cast<std::size_t>(NumeroAngoli(g));
+            for (std::size_t c = 0; c < angoli; ++c)
+                aggiungi(NodiGuscio[g][c], NodiGuscio[g][(c + 1) % angoli]);
+        }
+    };
+    Misura("Mezzo/linee", raccogli, [&] {
+        for (const auto &[a, b] : segmenti) d.Immagine().Linea(a, b, 0xFFFFFF);
+    });
+    Misura("Mezzo/linee4", raccogli, [&] {
+        for (const auto &[a, b] : segmenti) d.Immagine().LineaLarga(a, b, 4, 0xFFFFFF);
+    });
+}
+
+void ListaEConversione() {
+    for (const Lavoro &lavoro : {kDecimo, kTerzo, kInverso})
+        Banco(lavoro, kQuadri[0])
+            .Misura(
+                "ListaCompatta", [] { Tutto(kNodiTipo); }, AggiornaSelezione);
+    Banco(kPieno, kQuadri[0])
+        .Misura(
+            "Conversione",
+            [] {
+                for (int k = 0; k < kElCont; ++k) NumAsteElCont[k] = kAsteElCont;
+                NumElCont = kElCont;
+            },
+            ConvertiAsteElCont,
+            [] {
+                for (int k = 0; k < kElCont; ++k)
+                    for (int j = 0; j < kAsteElCont; ++j)
+                        AsteElCont(k, j) = NomeAsta[(k * 331 + j * 67) % std::max<int>(NumAste, 1)];
+            });
+}
+
+bool LeggiParole(int numero, char **parole) {
+    for (int i = 1; i + 1 < numero; i += 2) {
+        const std::string chiave = parole[i];
+        if (chiave == "--cartella")
+            cartella = parole[i + 1];
+        else if (chiave == "--solo")
+            solo = parole[i + 1];
+        else if (chiave == "--durata")
+            durata = std::atof(parole[i + 1]);
+        else
+            return false;
     }
+    return numero % 2 == 1 && !cartella.empty();
 }
-
-void Pronto(benchmark::internal::Benchmark *b) {
-    b->Arg(0)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK(Lettura)->Apply(Pronto);
-BENCHMARK(Avvio)->Apply(Pronto);
-BENCHMARK_CAPTURE(Ridisegno, niente, false)->Apply(Pronto);
-BENCHMARK_CAPTURE(Ridisegno, tutto, true)->Apply(Pronto);
-BENCHMARK(RidisegnoEtichette)->Apply(Pronto);
-BENCHMARK_CAPTURE(Rettangolo, nodi, 0)->Apply(Pronto);
-BENCHMARK_CAPTURE(Rettangolo, aste, 1)->Apply(Pronto);
-BENCHMARK_CAPTURE(Rettangolo, gusci, 2)->Apply(Pronto);
-BENCHMARK_CAPTURE(Rettangolo, elementi, 3)->Apply(Pronto);
-BENCHMARK_CAPTURE(Lista, nodi, 0)->Apply(Pronto);
-BENCHMARK_CAPTURE(Lista, aste, 1)->Apply(Pronto);
-BENCHMARK_CAPTURE(Diretta, nodi, 0)->Apply(Pronto);
-BENCHMARK_CAPTURE(Diretta, aste, 1)->Apply(Pronto);
-BENCHMARK_CAPTURE(Diretta, gusci, 2)->Apply(Pronto);
-BENCHMARK_CAPTURE(Diretta, elementi, 3)->Apply(Pronto);
-BENCHMARK(Coordinate)->Apply(Pronto);
-BENCHMARK(ListaCompatta)->Apply(Pronto);
-BENCHMARK(Conversione)->Apply(Pronto);
 
 } // namespace
 
-int main(int argc, char **argv) {
-    benchmark::Initialize(&argc, argv);
+int main(int numero, char **parole) {
+    if (!LeggiParole(numero, parole)) {
+        std::fprintf(stderr, "misure --cartella DIR [--solo PREFIX] [--durata MILLISECONDS]\n");
+        return 2;
+    }
     Installa();
-    benchmark::RunSpecifiedBenchmarks();
-    fs::remove_all(Cartella());
+    for (const Lavoro &lavoro : {kDecimo, kTerzo, kPieno}) {
+        const Banco banco(lavoro, kQuadri[0]);
+        banco.Letture();
+        banco.Ridisegni();
+        banco.Selezioni();
+        banco.Puntatore();
+    }
+    ListaEConversione();
+    for (const Quadro &quadro : kQuadri) {
+        const Banco banco(kPieno, quadro);
+        if (quadro.larghezza != kQuadri[0].larghezza) {
+            banco.Ridisegni();
+            banco.Selezioni();
+            banco.Puntatore();
+        }
+        banco.Elastici();
+        banco.Mezzo();
+    }
     return 0;
 }

@@ -1,14 +1,17 @@
 // The same operations in the real program, measured from outside: each message is sent to its
 // window and counted until it has been handled, picture on the screen included.
-//   misure_finestra --telva EXE --vuota EXE --argomento STRING --etichette STRING
-// The last one starts a job whose options turn every label on.
-// Prints one line "name milliseconds" for each row, and the peak memory in MiB.
+//   misure_finestra --telva EXE --vuota EXE --argomento STRING --etichette STRING [--quadro
+//   WIDTHxHEIGHT]
+// --etichette starts a job whose options turn every label on; --quadro is the size of the drawing.
+// Prints one line "name WIDTHxHEIGHT median fastest" for each row, in milliseconds, and the peak
+// memory in MiB.
 #include "Pilota.h"
 
 #include <shellapi.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -23,15 +26,34 @@ double Adesso() {
     return 1000.0 * static_cast<double>(ora.QuadPart) / static_cast<double>(frequenza.QuadPart);
 }
 
-double Mediana(std::vector<double> v) {
-    std::nth_element(v.begin(), v.begin() + static_cast<std::ptrdiff_t>(v.size() / 2), v.end());
-    return v[v.size() / 2];
+struct Quadro {
+    int larghezza = 1000, altezza = 650;
+} quadro;
+// What the window is larger than its drawing.
+constexpr int kOltreX = 202, kOltreY = 180;
+
+struct Tempi {
+    double mediana, minimo;
+};
+
+Tempi Ordina(std::vector<double> v, double parti = 1) {
+    std::sort(v.begin(), v.end());
+    return {v[v.size() / 2] / parti, v.front() / parti};
 }
 
-void Riga(const char *nome, double valore) { std::printf("%s %.2f\n", nome, valore); }
+void Riga(const std::string &nome, Tempi t) {
+    std::printf("%s %dx%d %.3f %.3f\n", nome.c_str(), quadro.larghezza, quadro.altezza, t.mediana,
+                t.minimo);
+    std::fflush(stdout);
+}
+
+void RigaMemoria(const std::string &nome, const Programma &p) {
+    const double mib = static_cast<double>(p.LeggiRisorse().piccoByte) / (1 << 20);
+    Riga(nome, {mib, mib});
+}
 
 template <class Prepara, class Fai>
-double Misura(Prepara prepara, Fai fai, int volte = 15) {
+Tempi Misura(Prepara prepara, Fai fai, int volte = 15) {
     std::vector<double> tempi;
     for (int n = 0; n < volte; ++n) {
         prepara();
@@ -39,11 +61,11 @@ double Misura(Prepara prepara, Fai fai, int volte = 15) {
         fai();
         tempi.push_back(Adesso() - da);
     }
-    return Mediana(std::move(tempi));
+    return Ordina(std::move(tempi));
 }
 
 // From the start of the process to the first picture.
-double Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar_t *classe) {
+Tempi Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar_t *classe) {
     std::vector<double> tempi;
     for (int n = 0; n < 9; ++n) {
         const double da = Adesso();
@@ -55,15 +77,15 @@ double Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar
         PostMessageW(finestra, WM_SYSCOMMAND, SC_CLOSE, 0);
         p.AttendiFine();
     }
-    return Mediana(std::move(tempi));
+    return Ordina(std::move(tempi));
 }
 
-// The program with its drawing at 1000 x 650 pixels.
+// The program with its drawing at the size that is measured.
 class Telva {
   public:
     Telva(const std::wstring &exe, const std::wstring &argomento) : p_(exe, argomento) {
         const HWND finestra = p_.Principale();
-        p_.Dimensiona(finestra, 1202, 830);
+        p_.Dimensiona(finestra, quadro.larghezza + kOltreX, quadro.altezza + kOltreY);
         disegno_ = p_.Controllo("Disegno");
         barra_ = p_.Controllo("Toolbar1");
     }
@@ -88,9 +110,28 @@ class Telva {
         p_.Menu("Alt+S", "o");
         p_.Aspetta("the answer box", [&] { return p_.Abilitato("Risposta"); });
     }
-    void Mouse(UINT messaggio, int x, int y) const {
-        SendMessageW(disegno_, messaggio, messaggio == WM_LBUTTONDOWN ? MK_LBUTTON : 0,
+    void Mouse(UINT messaggio, int x, int y, WPARAM tasti = 0) const {
+        SendMessageW(disegno_, messaggio, messaggio == WM_LBUTTONDOWN ? MK_LBUTTON : tasti,
                      MAKELPARAM(x, y));
+    }
+    // What has been left to paint is painted now.
+    void Dipingi() const { SendMessageW(disegno_, WM_PAINT, 0, 0); }
+    // Messages that wait in the program's queue all at once, until the last has been handled:
+    // behind them stands one that makes a mark in a box.
+    void Raffica(const std::vector<MSG> &messaggi) const {
+        const HWND spia = p_.Controllo("GusciAtt");
+        const LRESULT prima = SendMessageW(spia, BM_GETCHECK, 0, 0);
+        for (const MSG &m : messaggi) PostMessageW(disegno_, m.message, m.wParam, m.lParam);
+        PostMessageW(spia, BM_SETCHECK, prima == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED, 0);
+        const double limite = Adesso() + 20000;
+        while (SendMessageW(spia, BM_GETCHECK, 0, 0) == prima)
+            if (Adesso() > limite) throw Fallito("the messages have not been handled");
+        SendMessageW(spia, BM_SETCHECK, static_cast<WPARAM>(prima), 0);
+    }
+    LPARAM SulloSchermo(int x, int y) const {
+        POINT p{x, y};
+        ClientToScreen(disegno_, &p);
+        return MAKELPARAM(p.x, p.y);
     }
     POINT Angolo() const {
         RECT r{};
@@ -103,7 +144,7 @@ class Telva {
     HWND disegno_ = nullptr, barra_ = nullptr;
 };
 
-enum { kRidisegna = 5, kAggiungi = 6, kRimuoviTutto = 8 };
+enum { kZoom = 3, kRidisegna = 5, kAggiungi = 6, kRimuoviTutto = 8 };
 const char *const nomi[] = {"nodi", "aste", "gusci", "elementi"};
 
 void Rettangoli(const Telva &t) {
@@ -116,14 +157,72 @@ void Rettangoli(const Telva &t) {
             t.Mouse(WM_MOUSEMOVE, angolo.x, angolo.y);
         };
         const auto fai = [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x, angolo.y); };
-        Riga((std::string("Rettangolo/") + nomi[k]).c_str(), Misura(prepara, fai));
+        Riga(std::string("Rettangolo/") + nomi[k], Misura(prepara, fai));
         prepara();
         fai(); // stays selected
     }
 }
 
-void Operazioni(Telva &t) {
+void Dirette(const Telva &t) {
     const POINT angolo = t.Angolo();
+    for (int k = 0; k < 4; ++k) {
+        t.Tipo(k);
+        Riga(std::string("Diretta/") + nomi[k],
+             Misura([&] { t.Bottone(kRimuoviTutto); },
+                    [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); }));
+        t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); // a window left open is closed
+    }
+}
+
+void Liste(Telva &t) {
+    for (int k = 0; k < 2; ++k) {
+        t.Tipo(k);
+        const auto prepara = [&] {
+            t.Bottone(kRimuoviTutto);
+            t.PerNome();
+        };
+        Riga(std::string("Lista/") + nomi[k], Misura(
+                                                  prepara, [&] { t.Lista("1-20000"); }, 9));
+    }
+}
+
+// One move of the second corner of a zoom rectangle over the whole drawing, painted.
+void Elastici(const Telva &t) {
+    const POINT angolo = t.Angolo();
+    t.Bottone(kZoom);
+    t.Mouse(WM_LBUTTONDOWN, 10, 10);
+    int n = 0;
+    const auto fai = [&] {
+        const int scarto = ++n % 2 * 7;
+        t.Mouse(WM_MOUSEMOVE, angolo.x - 20 - scarto, angolo.y - 20 - scarto);
+        t.Dipingi();
+    };
+    Riga("Elastici/rettangolo", Misura([] {}, fai, 45));
+    t.Bottone(kRidisegna);
+}
+
+// A drag with the middle button, move by move and with ten moves waiting; ten wheel steps waiting.
+void Trascinamento(const Telva &t) {
+    constexpr int kQuanti = 10;
+    const POINT angolo = t.Angolo();
+    const int x = angolo.x / 2, y = angolo.y / 2;
+    int n = 0;
+    t.Mouse(WM_MBUTTONDOWN, x, y, MK_MBUTTON);
+    Riga("Trascinamento", Misura([&] { n = (n + 1) % 20; },
+                                 [&] { t.Mouse(WM_MOUSEMOVE, x + 3 * n, y, MK_MBUTTON); }));
+    std::vector<MSG> mosse, scatti;
+    for (int k = 0; k < kQuanti; ++k) {
+        mosse.push_back({nullptr, WM_MOUSEMOVE, MK_MBUTTON, MAKELPARAM(x + 5 * k, y + k), 0, {}});
+        const auto verso = static_cast<WORD>(k % 2 ? -WHEEL_DELTA : WHEEL_DELTA);
+        scatti.push_back(
+            {nullptr, WM_MOUSEWHEEL, MAKEWPARAM(0, verso), t.SulloSchermo(x, y), 0, {}});
+    }
+    Riga("Trascinamento/dieci", Misura([] {}, [&] { t.Raffica(mosse); }, 9));
+    t.Mouse(WM_MBUTTONUP, x, y);
+    Riga("Rotella/dieci", Misura([] {}, [&] { t.Raffica(scatti); }, 9));
+}
+
+void Operazioni(Telva &t) {
     t.Bottone(kAggiungi);
     Riga("Ridisegno/niente", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
     Rettangoli(t);
@@ -134,22 +233,22 @@ void Operazioni(Telva &t) {
     }
     int x = 0;
     Riga("Coordinate", Misura([&] { ++x; }, [&] { t.Mouse(WM_MOUSEMOVE, 300 + x, 300); }, 45));
-    for (int k = 0; k < 4; ++k) {
-        t.Tipo(k);
-        Riga((std::string("Diretta/") + nomi[k]).c_str(),
-             Misura([&] { t.Bottone(kRimuoviTutto); },
-                    [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); }));
-        t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); // a window left open is closed
-    }
-    for (int k = 0; k < 2; ++k) {
-        t.Tipo(k);
-        Riga((std::string("Lista/") + nomi[k]).c_str(), Misura(
-                                                            [&] {
-                                                                t.Bottone(kRimuoviTutto);
-                                                                t.PerNome();
-                                                            },
-                                                            [&] { t.Lista("1-20000"); }, 9));
-    }
+    Dirette(t);
+    Liste(t);
+    Elastici(t);
+    Trascinamento(t);
+}
+
+// The bare program: its start, and what it holds with a window of the same size.
+void Nuda(const std::wstring &vuota) {
+    const std::wstring misura = std::to_wstring(quadro.larghezza + kOltreX) + L"x" +
+                                std::to_wstring(quadro.altezza + kOltreY);
+    Riga("Nuda/avvio", Avvio(vuota, misura, L"FinestraVuota"));
+    Programma p(vuota, misura);
+    const HWND finestra = p.Principale(L"FinestraVuota");
+    RigaMemoria("Nuda/MemoriaMiB", p);
+    PostMessageW(finestra, WM_SYSCOMMAND, SC_CLOSE, 0);
+    p.AttendiFine();
 }
 
 } // namespace
@@ -157,24 +256,28 @@ void Operazioni(Telva &t) {
 int main() {
     int numero = 0;
     wchar_t **parole = CommandLineToArgvW(GetCommandLineW(), &numero);
-    std::wstring telva, vuota, argomento, etichette;
+    std::wstring telva, vuota, argomento, etichette, misura;
     for (int i = 1; i + 1 < numero; i += 2) {
         const std::wstring chiave = parole[i];
         (chiave == L"--telva"       ? telva
          : chiave == L"--vuota"     ? vuota
          : chiave == L"--etichette" ? etichette
+         : chiave == L"--quadro"    ? misura
                                     : argomento) = parole[i + 1];
     }
+    if (!misura.empty() &&
+        std::swscanf(misura.c_str(), L"%dx%d", &quadro.larghezza, &quadro.altezza) != 2)
+        return 2;
     try {
-        Riga("FinestraVuota", Avvio(vuota, L"", L"FinestraVuota"));
-        Riga("Programma", Avvio(telva, argomento, L"TelvaFinestra"));
+        Nuda(vuota);
+        Riga("Programma/avvio", Avvio(telva, argomento, L"TelvaFinestra"));
         {
             Telva t(telva, argomento);
             Operazioni(t);
-            Riga("MemoriaMiB", static_cast<double>(t.p_.LeggiRisorse().piccoByte) / (1 << 20));
+            RigaMemoria("Programma/MemoriaMiB", t.p_);
         }
         const Telva t(telva, etichette);
-        Riga("RidisegnoEtichette", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
+        Riga("Ridisegno/etichette", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
     } catch (const std::exception &e) {
         std::fprintf(stderr, "%s\n", e.what());
         return 1;

@@ -1,49 +1,126 @@
 #!/usr/bin/env python3
-"""The measurements as one table: target, figure, ratio; growth from a tenth to the whole capacity;
-and the same operation in the real program."""
-import json
+"""The measurements as tables: targets, native figures by job and by picture, the 64- and the 32-bit program side by
+side, without a window and for real; start-up and memory beside those of a bare program."""
 import sys
+from pathlib import Path
 
-# Row, benchmarks it stands for (the slowest counts), target in milliseconds.
+QUADRI = ["1000x650", "2560x1440", "3840x2160"]
+
+# Row, operations it stands for (the slowest counts), target in milliseconds, growth allowed with the picture.
 RIGHE = [
-    ("read all files of the job", ["Lettura"], 15),
-    ("start-up to the first picture", ["Avvio"], 25),
-    ("repaint, nothing selected", ["Ridisegno/niente"], 6),
-    ("repaint, everything selected, pen 4", ["Ridisegno/tutto"], 12),
-    ("repaint, every label on", ["RidisegnoEtichette"], 60),
-    ("rectangle over everything, nodes", ["Rettangolo/nodi"], 12),
-    ("rectangle over everything, bars", ["Rettangolo/aste"], 12),
-    ("rectangle over everything, shells", ["Rettangolo/gusci"], 12),
-    ("rectangle over everything, cont. elements", ["Rettangolo/elementi"], 12),
-    ("list 1-20000 by name, nodes", ["Lista/nodi"], 12),
-    ("list 1-20000 by name, bars", ["Lista/aste"], 12),
-    ("direct pick, slowest kind", ["Diretta/nodi", "Diretta/aste", "Diretta/gusci", "Diretta/elementi"], 8),
-    ("read-out on mouse move", ["Coordinate"], 1),
-    ("compact list, names in the worst order", ["ListaCompatta"], 2),
-    ("names to indexes, 2000 x 300 bars", ["Conversione"], 15),
+    ("read all files of the job", ["Lettura"], 15, None),
+    ("start-up to the first picture", ["Avvio"], 25, None),
+    ("repaint, nothing selected", ["Ridisegno/niente"], 3.2, 1.6),
+    ("repaint, everything selected, pen 4", ["Ridisegno/tutto"], 7, 2),
+    ("repaint, every label on", ["Ridisegno/etichette"], 60, None),
+    ("rectangle over everything, nodes", ["Rettangolo/nodi"], 12, None),
+    ("rectangle over everything, bars", ["Rettangolo/aste"], 12, None),
+    ("rectangle over everything, shells", ["Rettangolo/gusci"], 12, None),
+    ("rectangle over everything, cont. elements", ["Rettangolo/elementi"], 12, None),
+    ("list 1-20000 by name, nodes", ["Lista/nodi"], 12, None),
+    ("list 1-20000 by name, bars", ["Lista/aste"], 12, None),
+    ("direct pick, slowest kind", ["Diretta/nodi", "Diretta/aste", "Diretta/gusci", "Diretta/elementi"], 8, None),
+    ("read-out on mouse move", ["Coordinate"], 1, 1.2),
+    ("hover preview move", ["Anteprima"], 1, 1.2),
+    ("rubber band, one move of a rectangle", ["Elastici/rettangolo"], 0.5, 1.2),
+    ("rubber band, one move of a line", ["Elastici/linea"], 0.5, 1.2),
+    ("compact list, names in the worst order", ["ListaCompatta"], 2, None),
+    ("names to indexes, 2000 x 300 bars", ["Conversione"], 15, None),
+    ("limit: clearing the picture", ["Mezzo/pulizia"], None, None),
+    ("limit: copying the picture once in memory", ["Mezzo/copia"], None, None),
+    ("limit: the bare lines, pen 1", ["Mezzo/linee"], None, None),
+    ("limit: the bare lines, pen 4", ["Mezzo/linee4"], None, None),
+]
+VERE = [
+    ("repaint, nothing selected", ["Ridisegno/niente"], 11, 1.6),
+    ("repaint, everything selected, pen 4", ["Ridisegno/tutto"], 17, 2),
+    ("repaint, every label on", ["Ridisegno/etichette"], 120, None),
+    ("rectangle over everything, nodes", ["Rettangolo/nodi"], 24, None),
+    ("rectangle over everything, bars", ["Rettangolo/aste"], 24, None),
+    ("rectangle over everything, shells", ["Rettangolo/gusci"], 24, None),
+    ("rectangle over everything, cont. elements", ["Rettangolo/elementi"], 24, None),
+    ("list 1-20000 by name, nodes", ["Lista/nodi"], 24, None),
+    ("list 1-20000 by name, bars", ["Lista/aste"], 24, None),
+    ("direct pick, slowest kind", ["Diretta/nodi", "Diretta/aste", "Diretta/gusci", "Diretta/elementi"], 16, None),
+    ("read-out on mouse move", ["Coordinate"], 2, 1.2),
+    ("hover preview move", ["Anteprima"], 2, 1.2),
+    ("rubber band, one move of a rectangle", ["Elastici/rettangolo"], 0.5, 1.2),
+    ("middle-button drag, one move", ["Trascinamento"], None, None),
+    ("middle-button drag, ten moves that wait", ["Trascinamento/dieci"], None, None),
+    ("wheel, ten steps that wait", ["Rotella/dieci"], None, None),
 ]
 
 
-def mediane(file):
-    with open(file, encoding="utf-8") as f:
-        righe = json.load(f)["benchmarks"]
-    return {r["run_name"]: r["real_time"] for r in righe if r.get("aggregate_name") == "median"}
+class Misure:
+    """Best median of every operation over the rounds, by (operation, job, picture)."""
+
+    def __init__(self, file):
+        self.valori = {}
+        for riga in file.read_text(encoding="utf-8").splitlines() if file.exists() else []:
+            *chiave, mediana, _ = riga.split()
+            chiave = tuple(chiave)
+            self.valori[chiave] = min(float(mediana), self.valori.get(chiave, float("inf")))
+
+    def massimo(self, prove, *resto):
+        visti = [self.valori[(p, *resto)] for p in prove if (p, *resto) in self.valori]
+        return max(visti) if visti else None
 
 
-def dal_vero(file):
-    with open(file, encoding="utf-8") as f:
-        return {nome: float(valore) for nome, valore in (r.split() for r in f if r.strip())}
+def numero(v):
+    if v is None:
+        return ""
+    return f"{v:.3f}" if v < 0.1 else f"{v:.2f}" if v < 10 else f"{v:.1f}"
 
 
-nativo, vero = mediane(sys.argv[1]), dal_vero(sys.argv[2])
-print("| operation (ms, medians) | target | 1/10 | 1/3 | whole | whole / target | real program, limit | figure |")
-print("|---|---|---|---|---|---|---|---|")
-for nome, prove, limite in RIGHE:
-    taglie = [max(nativo[f"{p}/{t}"] for p in prove) for t in range(3)]
-    reali = [vero[p] for p in prove if p in vero]
-    finestra = f"{2 * limite} | {max(reali):.2f}" if reali else "| "
-    print(f"| {nome} | {limite} | " + " | ".join(f"{t:.2f}" for t in taglie) +
-          f" | {taglie[2] / limite:.2f} | {finestra} |")
-avvio = vero["Programma"] - vero["FinestraVuota"]
-print(f"| telva.exe to the first picture, beyond an empty window | | | | | | 150 | {avvio:.0f} |")
-print(f"| peak memory of the real program, MiB | | | | | | 40 | {vero['MemoriaMiB']:.1f} |")
+def rapporto(a, b):
+    return f"{a / b:.2f}" if a and b else ""
+
+
+def tabella(titoli, righe):
+    print("| " + " | ".join(titoli) + " |\n|" + "---|" * len(titoli))
+    for riga in righe:
+        print("| " + " | ".join(riga) + " |")
+    print()
+
+
+def senza_finestra(cartella):
+    nativo, x64, x86 = (Misure(cartella / f"{n}.txt") for n in ("nativo", "x64", "x86"))
+    righe = []
+    for nome, prove, limite, cresce in RIGHE:
+        lavoro = "invers" if prove == ["ListaCompatta"] else "piena0"
+        piccoli = [nativo.massimo(prove, taglia, QUADRI[0]) for taglia in ("decimo", "terzo0")]
+        nat, m64, m86 = ([m.massimo(prove, lavoro, q) for q in QUADRI] for m in (nativo, x64, x86))
+        if nat[0] is None:
+            continue
+        righe.append([nome, numero(limite), *map(numero, piccoli), *map(numero, nat),
+                      rapporto(nat[2], nat[0]), str(cresce or ""), numero(m64[0]), numero(m86[0]),
+                      rapporto(m86[0], m64[0]), numero(m64[2]), numero(m86[2]), rapporto(m86[2], m64[2])])
+    tabella(["without a window (ms)", "target", "1/10", "1/3", "whole", "2560 × 1440", "3840 × 2160", "growth",
+             "target", "x64", "x86", "x86 / x64", "x64, 3840 × 2160", "x86", "x86 / x64"], righe)
+
+
+def finestra(cartella):
+    x64, x86 = (Misure(cartella / f"finestra_{n}.txt") for n in ("x64", "x86"))
+    righe = []
+    for nome, prove, limite, cresce in VERE:
+        m64, m86 = ([m.massimo(prove, q) for q in QUADRI] for m in (x64, x86))
+        if m86[0] is None:
+            continue
+        righe.append([nome, numero(limite), *map(numero, m86), rapporto(m86[2], m86[0]), str(cresce or ""),
+                      *map(numero, m64), rapporto(m86[0], m64[0]), rapporto(m86[2], m64[2])])
+    tabella(["real program (ms)", "target", "x86, 1000 × 650", "2560 × 1440", "3840 × 2160", "growth", "target",
+             "x64, 1000 × 650", "2560 × 1440", "3840 × 2160", "x86 / x64", "at 3840 × 2160"], righe)
+    righe = []
+    for nome, prova, limite in (("start to the first picture, ms", "avvio", "25"),
+                                ("peak memory, MiB", "MemoriaMiB", "16 + the surface")):
+        for bit, m in (("x86", x86), ("x64", x64)):
+            for q in QUADRI:
+                vera, nuda = (m.massimo([f"{chi}/{prova}"], q) for chi in ("Programma", "Nuda"))
+                if vera and nuda:
+                    righe.append([f"{nome}, {bit}, {q.replace('x', ' × ')}", numero(nuda), numero(vera),
+                                  numero(vera - nuda), limite])
+    tabella(["beside a bare program", "bare", "telva.exe", "beyond", "target"], righe)
+
+
+senza_finestra(Path(sys.argv[1]))
+finestra(Path(sys.argv[1]))
