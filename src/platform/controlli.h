@@ -43,6 +43,7 @@ enum class Campo {
 
 class Controllo;
 class Modulo;
+class Pulsante;
 
 // What shows a control on the screen.
 class Pari {
@@ -133,7 +134,7 @@ Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
     return *this;
 }
 
-// One text in the window: on one line; on several; on several with its middle at half height; as
+// One text in the window: on one line; on several; on several to the right, at half height; as
 // data in a sunken field, with an ellipsis and the whole in a tip; as an index; in two rows that
 // tell how things stand, each with an ellipsis and the whole in a tip.
 enum class StileEtichetta { Semplice, SuPiuRighe, Centrata, Riassunto, Pedice, Stato };
@@ -280,6 +281,7 @@ class Modulo : public Controllo {
     std::vector<VoceMenu *> barraMenu;  // top level
     std::vector<VoceMenu *> voci;       // every item
     Controllo *fuoco = nullptr;
+    Pulsante *predefinito = nullptr; // what Enter presses where it has no other use
 
     std::function<void()> Resize;
     std::function<void(int)> KeyPress; // character code

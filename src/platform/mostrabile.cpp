@@ -2,6 +2,8 @@
 
 #include "platform/testo.h"
 
+#include <algorithm>
+
 namespace telva {
 
 std::string Mostrabile(std::string_view testo, std::size_t caratteri) {
@@ -27,6 +29,26 @@ std::string ConRigheBrevi(std::string_view testo, std::size_t colonne) {
         righe += testo.substr(inizio, posto - inizio);
     }
     return righe;
+}
+
+std::string ElencoInRighe(std::string_view elenco, std::size_t colonne, std::size_t righe,
+                          std::string_view coda) {
+    std::string testo;
+    std::size_t riga = 1, colonna = 0;
+    while (!elenco.empty()) {
+        const std::size_t fine = std::min(elenco.find(','), elenco.size() - 1) + 1;
+        if (colonna > 0 && colonna + fine > colonne) {
+            if (riga + 1 >= righe && elenco.size() > colonne)
+                return testo.append("\r\n").append(coda);
+            testo += "\r\n";
+            ++riga;
+            colonna = 0;
+        }
+        testo += elenco.substr(0, fine);
+        colonna += fine;
+        elenco.remove_prefix(fine);
+    }
+    return testo;
 }
 
 } // namespace telva

@@ -19,4 +19,10 @@ std::string Mostrabile(std::string_view testo, std::size_t caratteri);
 // are broken there, or the box would leave the screen.
 std::string ConRigheBrevi(std::string_view testo, std::size_t colonne);
 
+// A list of items with commas between them, for a tip: lines of at most `colonne` characters, each
+// ending with an item (a longer item has a line of its own). What does not fit into `righe` lines
+// is left out, and `coda` says so on the last of them.
+std::string ElencoInRighe(std::string_view elenco, std::size_t colonne, std::size_t righe,
+                          std::string_view coda);
+
 } // namespace telva

@@ -151,6 +151,7 @@ void CollegaFormOpt() {
     for (CasellaSpunta *c : {&f.CheckTxtNodi, &f.CheckTxtAste, &f.CheckTxtGusci, &f.CheckTxtElCont})
         c->Click = ControllaNumerazioneAtt;
     f.Salva.Click = Salva_Opzioni;
+    f.predefinito = &f.Salva;
     f.Chiudi_.Click = ChiudiFormOpt;
     f.KeyUp = [](int tasto) {
         if (tasto == kTastoEsc) ChiudiFormOpt();

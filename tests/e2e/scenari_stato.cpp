@@ -16,7 +16,7 @@ SCENARIO(stato_dice_che_cosa_prende_il_clic) {
     RigheDiventano(s, "nessun nodo selezionato", "Ctrl+A aggiunge, Ctrl+T rimuove");
     s.Premi("Ctrl+A");
     s.FunzioneDiventa("Aggiungi selezione");
-    s.PuntaInDisparte();
+    s.Clic("StringaSel"); // the pointer is not on the drawing
     RigheDiventano(s, "nessun nodo selezionato", "");
     s.Fotografa("Disegno");
     s.Punta(Nodo(3));
@@ -27,7 +27,7 @@ SCENARIO(stato_dice_che_cosa_prende_il_clic) {
     s.FotoUguale();
     s.Punta(Nodo(3));
     s.FotoDiversa();
-    s.PuntaInDisparte(); // the pointer leaves the drawing
+    s.Clic("StringaSel"); // it leaves the drawing
     s.FotoUguale();
     s.Clic(Nodo(3));
     s.ListaDiventa("3");
@@ -35,13 +35,13 @@ SCENARIO(stato_dice_che_cosa_prende_il_clic) {
 }
 
 SCENARIO(stato_dice_che_cosa_e_nascosto_e_richiesto) {
-    Sessione s(amb, Genere::Nodi, "3,20");
-    RigheDiventano(s, "2 nodi selezionati", "Ctrl+A aggiunge, Ctrl+T rimuove");
-    s.Spazio("NodiAtt");
-    RigheDiventano(s, "2 nodi selezionati, di cui 2 nascosti; vista filtrata",
+    Sessione s(amb, Genere::Aste, "7-8");
+    RigheDiventano(s, "2 aste selezionate", "Ctrl+A aggiunge, Ctrl+T rimuove");
+    s.Spazio("AsteAtt");
+    RigheDiventano(s, "2 aste selezionate, di cui 2 nascoste; vista filtrata",
                    "Ctrl+A aggiunge, Ctrl+T rimuove");
-    s.Spazio("NodiAtt");
-    s.Scegli(Genere::Aste);
-    RigheDiventano(s, "richiesti: nodi; nessuna asta selezionata",
+    s.Spazio("AsteAtt");
+    s.Scegli(Genere::Nodi);
+    RigheDiventano(s, "richieste: aste; nessun nodo selezionato",
                    "Ctrl+A aggiunge, Ctrl+T rimuove");
 }

@@ -35,3 +35,20 @@ TEST(Mostrabile, SoloLeParolePiuLungheDiUnaRigaSiSpezzano) {
     };
     for (const auto &c : casi) EXPECT_EQ(ConRigheBrevi(c.testo, 5), c.righe);
 }
+TEST(ElencoInRighe, FinisceConUnaVoceIntera) {
+    const std::string elenco = "1-5,7,12-20,33,47,101-105";
+    const struct {
+        std::size_t colonne, righe;
+        const char *atteso;
+    } casi[] = {
+        {.colonne = 80, .righe = 3, .atteso = "1-5,7,12-20,33,47,101-105"},
+        {.colonne = 12, .righe = 9, .atteso = "1-5,7,12-20,\r\n33,47,\r\n101-105"},
+        {.colonne = 12, .righe = 2, .atteso = "1-5,7,12-20,\r\n…"},
+        {.colonne = 13, .righe = 2, .atteso = "1-5,7,12-20,\r\n33,47,101-105"}, // it still fits
+        {.colonne = 3, .righe = 9, .atteso = "1-5,\r\n7,\r\n12-20,\r\n33,\r\n47,\r\n101-105"},
+    };
+    for (const auto &caso : casi)
+        EXPECT_EQ(ElencoInRighe(elenco, caso.colonne, caso.righe, "…"), caso.atteso)
+            << caso.colonne << " columns, " << caso.righe << " lines";
+    EXPECT_EQ(ElencoInRighe("", 10, 2, "…"), "");
+}

@@ -14,7 +14,10 @@ class CampioneWin32 : public PariDi<Campione> {
         const bool scelto = codice == BN_CLICKED || (codice == BN_SETFOCUS && !controllo_.Marcato);
         if (scelto && DaScegliere()) finestra_.Evento(controllo_.Click);
     }
-    void Invio() override { SendMessageW(hwnd_, BM_CLICK, 0, 0); }
+    bool Invio() override {
+        SendMessageW(hwnd_, BM_CLICK, 0, 0);
+        return true;
+    }
     void Disegna(const DRAWITEMSTRUCT &d) const override {
         if (DaScegliere())
             DisegnaColore(d);

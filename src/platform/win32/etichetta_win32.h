@@ -1,6 +1,6 @@
 #pragma once
-// Labels: the plain ones, and the one whose text stands in the middle of its height. The label that
-// shows data stands in riassunto_win32.h.
+// Labels: the plain ones, and the one whose text stands in the middle of its height, to the right.
+// The label that shows data stands in riassunto_win32.h.
 
 #include "platform/mostrabile.h"
 #include "platform/win32/pari_win32.h"
@@ -32,7 +32,7 @@ class EtichettaWin32 : public PariDi<Etichetta> {
     }
 };
 
-// On several lines, centred in its height: the window has it painted.
+// On several lines, centred in its height, against its right edge: the window has it painted.
 class EtichettaCentrataWin32 : public EtichettaWin32 {
   public:
     using EtichettaWin32::EtichettaWin32;

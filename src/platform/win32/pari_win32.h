@@ -32,9 +32,10 @@ class PariWin32 : public Pari {
     // True when the notification was for this control.
     virtual bool Notifica([[maybe_unused]] const NMHDR &notifica) { return false; }
     virtual void Disegna([[maybe_unused]] const DRAWITEMSTRUCT &d) const {}
-    // A key in this control that the window has no use for; then Enter, after that.
+    // A key in this control that the window has no use for; then Enter, after that: true when the
+    // control has a use for it.
     virtual void Tasto([[maybe_unused]] int tasto) {}
-    virtual void Invio() {}
+    virtual bool Invio() { return false; }
     virtual void Spostato() {}
     virtual void DpiCambiato() {}
     virtual void ColoriCambiati() { SendMessageW(hwnd_, WM_SYSCOLORCHANGE, 0, 0); }

@@ -12,11 +12,16 @@ class PulsanteWin32 : public PariDi<Pulsante> {
     void Comando(WORD codice, WORD) override {
         if (codice == BN_CLICKED && controllo_.Click) finestra_.Evento(controllo_.Click);
     }
-    void Invio() override { SendMessageW(hwnd_, BM_CLICK, 0, 0); }
+    bool Invio() override {
+        SendMessageW(hwnd_, BM_CLICK, 0, 0);
+        return true;
+    }
 
   protected:
     HWND Crea(const Nascita &nascita) override {
-        return nascita.Crea(L"BUTTON", ALargo(controllo_.Caption()), WS_TABSTOP | BS_PUSHBUTTON);
+        const bool predefinito = controllo_.Proprietario()->predefinito == &controllo_;
+        return nascita.Crea(L"BUTTON", ALargo(controllo_.Caption()),
+                            WS_TABSTOP | (predefinito ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
     }
     void Mostra(Campo campo) override {
         if (campo == Campo::Didascalia) MostraTesto(hwnd_, controllo_.Caption);

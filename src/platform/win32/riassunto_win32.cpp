@@ -7,23 +7,8 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
 constexpr int kMargine = 4;
-
-// A list has no blanks to break lines at: a tip breaks it after commas.
-std::wstring SpezzaElenco(std::wstring_view elenco) {
-    constexpr std::size_t kColonne = 90;
-    std::wstring righe;
-    std::size_t colonna = 0;
-    for (const wchar_t c : elenco) {
-        righe += c;
-        if (c == L',' && ++colonna > kColonne) {
-            righe += L"\r\n";
-            colonna = 0;
-        } else {
-            ++colonna;
-        }
-    }
-    return righe;
-}
+// What the tip shows of a list; its lines are narrower than the tip may be.
+constexpr std::size_t kColonne = 70, kRighe = 20;
 
 } // namespace
 
@@ -130,7 +115,7 @@ void RiassuntoWin32::Mostra(Campo campo) {
 
 std::wstring RiassuntoWin32::TestoSuggerito() const {
     if (!Tagliato()) return EtichettaWin32::TestoSuggerito();
-    return SpezzaElenco(ALargo(Mostrabile(controllo_.Caption(), kCaratteriSuggerimento)));
+    return ALargo(ElencoInRighe(controllo_.Caption(), kColonne, kRighe, "… Ctrl+C copia tutto"));
 }
 
 } // namespace telva

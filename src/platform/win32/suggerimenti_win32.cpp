@@ -4,12 +4,19 @@
 
 namespace telva {
 
+namespace {
+
+constexpr LPARAM kMillisecondi = 30000; // a long list takes its time to be read
+
+} // namespace
+
 void SuggerimentiWin32::Crea(HWND finestra, double dpi) {
     finestra_ = finestra;
     hwnd_ = Richiesto(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                       WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, finestra,
                                       nullptr, GetModuleHandleW(nullptr), nullptr),
                       "CreateWindowEx(tooltips_class32)");
+    SendMessageW(hwnd_, TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondi);
     SendMessageW(hwnd_, TTM_SETMAXTIPWIDTH, 0, MulDiv(600, static_cast<int>(dpi), 96));
 }
 

@@ -42,8 +42,10 @@ bool TastieraWin32::Tasto(const MSG &m) {
     }
     if (p) p->Tasto(tasto);
     if (tasto != VK_RETURN) return false;
-    if (p) p->Invio();
-    return true; // no control has a use for Enter but a beep
+    const bool usato = p && p->Invio();
+    if (const Pulsante *b = modulo_.predefinito; b && !usato && b->AbilitatoDavvero())
+        finestra_.Evento(b->Click);
+    return true; // no control has another use for Enter but a beep
 }
 
 bool TastieraWin32::Rotella(const MSG &m) {
