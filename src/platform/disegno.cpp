@@ -4,11 +4,20 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace telva {
 namespace {
 
 constexpr double kLimitePixel = 1 << 28;
+
+constexpr double kScartoEvento = 1.0 / 64; // pixels
+
+double PerEvento(double v, double scala) {
+    if (!(std::abs(v) <= std::numeric_limits<float>::max())) return v;
+    const double singola = static_cast<float>(v);
+    return std::abs((singola - v) * scala) <= kScartoEvento ? singola : v;
+}
 
 } // namespace
 
@@ -36,6 +45,9 @@ void RiquadroDisegno::Scale(double x1, double y1, double x2, double y2) {
     ScaleHeight = y2 - y1;
     AggiornaScala();
 }
+
+double RiquadroDisegno::XEvento(double x) const { return PerEvento(x, scalaX_); }
+double RiquadroDisegno::YEvento(double y) const { return PerEvento(y, scalaY_); }
 
 double RiquadroDisegno::UnitaPerPixel() const { return std::abs(1 / scalaX_); }
 

@@ -25,8 +25,8 @@ class RiquadroDisegno : public Controllo {
     int DrawWidth = 1; // pixels; below 1 counts as 1
 
     // button 1 left, 2 right, 4 middle (in MouseMove: the sum of those held); shift bits 1 Shift,
-    // 2 Ctrl, 4 Alt; x and y in the user scale.
-    std::function<void(int button, int shift, float x, float y)> MouseDown, MouseMove, MouseUp;
+    // 2 Ctrl, 4 Alt; x and y in the user scale, as XEvento and YEvento tell them.
+    std::function<void(int button, int shift, double x, double y)> MouseDown, MouseMove, MouseUp;
     std::function<void()> DblClick;
     std::function<void()> MouseLeave;   // the pointer has left the box
     std::function<void()> CatturaPersa; // the mouse left us with a button held
@@ -47,6 +47,10 @@ class RiquadroDisegno : public Controllo {
     // User position of a pixel's centre.
     double XDaPixel(double px) const { return ScaleLeft + px / scalaX_; }
     double YDaPixel(double py) const { return ScaleTop + py / scalaY_; }
+    // A user position as an event tells it: in single precision, as long as that is within 1/64 of
+    // a pixel (far from the origin it would be off by whole pixels).
+    double XEvento(double x) const;
+    double YEvento(double y) const;
     // Nearest pixel; positions beyond +-2^28 are brought to that limit and `fuori` is set.
     Pixel InPixel(double x, double y, bool &fuori) const;
 

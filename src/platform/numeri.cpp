@@ -95,6 +95,12 @@ std::optional<double> NumeroStretto(std::string_view testo) {
     return valore;
 }
 
+std::string ConPunto(std::string_view testo) {
+    std::string numero(testo);
+    std::ranges::replace(numero, ',', '.');
+    return numero;
+}
+
 double ArrotondaPari(double valore) {
     const double basso = std::floor(valore);
     const double resto = valore - basso;

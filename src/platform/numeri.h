@@ -17,6 +17,9 @@ double ValoreNumerico(std::string_view testo);
 // (also for "nan", "inf" and values beyond the range of a double).
 std::optional<double> NumeroStretto(std::string_view testo);
 
+// The same with points for the commas: the number pad of an Italian keyboard has no point.
+std::string ConPunto(std::string_view testo);
+
 // Nearest integer, halves to the even one.
 double ArrotondaPari(double valore);
 

@@ -201,15 +201,20 @@ std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo) {
     return numeri;
 }
 
+void AttendiRisposta(const std::string &domanda, const std::string &testo) {
+    FormTelva.Domanda.Caption = domanda;
+    FormTelva.Risposta.Text = testo;
+    FormTelva.Risposta.Enabled = true;
+    FormTelva.Risposta.BackColor = kColoreFinestra;
+    FormTelva.Risposta.SetFocus();
+}
+
 void IniziaProprieta(std::uint8_t codice) {
     const SchedaProprieta *p = ProprietaDi(codice);
     if (!p) return;
     AzzeraInput();
-    FormTelva.Domanda.Caption = p->domanda;
+    AttendiRisposta(p->domanda, "");
     FormTelva.SottoFunAttiva.Caption = p->titolo;
-    FormTelva.Risposta.Enabled = true;
-    FormTelva.Risposta.BackColor = kColoreFinestra;
-    FormTelva.Risposta.SetFocus();
     CodSottoFun = codice;
 }
 

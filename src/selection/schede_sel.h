@@ -47,6 +47,9 @@ std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo);
 // Starts the pending property: prompt, title, answer box ready for typing.
 void IniziaProprieta(std::uint8_t codice);
 
+// The answer box ready for typing, under a prompt.
+void AttendiRisposta(const std::string &domanda, const std::string &testo);
+
 // Enter in the answer box: runs the pending property on the typed list, or shows its refusal.
 void EseguiRisposta();
 

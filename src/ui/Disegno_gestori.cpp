@@ -30,15 +30,27 @@ constexpr double kSoglia = 0.0001; // drawing units: shorter moves are none
 
 double primoX = 0, primoY = 0; // first corner
 
-// The view when the middle button went down: window and corner of the scale; and the zoom window
-// that the drag has set last.
+// What the box shows: another one means that something else than the drag has moved the view.
+struct Mostrato {
+    FinestraDisegno zoom;
+    double sinistra = 0, alto = 0, larghezza = 0, altezza = 0; // of the scale
+    friend bool operator==(const Mostrato &, const Mostrato &) = default;
+};
+
+// The view when the middle button went down: window and corner of the scale; and what the drag has
+// shown last.
 struct {
     FinestraDisegno finestra;
     double scalaSinistra = 0, scalaAlto = 0;
-    FinestraDisegno ultima;
+    Mostrato ultimo;
 } trascina;
 
 RiquadroDisegno &Disegno() { return FormTelva.Disegno; }
+
+Mostrato Ora() {
+    const RiquadroDisegno &d = Disegno();
+    return {FinestraZoom, d.ScaleLeft, d.ScaleTop, d.ScaleWidth, d.ScaleHeight};
+}
 
 // After a zoom or a pan: the gesture of the selection goes on, and is named again.
 void RipristinaSottoFun() {
@@ -67,8 +79,7 @@ bool SecondoPuntoSposta(double x, double y) {
     linea.Y2 = y;
     const double dx = linea.X2 - linea.X1, dy = linea.Y2 - linea.Y1;
     if (!(std::abs(dx) > kSoglia || std::abs(dy) > kSoglia)) return false;
-    AggiornaFinestraVista(); // the zoom window, or the whole structure when there is none
-    SpostaVista(FinestraVista, dx, dy);
+    SpostaVista(FinestraDaSpostare(), dx, dy);
     Entra(Gesto::VistaFerma);
     Ridis_Click();
     RipristinaSottoFun();
@@ -76,12 +87,11 @@ bool SecondoPuntoSposta(double x, double y) {
 }
 
 void TendiRettangolo(double x, double y) {
-    // The pointer comes in single precision: so must the edges, or half of all views would lose
-    // their first column of pixels to the rounding.
-    const auto singola = [](double v) { return double(static_cast<float>(v)); };
+    // The pointer's place comes rounded: so must the edges, or half of all views would lose their
+    // first column of pixels to the rounding.
     const RiquadroDisegno &d = Disegno();
-    if (x < singola(d.ScaleLeft) || x > singola(d.ScaleLeft + d.ScaleWidth) ||
-        y > singola(d.ScaleTop) || y < singola(d.ScaleTop + d.ScaleHeight))
+    if (x < d.XEvento(d.ScaleLeft) || x > d.XEvento(d.ScaleLeft + d.ScaleWidth) ||
+        y > d.YEvento(d.ScaleTop) || y < d.YEvento(d.ScaleTop + d.ScaleHeight))
         return;
     Rettangolo &shape = Disegno().Shape;
     shape.Left = std::min(primoX, x);
@@ -180,9 +190,7 @@ void InizioTrascina(double x, double y) {
     Segmento &linea = Disegno().LineSposta;
     linea.X1 = linea.X2 = x;
     linea.Y1 = linea.Y2 = y;
-    if (!ZoomImpostato()) AggiornaFinestraVista();
-    trascina = {ZoomImpostato() ? FinestraZoom : FinestraVista, Disegno().ScaleLeft,
-                Disegno().ScaleTop, FinestraZoom};
+    trascina = {FinestraVista, Disegno().ScaleLeft, Disegno().ScaleTop, Ora()};
     Entra(Gesto::Trascina);
 }
 
@@ -190,21 +198,21 @@ void InizioTrascina(double x, double y) {
 // scale of the press, in whole pixels, so that the drawing sticks to the pointer.
 void Trascina(double x, double y) {
     if (!InCorso(Gesto::Trascina)) return;
-    if (!(FinestraZoom == trascina.ultima)) { // wheel or command in between: on from what it shows
+    if (!(Ora() == trascina.ultimo)) { // on from what is shown now
         InizioTrascina(x, y);
         return;
     }
     const Segmento &linea = Disegno().LineSposta;
-    // Whole pixels, each way by its own scale: they differ while an old scale stays in a new box.
+    // Whole pixels, each way by its own scale: in a far-off job they differ by a rounding.
     const auto intero = [](double d, double scala) { return std::round(d * scala) / scala; };
     const double dx = x - linea.X1 - (Disegno().ScaleLeft - trascina.scalaSinistra);
     const double dy = y - linea.Y1 - (Disegno().ScaleTop - trascina.scalaAlto);
     const double px = intero(dx, Disegno().ScalaX()), py = intero(dy, Disegno().ScalaY());
     if (std::abs(px) > kSoglia || std::abs(py) > kSoglia || ZoomImpostato())
         SpostaVista(trascina.finestra, px, py);
-    if (FinestraZoom == trascina.ultima) return;
-    trascina.ultima = FinestraZoom;
+    if (FinestraZoom == trascina.ultimo.zoom) return;
     Ridis_Click();
+    trascina.ultimo = Ora();
 }
 
 void MostraCoordinate(double x, double y) {
@@ -239,7 +247,7 @@ void ZoomIn_Click() { ArmaVista(Gesto::ZoomArmato, "Zoom"); }
 
 void Sposta_Click() { ArmaVista(Gesto::SpostaArmato, "Sposta"); }
 
-void Disegno_MouseDown(int button, int, float x, float y) {
+void Disegno_MouseDown(int button, int, double x, double y) {
     UltimoTasto = static_cast<std::int16_t>(button);
     switch (button) {
     case kDestro: FormTelva.MostraPopup(FormTelva.Visualizza); break;
@@ -249,13 +257,14 @@ void Disegno_MouseDown(int button, int, float x, float y) {
     }
 }
 
-void Disegno_MouseMove(int button, int, float x, float y) {
+void Disegno_MouseMove(int button, int, double x, double y) {
     if (button == kCentrale) {
-        const double sinistra = Disegno().ScaleLeft, alto = Disegno().ScaleTop;
+        const RiquadroDisegno &d = Disegno();
+        const double px = d.XPixel(x), py = d.YPixel(y);
         Trascina(x, y);
         // The same pixel, in the scale that the drag has moved.
-        x += static_cast<float>(Disegno().ScaleLeft - sinistra);
-        y += static_cast<float>(Disegno().ScaleTop - alto);
+        x = d.XEvento(d.XDaPixel(px));
+        y = d.YEvento(d.YDaPixel(py));
     }
     if (InCorso(Gesto::SpostaAperto)) {
         Disegno().LineSposta.X2 = x;
@@ -271,7 +280,7 @@ void Disegno_MouseLeave() {
     PuntatoreFuori();
 }
 
-void Disegno_MouseUp(int button, int, float, float) {
+void Disegno_MouseUp(int button, int, double, double) {
     if (button == kCentrale) Entra(Gesto::TastoLibero);
 }
 

@@ -7,9 +7,9 @@ namespace telva {
 
 extern std::int16_t UltimoTasto; // button of the last press: 1 left, 2 right, 4 middle
 
-void Disegno_MouseDown(int button, int shift, float x, float y);
-void Disegno_MouseMove(int button, int shift, float x, float y);
-void Disegno_MouseUp(int button, int shift, float x, float y);
+void Disegno_MouseDown(int button, int shift, double x, double y);
+void Disegno_MouseMove(int button, int shift, double x, double y);
+void Disegno_MouseUp(int button, int shift, double x, double y);
 void Disegno_DblClick();
 void Disegno_CatturaPersa();
 void Disegno_MouseLeave();

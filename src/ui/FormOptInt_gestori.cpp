@@ -26,7 +26,7 @@ void Command1_Click() {
 
 void AggiornaOpzioniInterne_(std::int16_t &ok) {
     const std::string &testo = FormOptInt.TextTrappola.Text;
-    OpzInt[1] = testo.empty() ? 0 : std::abs(ParteIntera(ValoreNumerico(testo)));
+    OpzInt[1] = testo.empty() ? 0 : std::abs(ParteIntera(ValoreNumerico(ConPunto(testo))));
     ok = OpzInt[1] == 0 ? 0 : 1;
 }
 

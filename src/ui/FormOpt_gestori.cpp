@@ -119,7 +119,7 @@ void AggiornaOpzioni() {
     Opzioni[kOpzColoreTesto] = double(coloreTesto);
     for (int k = 0; k < kCampiTesto; ++k) {
         const CampoTesto &c = CampiTesto()[k];
-        Opzioni[c.voce] = ValoreNumerico(c.casella->Text());
+        Opzioni[c.voce] = ValoreNumerico(ConPunto(c.casella->Text()));
     }
     // Without a text size no label can be drawn.
     for (const auto &[casella, voce] :

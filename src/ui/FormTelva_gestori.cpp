@@ -37,17 +37,9 @@ void Ridisegna_SuInvio(int tasto) {
     if (tasto == kTastoInvio) Ridis_Click();
 }
 
-void SpostaIn(double scarto) {
-    for (Controllo *c : {static_cast<Controllo *>(&FormTelva.Disegno),
-                         static_cast<Controllo *>(&FormTelva.FrameInput),
-                         static_cast<Controllo *>(&FormTelva.FrameSel),
-                         static_cast<Controllo *>(&FormTelva.FrameAtt)})
-        c->Top = c->Top + scarto;
-    FormTelva.Disegno.Height = FormTelva.Disegno.Height - scarto;
-}
-
 // A bar has come or gone.
 void RidisegnaDisposta() {
+    FormTelva.Disponi();
     ControllaIntervalli();
     RidisegnaAllaMisura();
 }
@@ -64,11 +56,15 @@ void Esci_Click() { FineProgramma(); }
 void Aggiungi_Click() { IniziaFunzione(kAggiungi, "Aggiungi selezione"); }
 void Rimuovi_Click() { IniziaFunzione(kRimuovi, "Rimuovi selezione"); }
 
+// A property selection goes on after it: its prompt and the text being typed come back.
 void RimTutto_Click() {
+    const bool inAttesa = FormTelva.Risposta.Enabled;
+    const std::string domanda = FormTelva.Domanda.Caption, risposta = FormTelva.Risposta.Text;
     const std::uint8_t sottoFunzione = CodSottoFun;
     SelezionaPerColore(kOgniColore, Segno::Tolto);
     CodSottoFun = sottoFunzione;
     if (CodFunAttiva != kNessunaFunzione) AbilitaComandi();
+    if (inAttesa) AttendiRisposta(domanda, risposta);
     FormTelva.SottoFunAttiva.Caption = "Selezione diretta"; // whatever the sub-function is
 }
 
@@ -100,7 +96,6 @@ void BarraLat_Click() {
     FormTelva.Toolbar1.Suggerimento("AggiungiBarraLat", mostra ? "Toglie la barra laterale"
                                                                : "Aggiunge la barra laterale");
     FormTelva.BarraLat.Checked = mostra;
-    FormTelva.Disponi();
     RidisegnaDisposta();
 }
 
@@ -108,7 +103,6 @@ void BarraIcone_Click() {
     const bool mostra = !FormTelva.Toolbar1.Visible;
     FormTelva.Toolbar1.Visible = mostra;
     FormTelva.BarraIcone.Checked = mostra;
-    SpostaIn(mostra ? FormTelva.Toolbar1.Height : -FormTelva.Toolbar1.Height);
     RidisegnaDisposta();
 }
 

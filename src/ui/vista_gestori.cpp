@@ -42,9 +42,8 @@ void ControllaIntervalli() {
 
 void Ottimizza_Click() {
     if (!Proietta()) return;
-    FinestraZoom = {};
     ControllaIntervalli();
-    Adatta();
+    AdattaTutto();
     DisegnaStruttura();
 }
 
@@ -80,9 +79,7 @@ bool Vista_KeyDown(int tasto) {
     // A tenth of the box, in whole pixels, towards what lies there.
     const double dx = d.LarghezzaPixel() / 10 / std::abs(d.ScalaX());
     const double dy = d.AltezzaPixel() / 10 / std::abs(d.ScalaY());
-    const auto guarda = [](double x, double y) { // from what is shown, as far as it has a size
-        const FinestraDisegno &f = FinestraVista;
-        if (f.primaX == f.secondaX || f.primaY == f.secondaY) return;
+    const auto guarda = [](double x, double y) {
         SpostaVista(FinestraVista, -x, -y);
         Ridis_Click();
     };

@@ -54,22 +54,71 @@ FinestraDisegno EstensioneMostrata() {
     return e.Finestra();
 }
 
-// What is shown first has no area (a single column seen from the front): there is no old scale to
-// keep, so its length has to do.
-void PrimaScala(const FinestraDisegno &f) {
-    RiquadroDisegno &d = FormTelva.Disegno;
-    const double l = d.LarghezzaPixel(), a = d.AltezzaPixel();
-    const double lunghezza = std::max({f.primaX - f.secondaX, f.primaY - f.secondaY, 1.0});
-    const double unita = 1.5 * lunghezza / std::min(l, a);
-    const double cx = (f.primaX + f.secondaX) / 2, cy = (f.primaY + f.secondaY) / 2;
-    d.Scale(cx - unita * l / 2, cy + unita * a / 2, cx + unita * l / 2, cy - unita * a / 2);
-}
-
 // The second margin is a tenth of the width already widened by the first: the pictures of a job
 // have always stood a little to one side, and zoom windows are compared with them.
 void Allarga(double &prima, double &seconda) {
     prima += kMargine * std::abs(prima - seconda);
     seconda -= kMargine * std::abs(prima - seconda);
+}
+
+// The other way round: what Allarga makes as wide as this.
+void Restringi(double &prima, double &seconda) {
+    const double larghezza = (prima - seconda) / ((1 + kMargine) * (1 + kMargine));
+    prima -= kMargine * larghezza;
+    seconda = prima - larghezza;
+}
+
+bool HaArea(const FinestraDisegno &f) {
+    return std::abs((f.primaY - f.secondaY) * (f.primaX - f.secondaX)) >= kAreaNulla;
+}
+
+// The one place where the user scale is set: FinestraVista is always what is shown.
+void Mostra(FinestraDisegno f) {
+    FinestraVista = f;
+    Allarga(f.primaX, f.secondaX);
+    Allarga(f.primaY, f.secondaY);
+    // The box is measured in its own pixels, so that one unit is the same both ways to the pixel.
+    const double larghezza = FormTelva.Disegno.LarghezzaPixel();
+    const double altezza = FormTelva.Disegno.AltezzaPixel();
+    const double r = std::min(larghezza / std::abs(f.primaX - f.secondaX),
+                              altezza / std::abs(f.primaY - f.secondaY));
+    const double wU = larghezza / r, hU = altezza / r;
+    const double cx = (f.primaX + f.secondaX) / 2, cy = (f.primaY + f.secondaY) / 2;
+    FormTelva.Disegno.Scale(cx - wU / 2, cy + hU / 2, cx + wU / 2, cy - hU / 2);
+}
+
+// Shows the box's pixels with so many units each around a centre.
+void MostraAttorno(double cx, double cy, double unita) {
+    const double mezzaX = unita * FormTelva.Disegno.LarghezzaPixel() / 2;
+    const double mezzaY = unita * FormTelva.Disegno.AltezzaPixel() / 2;
+    FinestraDisegno f{cx + mezzaX, cx - mezzaX, cy + mezzaY, cy - mezzaY};
+    Restringi(f.primaX, f.secondaX);
+    Restringi(f.primaY, f.secondaY);
+    Mostra(f);
+}
+
+// What has no area (a single column seen from the front) is shown by its length.
+void MostraSenzaArea(const FinestraDisegno &f) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    const double lunghezza = std::max({f.primaX - f.secondaX, f.primaY - f.secondaY, 1.0});
+    MostraAttorno((f.primaX + f.secondaX) / 2, (f.primaY + f.secondaY) / 2,
+                  1.5 * lunghezza / std::min(d.LarghezzaPixel(), d.AltezzaPixel()));
+}
+
+// The old scale stays; a box of another size shows more or less of it around the same centre.
+void TieniScala() {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    if (d.LarghezzaPixel() / d.ScaleWidth == d.ScalaX() &&
+        d.AltezzaPixel() / d.ScaleHeight == d.ScalaY())
+        return;
+    MostraAttorno(d.ScaleLeft + d.ScaleWidth / 2, d.ScaleTop + d.ScaleHeight / 2,
+                  d.UnitaPerPixel());
+}
+
+bool InVista(const FinestraDisegno &f) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    return f.secondaX >= d.ScaleLeft && f.primaX <= d.ScaleLeft + d.ScaleWidth &&
+           f.primaY <= d.ScaleTop && f.secondaY >= d.ScaleTop + d.ScaleHeight;
 }
 
 } // namespace
@@ -86,8 +135,8 @@ void SpostaVista(const FinestraDisegno &p, double dx, double dy) {
     FinestraZoom = {p.primaX - dx, p.secondaX - dx, p.primaY - dy, p.secondaY - dy};
 }
 
-void AggiornaFinestraVista() {
-    FinestraVista = ZoomImpostato() ? FinestraZoom : EstensioneMostrata();
+FinestraDisegno FinestraDaSpostare() {
+    return ZoomImpostato() && HaArea(FinestraZoom) ? FinestraZoom : FinestraVista;
 }
 
 bool ApplicaRotella(double d) {
@@ -107,23 +156,23 @@ bool ApplicaRotella(double d) {
 
 void Adatta() {
     CalcolaAttivi();
-    AggiornaFinestraVista();
-    FinestraDisegno f = FinestraVista;
-    if (std::abs((f.primaY - f.secondaY) * (f.primaX - f.secondaX)) < kAreaNulla) {
-        FormTelva.MousePointer = Puntatore::Predefinito;
-        if (!FormTelva.Disegno.ScalaImpostata()) PrimaScala(f);
+    const FinestraDisegno f = ZoomImpostato() ? FinestraZoom : EstensioneMostrata();
+    if (HaArea(f)) {
+        Mostra(f);
         return;
     }
-    Allarga(f.primaX, f.secondaX);
-    Allarga(f.primaY, f.secondaY);
-    // The box is measured in its own pixels, so that one unit is the same both ways to the pixel.
-    const double larghezza = FormTelva.Disegno.LarghezzaPixel();
-    const double altezza = FormTelva.Disegno.AltezzaPixel();
-    const double r = std::min(larghezza / std::abs(f.primaX - f.secondaX),
-                              altezza / std::abs(f.primaY - f.secondaY));
-    const double wU = larghezza / r, hU = altezza / r;
-    const double cx = (f.primaX + f.secondaX) / 2, cy = (f.primaY + f.secondaY) / 2;
-    FormTelva.Disegno.Scale(cx - wU / 2, cy + hU / 2, cx + wU / 2, cy - hU / 2);
+    FormTelva.MousePointer = Puntatore::Predefinito;
+    if (FormTelva.Disegno.ScalaImpostata())
+        TieniScala();
+    else
+        MostraSenzaArea(f);
+}
+
+void AdattaTutto() {
+    FinestraZoom = {};
+    Adatta();
+    const FinestraDisegno f = EstensioneMostrata();
+    if (!HaArea(f) && !InVista(f)) MostraSenzaArea(f);
 }
 
 void AzzeraVista() {

@@ -10,7 +10,7 @@ struct FinestraDisegno {
 };
 
 extern FinestraDisegno FinestraZoom;  // set by zoom, pan and wheel; zeros = fit to the structure
-extern FinestraDisegno FinestraVista; // fitted by the last Adatta, before its margins
+extern FinestraDisegno FinestraVista; // what is shown, before the margins of the fit
 
 // True while a zoom window is set.
 bool ZoomImpostato();
@@ -21,15 +21,20 @@ void ImpostaZoom(double xa, double ya, double xb, double yb);
 // `partenza` moved by (-dx, -dy) becomes the zoom window.
 void SpostaVista(const FinestraDisegno &partenza, double dx, double dy);
 
-// Brings FinestraVista up to date with what is shown, without touching the scale.
-void AggiornaFinestraVista();
+// What a pan by two clicks starts from: the zoom window, or what is shown when none is set.
+FinestraDisegno FinestraDaSpostare();
 
 // Wheel by d steps (positive = zoom in). False when the window has become too small to redraw.
 bool ApplicaRotella(double d);
 
 // Activation, then the user scale of Disegno: the chosen window undistorted, centred, with
-// margins. A window without area leaves the scale as it is.
+// margins. A window without area leaves the scale as it is; in a box of another size its centre and
+// its units per pixel.
 void Adatta();
+
+// Adatta on the whole structure, without a zoom window. What has no area and does not lie in the
+// old scale is shown by its length.
+void AdattaTutto();
 
 void AzzeraVista();
 

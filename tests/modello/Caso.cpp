@@ -2,17 +2,20 @@
 
 #include "ui/controlli/FormTelva.h"
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
 namespace telva::prove {
 namespace {
 
-// A place as it is printed: short steps in the story of a failure.
-float SeiCifre(double v) {
+// A place as it is printed: short steps in the story of a failure. Far from the origin every digit
+// counts.
+double SeiCifre(double v) {
+    if (std::abs(v) > 1e5) return v;
     char testo[32];
     std::snprintf(testo, sizeof testo, "%.6g", static_cast<double>(static_cast<float>(v)));
-    return std::strtof(testo, nullptr);
+    return static_cast<double>(std::strtof(testo, nullptr));
 }
 
 } // namespace
@@ -36,6 +39,15 @@ void Caso::Nodi(LavoroProva &l) {
         l.punti.push_back({x, y, z});
     }
     l.punti[1] = {1, 2, 3};
+    if (Tira(6) == 0) { // one plane, or one line, seen from its edge
+        const int asse = Tira(3), altro = Tira(3);
+        for (auto &punto : l.punti) punto[asse] = punto[altro] = 0;
+    }
+    if (Tira(6) == 0) { // map coordinates
+        const double lontano = Una({4e6, 4e7, 5e8});
+        for (auto &punto : l.punti)
+            for (double &v : punto) v += lontano;
+    }
     const bool pochi = Tira(4) != 0;
     for (int n = 1 + Tira(pochi ? 20 : 99); n > 0; --n)
         l.nodi.push_back({.punto = Tira(l.punti.size()),
@@ -128,8 +140,8 @@ Punto Caso::Posto(const Modello &m) {
         return Una({0., 0., 1., -1., 1.25, -0.75, 1.003, 0.995 * t, -1.005 * t, 0.7 * t, 0.4 * t,
                     -1.3 * t});
     };
-    const float y = SeiCifre(p.y + scarto()), x = SeiCifre(p.x + scarto());
-    return {x, y};
+    const double y = SeiCifre(p.y + scarto()), x = SeiCifre(p.x + scarto());
+    return m.Evento(x, y);
 }
 
 PassoCasuale Caso::Filtri() {
@@ -143,8 +155,7 @@ PassoCasuale Caso::Filtri() {
 PassoCasuale Caso::Vista(const Modello &m, const passi::Trascina &trascina) {
     const Punto p = Posto(m);
     return Una<PassoCasuale>({trascina, passi::Rotella{1}, passi::Rotella{-1}, passi::Rotella{-3},
-                              passi::Rotella{2}, passi::DoppioClic{},
-                              passi::ClicDestro{static_cast<float>(p.x), static_cast<float>(p.y)},
+                              passi::Rotella{2}, passi::DoppioClic{}, passi::ClicDestro{p.x, p.y},
                               passi::Lettera{}, passi::Menu{"Ottimizza"}});
 }
 
@@ -166,7 +177,8 @@ PassoCasuale Caso::Passo(const Modello &m) {
         return passi::Intervallo{estremo, testo, Tira(2) == 0};
     }
     case 5: {
-        const std::string testo = Testo({"0", "0", "0", "30", "-75", "22.5", "90", "x1", ""});
+        const std::string testo =
+            Testo({"0", "0", "0", "30", "-75", "22.5", "90", "x1", "", "22,5", "6e307"});
         const auto asse = static_cast<Asse>(Tira(3));
         return passi::Angolo{asse, testo, Tira(2) == 0};
     }
@@ -190,9 +202,8 @@ PassoCasuale Caso::Passo(const Modello &m) {
     default: break;
     }
     const Punto p = Posto(m);
-    const auto x = static_cast<float>(p.x), y = static_cast<float>(p.y);
-    if (quale == 0) return passi::Muovi{x, y};
-    return passi::Clic{x, y};
+    if (quale == 0) return passi::Muovi{p.x, p.y};
+    return passi::Clic{p.x, p.y};
 }
 
 } // namespace telva::prove

@@ -14,7 +14,10 @@ constexpr double kZoomMinimo = 0.1; // drawing units
 constexpr int kCritica = 0;
 constexpr int kUltimaAsta = 20000; // place in the table
 
-double Numero(const std::string &testo) { return std::strtod(testo.c_str(), nullptr); }
+double Numero(std::string testo) { // typed, the comma for a point
+    std::ranges::replace(testo, ',', '.');
+    return std::strtod(testo.c_str(), nullptr);
+}
 
 } // namespace
 
@@ -98,14 +101,14 @@ void Modello::Estremi(int asse) {
 bool Modello::Proietta() {
     bool errore = false;
     for (int k = 0; k < 3; ++k) {
-        if (!angoli[k].empty() && angoli[k] != "x1") continue;
+        if (!angoli[k].empty() && angoli[k] != "x1" && angoli[k] != "6e307") continue;
         Dice("Angolo di vista non valido: " + angoli[k], "ERRORE", kCritica);
         angoli[k] = validi_[k];
         errore = true;
     }
     if (errore) return false;
     validi_ = angoli;
-    const auto radianti = [&](int k) { return std::stod(validi_[k]) * kPi / 180; };
+    const auto radianti = [&](int k) { return Numero(validi_[k]) * kPi / 180; };
     const double a = radianti(0), b = -radianti(1), c = radianti(2);
     for (std::size_t n = 0; n < punti.size(); ++n) {
         const auto &[x, y, z] = lavoro_.punti[n];
@@ -137,25 +140,57 @@ bool Modello::Piccola() const {
     return std::min(std::abs(zoom.maxX - zoom.minX), std::abs(zoom.maxY - zoom.minY)) < kZoomMinimo;
 }
 
-// Into `vista`: the zoom window, or else what is drawn and active.
-void Modello::Inquadra() {
+// Around what is drawn and active.
+Riquadro Modello::Mostrati() const {
     // The point that is there from the beginning; while the first node is hidden, none far out.
+    const auto vicino = [](const auto &punto) {
+        return std::ranges::all_of(punto, [](double v) { return std::abs(v) < 5000; });
+    };
     std::size_t primo = 0;
-    const auto lontano = [](double v) { return std::abs(v) >= 5000; };
-    while (elementi[Nodi][0].colore >= 10 && std::ranges::any_of(lavoro_.punti[primo], lontano))
-        ++primo;
-    vista = {punti[primo].x, punti[primo].x, punti[primo].y, punti[primo].y};
+    if (elementi[Nodi][0].colore >= 10) {
+        const auto contato = std::ranges::find_if(lavoro_.punti, vicino);
+        if (contato != lavoro_.punti.end()) primo = contato - lavoro_.punti.begin();
+    }
+    Riquadro r{punti[primo].x, punti[primo].x, punti[primo].y, punti[primo].y};
     for (const auto &tabella : elementi)
         for (const Elemento &e : tabella) {
             if (e.nome <= 0 || e.colore >= 10 || !e.attivo || e.sottile) continue;
             for (const int p : e.punti) {
-                vista.maxX = std::max(vista.maxX, punti[p].x);
-                vista.minX = std::min(vista.minX, punti[p].x);
-                vista.maxY = std::max(vista.maxY, punti[p].y);
-                vista.minY = std::min(vista.minY, punti[p].y);
+                r.maxX = std::max(r.maxX, punti[p].x);
+                r.minX = std::min(r.minX, punti[p].x);
+                r.maxY = std::max(r.maxY, punti[p].y);
+                r.minY = std::min(r.minY, punti[p].y);
             }
         }
-    if (Zoomata()) vista = zoom;
+    return r;
+}
+
+void Modello::Inquadra(const Riquadro &finestra) {
+    vista = finestra;
+    auto [maxX, minX, maxY, minY] = finestra;
+    // A tenth more on either side, the second one of what the first has widened.
+    maxX += 0.1 * std::abs(maxX - minX);
+    minX -= 0.1 * std::abs(maxX - minX);
+    maxY += 0.1 * std::abs(maxY - minY);
+    minY -= 0.1 * std::abs(maxY - minY);
+    const double r = std::min(largo / std::abs(maxX - minX), alto / std::abs(maxY - minY));
+    scala = {(maxX + minX - largo / r) / 2, (maxY + minY + alto / r) / 2, largo / r, -alto / r};
+    largoScala_ = largo;
+    altoScala_ = alto;
+}
+
+// The window whose margins reach to the edges of the box.
+void Modello::InquadraAttorno(double x, double y, double unita) {
+    const double w = unita * largo, h = unita * alto;
+    Inquadra({x + w / 2 - 0.1 * w / 1.21, x - w / 2 + 0.11 * w / 1.21, y + h / 2 - 0.1 * h / 1.21,
+              y - h / 2 + 0.11 * h / 1.21});
+}
+
+// Without area: its length takes two thirds of the smaller side.
+void Modello::InquadraLunghezza(const Riquadro &r) {
+    const double lunghezza = std::max({r.maxX - r.minX, r.maxY - r.minY, 1.0});
+    InquadraAttorno((r.maxX + r.minX) / 2, (r.maxY + r.minY) / 2,
+                    lunghezza * 1.5 / std::min(largo, alto));
 }
 
 void Modello::ControllaIntervalli() {
@@ -172,17 +207,14 @@ void Modello::Adatta() {
     for (int t = Nodi; t <= Gusci; ++t)
         for (Elemento &e : elementi[t])
             e.attivo = Dentro(e) && filtri_[t] && filtri_[e.selezionato ? 3 : 4];
-    Inquadra();
-    auto [maxX, minX, maxY, minY] = vista;
-    if (std::abs((maxX - minX) * (maxY - minY)) < kUguale) return;
-    // A tenth more on either side, the second one of what the first has widened.
-    maxX += 0.1 * std::abs(maxX - minX);
-    minX -= 0.1 * std::abs(maxX - minX);
-    maxY += 0.1 * std::abs(maxY - minY);
-    minY -= 0.1 * std::abs(maxY - minY);
-    const double r = std::min(largo / std::abs(maxX - minX), alto / std::abs(maxY - minY));
-    scala = {(maxX + minX - largo / r) / 2, (maxY + minY + alto / r) / 2, largo / r, -alto / r};
-    scalaNota = true;
+    const Riquadro r = Zoomata() ? zoom : Mostrati();
+    if (r.HaArea())
+        Inquadra(r);
+    else if (largoScala_ == 0)
+        InquadraLunghezza(r);
+    else if (largo != largoScala_ || alto != altoScala_) // more or less of the same
+        InquadraAttorno(scala.sinistra + scala.larghezza / 2, scala.alto + scala.altezza / 2,
+                        scala.larghezza / largoScala_);
 }
 
 void Modello::Ridisegna() {
@@ -197,6 +229,8 @@ void Modello::Ottimizza() {
     zoom = {};
     ControllaIntervalli();
     Adatta();
+    const Riquadro r = Mostrati();
+    if (!r.HaArea() && !(InVista(r.maxX, r.maxY) && InVista(r.minX, r.minY))) InquadraLunghezza(r);
 }
 
 void Modello::Trasla(const Riquadro &da, double dx, double dy) {

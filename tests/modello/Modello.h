@@ -9,6 +9,7 @@
 #include "sostegno/LavoroProva.h"
 
 #include <array>
+#include <cmath>
 #include <map>
 #include <set>
 #include <string>
@@ -23,7 +24,7 @@ struct Punto {
 // A window in drawing units.
 struct Riquadro {
     double maxX = 0, minX = 0, maxY = 0, minY = 0;
-    friend bool operator==(const Riquadro &, const Riquadro &) = default;
+    bool HaArea() const { return std::abs((maxX - minX) * (maxY - minY)) >= 1e-4; }
 };
 
 // The scale of the picture box: its top left corner, and its size (y grows upwards, so the height
@@ -88,7 +89,6 @@ struct Modello {
     // --- the box and its settings
     double largo = 1, alto = 1; // pixels
     double trappola = 8;
-    bool scalaNota = false;
     bool dubbio = false;      // the last digits of a sum would decide: not to be compared
     std::vector<Punto> punti; // projected
 
@@ -114,6 +114,8 @@ struct Modello {
     void Avvio(const Ingresso &ingresso);
     double RaggioTrappola() const { return trappola * scala.larghezza / largo; }
     bool InVista(double x, double y) const;
+    // A place as an event tells it: in single precision where that is near enough.
+    Punto Evento(double x, double y) const;
     // A place that pans by whole pixels while a pan is awaited.
     Punto AlPixel(double x, double y) const;
 
@@ -126,7 +128,10 @@ struct Modello {
     bool Dentro(const Elemento &e) const;
     bool Zoomata() const;
     bool Piccola() const;
-    void Inquadra();
+    Riquadro Mostrati() const;
+    void Inquadra(const Riquadro &finestra);
+    void InquadraAttorno(double x, double y, double unita);
+    void InquadraLunghezza(const Riquadro &finestra);
     static bool Giusto(const std::string &intervallo); // of those that a step types
     void ControllaIntervalli();
     void Adatta();
@@ -164,8 +169,9 @@ struct Modello {
     void SecondoAngolo();
 
     const LavoroProva lavoro_;
-    std::array<std::string, 6> ultimi_; // intervals that were right
-    std::array<std::string, 3> validi_; // angles that were right
+    double largoScala_ = 0, altoScala_ = 0; // the box that the scale was made for; 0: none yet
+    std::array<std::string, 6> ultimi_;     // intervals that were right
+    std::array<std::string, 3> validi_;     // angles that were right
     std::array<bool, 5> filtri_ = {true, true, true, true, true};
     int ultimoTasto_ = Nessuno;
     Punto angolo0_{}, angolo1_{}; // rectangle

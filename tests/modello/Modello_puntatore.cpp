@@ -25,8 +25,17 @@ Punto Modello::AlPixel(double x, double y) const {
     if (!modoSposta) return {x, y};
     const double px = std::round((x - scala.sinistra) / scala.larghezza * largo);
     const double py = std::round((y - scala.alto) / scala.altezza * alto);
-    return {static_cast<float>(scala.sinistra + px * scala.larghezza / largo),
-            static_cast<float>(scala.alto + py * scala.altezza / alto)};
+    return Evento(scala.sinistra + px * scala.larghezza / largo,
+                  scala.alto + py * scala.altezza / alto);
+}
+
+Punto Modello::Evento(double x, double y) const {
+    const double pixel = scala.larghezza / largo;
+    const auto evento = [&](double v) {
+        const double singola = static_cast<float>(v);
+        return std::abs(singola - v) <= pixel / 64 ? singola : v;
+    };
+    return {evento(x), evento(y)};
 }
 
 // --- direct pick
@@ -184,8 +193,7 @@ void Modello::Premi(double x, double y) {
         linea0_ = {x, y};
     } else if (modoSposta && std::max(std::abs(x - linea0_.x), std::abs(y - linea0_.y)) > kUguale) {
         modoSposta = spostaInCorso = lineaSposta = false;
-        Inquadra();
-        Trasla(vista, x - linea0_.x, y - linea0_.y);
+        Trasla(Zoomata() && zoom.HaArea() ? zoom : vista, x - linea0_.x, y - linea0_.y);
         Didascalia();
     } else if (!primoAngolo && (sotto == Sotto::Finestra || modoZoom)) {
         primoAngolo = true;
@@ -219,18 +227,16 @@ void Modello::Trascina(const std::vector<std::array<int, 2>> &pixel) {
     const auto [px, py] = pixel[0];
     linea0_ = {scala.sinistra + px * scala.larghezza / largo,
                scala.alto + py * scala.altezza / alto};
-    const Riquadro vecchia = vista;
-    Inquadra();
     const Riquadro da = vista;
-    // Not to be compared: no window, one that is not yet shown, or pixels that are not square.
-    dubbio = da.maxX - da.minX < kUguale || !(da == vecchia) ||
-             std::abs(scala.larghezza / largo + scala.altezza / alto) > 1e-9 * scala.larghezza;
+    const double quasi = 1e-3 * scala.larghezza / largo; // the steps are whole pixels
     for (std::size_t n = 1; n < pixel.size(); ++n) {
         const auto [qx, qy] = pixel[n];
         const double dx = (qx - px) * scala.larghezza / largo;
         const double dy = (qy - py) * scala.altezza / alto;
-        const bool altrove =
-            std::max(std::abs(da.maxX - dx - zoom.maxX), std::abs(da.maxY - dy - zoom.maxY)) > 1e-9;
+        const bool altrove = std::abs(da.maxX - dx - zoom.maxX) > quasi ||
+                             std::abs(da.maxY - dy - zoom.maxY) > quasi ||
+                             std::abs(da.minX - dx - zoom.minX) > quasi ||
+                             std::abs(da.minY - dy - zoom.minY) > quasi;
         if (altrove && (dx != 0 || dy != 0 || Zoomata())) Trasla(da, dx, dy);
         Muovi(scala.sinistra + qx * scala.larghezza / largo,
               scala.alto + qy * scala.altezza / alto);

@@ -181,10 +181,17 @@ void Modello::Interrompi() {
 void Modello::RimuoviTutto() {
     const Funzione vera = funzione;
     const Sotto veraSotto = sotto;
+    const bool chiede = risposta; // a list: it goes on
+    const std::string prompt = domanda, scritto = testoRisposta;
     funzione = Rimuovere;
     Attributo("Colore", kOgniColore);
     funzione = vera;
     sotto = veraSotto;
+    if (chiede) {
+        risposta = true;
+        domanda = prompt;
+        testoRisposta = scritto;
+    }
     sottoFunAttiva = "Selezione diretta"; // whatever the sub-function is
 }
 

@@ -14,13 +14,13 @@ struct Menu {
     std::string voce;
 };
 struct Muovi {
-    float x, y;
+    double x, y;
 };
 struct Clic {
-    float x, y;
+    double x, y;
 };
 struct ClicDestro {
-    float x, y;
+    double x, y;
 };
 struct Trascina {
     std::vector<std::array<int, 2>> pixel;

@@ -41,16 +41,18 @@ class Confronto {
     std::ostringstream differenze_;
 };
 
-double Misura(std::initializer_list<double> numeri) {
-    double misura = 0.1;
-    for (const double n : numeri) misura = std::max(misura, std::abs(n));
-    return misura;
+// What a difference is measured by: the size of the window, and the digits that are left of
+// numbers far from the origin.
+double Misura(double larghezza, double altezza, double x, double y) {
+    return std::max({0.1, std::abs(larghezza), std::abs(altezza)}) +
+           1e-8 * std::max(std::abs(x), std::abs(y));
 }
 
 // The model takes over the last digits.
 void ConfrontaFinestra(Confronto &c, const std::string &che, const FinestraDisegno &vista,
                        Riquadro &attesa) {
-    const double misura = Misura({vista.primaX, vista.secondaX, vista.primaY, vista.secondaY});
+    const double misura = Misura(vista.primaX - vista.secondaX, vista.primaY - vista.secondaY,
+                                 vista.primaX, vista.primaY);
     c.Vicini(che + " primaX", vista.primaX, attesa.maxX, misura);
     c.Vicini(che + " secondaX", vista.secondaX, attesa.minX, misura);
     c.Vicini(che + " primaY", vista.primaY, attesa.maxY, misura);
@@ -60,13 +62,11 @@ void ConfrontaFinestra(Confronto &c, const std::string &che, const FinestraDiseg
 
 void ConfrontaScala(Confronto &c, const RiquadroDisegno &d, Modello &m) {
     const Scala vista{d.ScaleLeft, d.ScaleTop, d.ScaleWidth, d.ScaleHeight};
-    if (m.scalaNota) { // not so in a first view without area
-        const double misura = Misura({d.ScaleLeft, d.ScaleTop, d.ScaleWidth, d.ScaleHeight});
-        c.Vicini("ScaleLeft", vista.sinistra, m.scala.sinistra, misura);
-        c.Vicini("ScaleTop", vista.alto, m.scala.alto, misura);
-        c.Vicini("ScaleWidth", vista.larghezza, m.scala.larghezza, misura);
-        c.Vicini("ScaleHeight", vista.altezza, m.scala.altezza, misura);
-    }
+    const double misura = Misura(d.ScaleWidth, d.ScaleHeight, d.ScaleLeft, d.ScaleTop);
+    c.Vicini("ScaleLeft", vista.sinistra, m.scala.sinistra, misura);
+    c.Vicini("ScaleTop", vista.alto, m.scala.alto, misura);
+    c.Vicini("ScaleWidth", vista.larghezza, m.scala.larghezza, misura);
+    c.Vicini("ScaleHeight", vista.altezza, m.scala.altezza, misura);
     m.scala = vista;
 }
 
@@ -167,8 +167,8 @@ struct SequenzeProva : Utente {
         const auto sposta = [&](auto &p) {
             if constexpr (requires { p.x; }) {
                 const Punto q = m.AlPixel(p.x, p.y);
-                p.x = static_cast<float>(q.x);
-                p.y = static_cast<float>(q.y);
+                p.x = q.x;
+                p.y = q.y;
             }
         };
         std::visit(sposta, passo);

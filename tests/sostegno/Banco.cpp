@@ -158,11 +158,17 @@ void Banco::Passo(const std::string &testo, const std::function<void()> &evento)
     });
 }
 
-std::string Banco::Letterale(float v) {
+std::string Banco::Letterale(double v) {
     char testo[32] = "";
-    for (int cifre = 6; cifre <= 9 && std::strtof(testo, nullptr) != v; ++cifre)
-        std::snprintf(testo, sizeof testo, "%.*g", cifre, static_cast<double>(v));
-    return testo;
+    for (int cifre = 6; cifre <= 17 && std::strtod(testo, nullptr) != v; ++cifre)
+        std::snprintf(testo, sizeof testo, "%.*g", cifre, v);
+    const double singola = static_cast<float>(v); // which then is short, with an f
+    if (singola != v || std::string(testo).size() < 12) return testo;
+    for (int cifre = 6; cifre <= 9; ++cifre) {
+        std::snprintf(testo, sizeof testo, "%.*g", cifre, v);
+        if (static_cast<double>(std::strtof(testo, nullptr)) == v) break;
+    }
+    return std::string(testo) + "f";
 }
 
 void Banco::DimenticaPassi() { passi.clear(); }

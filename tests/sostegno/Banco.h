@@ -61,7 +61,7 @@ class Banco : public ::testing::Test {
     bool Finito() const { return codiceFine >= 0; }
     static std::string Lista(); // shown selection
 
-    static std::string Letterale(float v); // as short as it can be read again
+    static std::string Letterale(double v); // as short as it can be read again
     template <class T>
     static std::string Letterale(const T &v) {
         return ::testing::PrintToString(v);

@@ -21,6 +21,7 @@ std::string Elenco(const std::vector<T> &voci, const auto &scrivi) {
 
 std::string LavoroProva::Struttura() const {
     std::ostringstream s;
+    s.precision(15); // far from the origin every digit counts
     s << "Struttura di prova, Release 4.0\r\n" << punti.size() << "\r\n";
     for (const auto &p : punti) s << p[0] << "," << p[1] << "," << p[2] << "\r\n";
     s << nodi.size() << "\r\n";

@@ -124,26 +124,26 @@ void Utente::Ridimensiona(double larghezza, double altezza) {
     });
 }
 
-void Utente::Muovi(float x, float y) {
+void Utente::Muovi(double x, double y) {
     Passo(Scritto("Muovi", x, y), [&] { FormTelva.Disegno.MouseMove(0, 0, x, y); });
 }
 
-void Utente::Clic(float x, float y) {
+void Utente::Clic(double x, double y) {
     Passo(Scritto("Clic", x, y), [&] {
         FormTelva.Disegno.MouseMove(0, 0, x, y);
         FormTelva.Disegno.MouseDown(kSinistro, 0, x, y);
     });
 }
 
-void Utente::ClicDestro(float x, float y) {
+void Utente::ClicDestro(double x, double y) {
     Passo(Scritto("ClicDestro", x, y), [&] { FormTelva.Disegno.MouseDown(kDestro, 0, x, y); });
 }
 
-void Utente::PremiCentrale(float x, float y) {
+void Utente::PremiCentrale(double x, double y) {
     Passo(Scritto("PremiCentrale", x, y), [&] { FormTelva.Disegno.MouseDown(kCentrale, 0, x, y); });
 }
 
-void Utente::MuoviPremuto(float x, float y) {
+void Utente::MuoviPremuto(double x, double y) {
     Passo(Scritto("MuoviPremuto", x, y), [&] { FormTelva.Disegno.MouseMove(kCentrale, 0, x, y); });
 }
 
@@ -159,8 +159,7 @@ void Utente::Trascina(const std::vector<Pixel> &pixel) {
     Passo("Trascina({" + luoghi + "})", [&] {
         RiquadroDisegno &d = FormTelva.Disegno;
         for (const Pixel &p : pixel) { // the scale goes with the picture
-            const auto x = static_cast<float>(d.XDaPixel(p.x));
-            const auto y = static_cast<float>(d.YDaPixel(p.y));
+            const double x = d.XEvento(d.XDaPixel(p.x)), y = d.YEvento(d.YDaPixel(p.y));
             (&p == pixel.data() ? d.MouseDown : d.MouseMove)(kCentrale, 0, x, y);
         }
         d.MouseUp(kCentrale, 0, 0, 0);

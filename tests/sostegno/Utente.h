@@ -37,11 +37,11 @@ class Utente : public Banco {
     void Ridimensiona(double larghezza, double altezza);
 
     // Places in drawing units.
-    void Muovi(float x, float y);
-    void Clic(float x, float y); // left; the pointer goes there first
-    void ClicDestro(float x, float y);
-    void PremiCentrale(float x, float y);
-    void MuoviPremuto(float x, float y); // with the middle button down
+    void Muovi(double x, double y);
+    void Clic(double x, double y); // left; the pointer goes there first
+    void ClicDestro(double x, double y);
+    void PremiCentrale(double x, double y);
+    void MuoviPremuto(double x, double y); // with the middle button down
     void RilasciaCentrale();
     void Trascina(const std::vector<Pixel> &pixel); // with the middle button, from the first one
     void DoppioClic();

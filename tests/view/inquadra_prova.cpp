@@ -258,8 +258,9 @@ TEST_F(Inquadra, LaVistaComprendeIlSemeECioCheSiMostra) {
     SelAsta[2] = SelGuscio[3] = 1; // bar 3 from (0,100) to (100,100); shell 4 is thin
     ColNodo[0] = 10;
     PrimoPuntoContato = 5; // (200, 100)
-    Adatta();
-    EXPECT_EQ(FinestraVista, (FinestraDisegno{200, 0, 100, 100})) << "node 0 is hidden";
+    d.Scale(0, 0, 1, 1);
+    Adatta(); // no area: as a first view it shows a line from (0, 100) to (200, 100)
+    ScalaE({.sinistra = -50, .alto = 250, .larga = 300, .alta = -300}, "node 0 is hidden");
     ColNodo[0] = 9;
     Adatta();
     EXPECT_EQ(FinestraVista, (FinestraDisegno{100, 0, 100, 0})) << "node 0 is not";

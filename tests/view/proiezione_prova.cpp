@@ -46,7 +46,7 @@ TEST_F(Proiezione, UnAngoloCheNonEUnNumeroSiRifiutaELaVistaResta) {
     Angoli("90", "10", "20");
     FormTelva.Ridis.Click();
     const double y = YDis[8];
-    for (const std::string testo : {"", "12,5", "3O", "inf", "nan", "1e400", ".", "-"}) {
+    for (const std::string testo : {"", "12,5,0", "3O", "inf", "nan", "1e400", ".", "-"}) {
         messaggi.clear();
         Angoli(testo, "10", "20");
         ProiettaNodi();

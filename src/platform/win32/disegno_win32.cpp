@@ -102,8 +102,8 @@ void DisegnoWin32::Evento(const std::function<void()> &gestore) {
 
 void DisegnoWin32::Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l) {
     if (!gestore) return;
-    const auto x = static_cast<float>(controllo_.XDaPixel(GET_X_LPARAM(l)));
-    const auto y = static_cast<float>(controllo_.YDaPixel(GET_Y_LPARAM(l)));
+    const double x = controllo_.XEvento(controllo_.XDaPixel(GET_X_LPARAM(l)));
+    const double y = controllo_.YEvento(controllo_.YDaPixel(GET_Y_LPARAM(l)));
     const int maiuscoli = Maiuscoli(w);
     finestra_.Evento([&] { gestore(tasti, maiuscoli, x, y); });
 }

@@ -20,7 +20,7 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     void Mostra(Campo campo) override;
 
   private:
-    using GestoreMouse = std::function<void(int, int, float, float)>;
+    using GestoreMouse = std::function<void(int, int, double, double)>;
     static LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l);
     LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
     void Dipingi() const;

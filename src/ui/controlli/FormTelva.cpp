@@ -17,7 +17,10 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     StringaSel.stile = StileEtichetta::Riassunto;
     LabStato.stile = StileEtichetta::Stato;
     for (Etichetta &e : Label2) e.stile = StileEtichetta::Pedice;
-    for (CasellaTesto &c : Angolo) c.stretta = true;
+    for (CasellaNumero &c : Angolo) {
+        c.stretta = true;
+        c.limite /= 3.1416; // its radians too are to be finite, and the way to them
+    }
     Inizio();
 }
 
