@@ -1,7 +1,7 @@
 #!/bin/bash
 # Measures every operation: without a window, natively and in both Windows builds, at a tenth, a third and the whole
 # capacity and in three sizes of the picture; and in the real program, both builds, under Wine. Prints the tables.
-#   bench/misura.sh [ROUNDS]       (3; the builds take turns, and each figure is the median of its best round)
+#   bench/misura.sh [ROUNDS]       (3; the builds take turns, and the best round counts)
 # The texts stay in build/misure.
 set -eu
 cd "$(dirname "$0")/.."
