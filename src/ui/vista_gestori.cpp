@@ -15,12 +15,14 @@ namespace telva {
 
 namespace {
 
-// A text that is no number is told and gives way to the last one that was.
-bool Controlla(CasellaNumero &casella, const char *messaggio) {
+// A text that is no number is told and gives way to the last one that was, which stands ready to be
+// typed over.
+bool Controlla(CasellaNumero &casella, const char *messaggio, const char *consiglio = "") {
     if (casella.Valida() || casella.Text == casella.Accolto()) return true;
     const std::string testo = casella.Text;
     casella.Ripristina();
-    MostraMessaggio(messaggio + Cita(testo), Icona::Critica, "ERRORE");
+    MostraMessaggio(messaggio + Cita(testo) + consiglio, Icona::Critica, "ERRORE");
+    casella.SetFocus();
     return false;
 }
 
@@ -28,7 +30,9 @@ bool Controlla(CasellaNumero &casella, const char *messaggio) {
 bool Proietta() {
     bool validi = true;
     for (CasellaNumero &angolo : FormTelva.Angolo)
-        validi = Controlla(angolo, "Angolo di vista non valido: ") && validi;
+        validi =
+            Controlla(angolo, "Angolo di vista non valido: ", " (usare cifre, ad esempio 22.5)") &&
+            validi;
     return validi && ProiettaNodi();
 }
 

@@ -102,7 +102,8 @@ bool Modello::Proietta() {
     bool errore = false;
     for (int k = 0; k < 3; ++k) {
         if (!angoli[k].empty() && angoli[k] != "x1" && angoli[k] != "6e307") continue;
-        Dice("Angolo di vista non valido: " + angoli[k], "ERRORE", kCritica);
+        Dice("Angolo di vista non valido: " + angoli[k] + " (usare cifre, ad esempio 22.5)",
+             "ERRORE", kCritica);
         angoli[k] = validi_[k];
         errore = true;
     }

@@ -295,8 +295,10 @@ TEST_F(VistaProva, AngoliRifiutati) {
     Angolo(Asse::Z, "12");
     for (const std::string testo : {"6e307", "-6e307", "abc", "1,2,3"}) {
         Angolo(Asse::Z, testo);
-        EXPECT_EQ(Detto(), "ERRORE: Angolo di vista non valido: " + testo);
+        EXPECT_EQ(Detto(), "ERRORE: Angolo di vista non valido: " + testo +
+                               " (usare cifre, ad esempio 22.5)");
         EXPECT_EQ(FormTelva.Angolo[2].Text(), "12");
+        EXPECT_EQ(FormTelva.fuoco, &FormTelva.Angolo[2]) << "ready to be corrected";
     }
 }
 
@@ -307,11 +309,12 @@ TEST_F(VistaProva, AngoliRifiutatiSenzaStruttura) {
     Avvia();
     EXPECT_EQ(Detto(), "Problema: Errore nella lettura della struttura");
     Angolo(Asse::X, "abc");
-    EXPECT_EQ(Detto(), "ERRORE: Angolo di vista non valido: abc");
+    EXPECT_EQ(Detto(), "ERRORE: Angolo di vista non valido: abc (usare cifre, ad esempio 22.5)");
     EXPECT_EQ(FormTelva.Angolo[0].Text(), "30");
     Intervallo(Estremo::MinX, "abc");
     EXPECT_EQ(Detto(), "ERRORE: Intervallo di coordinate non valido: abc");
     EXPECT_EQ(FormTelva.IntX[0].Text(), "");
+    EXPECT_EQ(FormTelva.fuoco, &FormTelva.IntX[0]);
 }
 
 // --- a selection that is being asked for

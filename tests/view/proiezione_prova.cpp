@@ -53,7 +53,9 @@ TEST_F(Proiezione, UnAngoloCheNonEUnNumeroSiRifiutaELaVistaResta) {
         EXPECT_TRUE(messaggi.empty()) << "a projection alone tells nothing";
         EXPECT_EQ(YDis[8], y) << '"' << testo << '"';
         FormTelva.Ridis.Click();
-        const Messaggio atteso{"Angolo di vista non valido: " + testo, Icona::Critica, "ERRORE"};
+        const Messaggio atteso{"Angolo di vista non valido: " + testo +
+                                   " (usare cifre, ad esempio 22.5)",
+                               Icona::Critica, "ERRORE"};
         EXPECT_EQ(messaggi, std::vector{atteso});
         EXPECT_EQ(FormTelva.Angolo[0].Text(), "90") << "instead of \"" << testo << '"';
         EXPECT_EQ(YDis[8], y) << '"' << testo << '"';
