@@ -217,6 +217,25 @@ void Timbro::Riempi(const Tratti &t, double x, double y) {
     massimo = {angolo.x + foglio.Larghezza() - 1, angolo.y + foglio.Altezza() - 1};
 }
 
+void Timbro::Contorna(const Timbro &altro) {
+    pixel.clear();
+    minimo = altro.minimo; // it has a margin
+    massimo = altro.massimo;
+    Superficie foglio;
+    foglio.Ridimensiona(massimo.x - minimo.x + 1, massimo.y - minimo.y + 1);
+    foglio.Riempi(0);
+    const auto segna = [&](const Pixel &p, int raggio, std::uint32_t valore) {
+        for (int y = p.y - raggio; y <= p.y + raggio; ++y)
+            for (int x = p.x - raggio; x <= p.x + raggio; ++x)
+                foglio.Riga(y - minimo.y)[x - minimo.x] = valore;
+    };
+    for (const Pixel &p : altro.pixel) segna(p, 1, 1);
+    for (const Pixel &p : altro.pixel) segna(p, 0, 0);
+    for (int y = 0; y < foglio.Altezza(); ++y)
+        for (int x = 0; x < foglio.Larghezza(); ++x)
+            if (foglio.Leggi(x, y) != 0) pixel.push_back({x + minimo.x, y + minimo.y});
+}
+
 void Superficie::Timbra(const Timbro &t, Pixel o, std::uint32_t colore) {
     Intingi(colore);
     const bool dentro = o.x + t.minimo.x >= 0 && o.y + t.minimo.y >= 0 &&

@@ -49,6 +49,8 @@ struct Timbro {
     Pixel minimo, massimo;
     // Of the segments with their origin at (x, y) within one pixel.
     void Riempi(const Tratti &tratti, double x, double y);
+    // The pixels around those of another, one pixel wide.
+    void Contorna(const Timbro &altro);
 };
 
 class Superficie {

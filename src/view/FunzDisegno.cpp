@@ -62,23 +62,37 @@ std::vector<bool> AsteEvidenziate() {
     return aste;
 }
 
+// The selected elements come after the others: nothing of their own kind lies over them.
+template <class Disegnato, class Selezionato, class Disegna>
+void SelezionatiPerUltimi(int numero, Disegnato disegnato, Selezionato selezionato,
+                          Disegna disegna) {
+    std::vector<int> ultimi;
+    for (int i = 0; i < numero; ++i) {
+        if (!disegnato(i)) continue;
+        if (selezionato(i))
+            ultimi.push_back(i);
+        else
+            disegna(i, false);
+    }
+    for (const int i : ultimi) disegna(i, true);
+}
+
 void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
     const std::vector<bool> evidenziate = AsteEvidenziate();
-    for (int b = 0; b < NumAste; ++b) {
-        if (!AstaDisegnata(b)) continue;
-        const bool sel = evidenziate[static_cast<std::size_t>(b)];
+    const auto disegna = [&](int b, bool sel) {
         d.DrawWidth = stile.Larghezza(sel);
         posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
                     TrattoLinea(TipoLinAsta[b]));
-    }
+    };
+    SelezionatiPerUltimi(
+        NumAste, AstaDisegnata, [&](int b) { return evidenziate[static_cast<std::size_t>(b)]; },
+        disegna);
 }
 
 void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
-    for (int s = 0; s < NumGusci; ++s) {
-        if (!GuscioDisegnato(s)) continue;
-        const bool sel = SelGuscio[s] == 1;
+    const auto disegna = [&](int s, bool sel) {
         const std::uint32_t colore = stile.Colore(sel, ColGuscio[s]);
         const auto &nodi = NodiGuscio[s];
         const auto angoli = static_cast<std::size_t>(NumeroAngoli(s));
@@ -86,20 +100,22 @@ void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
         d.DrawWidth = stile.Larghezza(sel);
         for (std::size_t c = 0; c < angoli; ++c)
             posti.Linea(nodi[c], nodi[c + 1 < angoli ? c + 1 : 0], colore);
-    }
+    };
+    SelezionatiPerUltimi(
+        NumGusci, GuscioDisegnato, [](int s) { return SelGuscio[s] == 1; }, disegna);
 }
 
 void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
     const int raggio = d.RaggioInPixel(OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel());
-    for (int i = 0; i < NumNodi; ++i) {
-        if (!NodoDisegnato(i)) continue;
+    const auto disegna = [&](int i, bool sel) {
         const std::optional<Pixel> centro = posti.Posto(i);
-        if (!centro) continue; // far outside
-        const bool sel = SelNodo[i] == 1;
+        if (!centro) return; // far outside
         d.DrawWidth = stile.Larghezza(sel);
         d.Circle(*centro, raggio, stile.Colore(sel, ColNodo[i]));
-    }
+    };
+    SelezionatiPerUltimi(
+        NumNodi, NodoDisegnato, [](int i) { return SelNodo[i] == 1; }, disegna);
 }
 
 } // namespace

@@ -27,6 +27,8 @@ void Parte(std::string &etichetta, int opzione, char lettera, int numero) {
     etichetta += TestoNumero(numero);
 }
 
+constexpr double kPixelLeggibili = 6; // height from which a text can be read
+
 // Text size, distance and colour of a picture's labels, and what part of it is visible.
 struct Scrittura {
     RiquadroDisegno &d = FormTelva.Disegno;
@@ -34,6 +36,8 @@ struct Scrittura {
     double altezza = OpzioneNumero(kOpzAltezzaTesto);
     double distanza = OpzioneNumero(kOpzDistanzaTesto);
     std::int16_t colore = CodiceDaNumero(OpzioneNumero(kOpzColoreTesto));
+    // Outlines are for reading: around texts too small for that they would only rub out the bars.
+    bool leggibile = std::abs(altezza) >= kPixelLeggibili * d.UnitaPerPixel();
 
     // Room that a text of n characters may take up around (x, y), in any direction.
     bool InVista(double x, double y, std::size_t n) const {
@@ -43,7 +47,10 @@ struct Scrittura {
                y - raggio <= d.ScaleTop && y + raggio >= d.ScaleTop + d.ScaleHeight;
     }
     void Scrivi(const std::string &testo, double x, double y, std::int16_t gradi = 0) const {
-        DisTesto(testo, x, y, gradi, base, altezza, colore, &d);
+        if (leggibile)
+            DisTestoContornato(testo, x, y, gradi, base, altezza, colore, d);
+        else
+            DisTesto(testo, x, y, gradi, base, altezza, colore, &d);
     }
 };
 

@@ -102,8 +102,10 @@ struct Misura {
 // ones are drawn stroke by stroke.
 class CaratteriInScala {
   public:
-    void Disegna(int codice, const Misura &misura, double x, double y, std::uint32_t colore,
-                 RiquadroDisegno &d) {
+    enum class Passata { Contorno, Segno };
+
+    void Disegna(Passata passata, int codice, const Misura &misura, double x, double y,
+                 std::uint32_t colore, RiquadroDisegno &d) {
         const Chiave chiave{misura, d.ScalaX(), d.ScalaY(), RevisioneFont};
         if (!(chiave_ == chiave)) {
             chiave_ = chiave;
@@ -115,7 +117,10 @@ class CaratteriInScala {
         const int iy = InteroVicino(d.YPixel(y) * kFrazioni);
         const bool vicino = ix > -kLontano && ix < kLontano && iy > -kLontano && iy < kLontano;
         if (!c.piccolo || d.DrawWidth > 1 || !vicino) {
+            const int penna = d.DrawWidth;
+            d.DrawWidth = passata == Passata::Contorno ? penna + 2 : penna;
             d.LineeTratti(c.tratti, x, y, colore);
+            d.DrawWidth = penna;
             return;
         }
         const int fx = ix & (kFrazioni - 1), fy = iy & (kFrazioni - 1);
@@ -124,7 +129,10 @@ class CaratteriInScala {
             c.timbri[forma].Riempi(c.tratti, double(fx) / kFrazioni, double(fy) / kFrazioni);
             c.fatti[forma] = true;
         }
-        d.Timbra(c.timbri[forma], {(ix - fx) / kFrazioni, (iy - fy) / kFrazioni}, colore);
+        const Pixel origine{(ix - fx) / kFrazioni, (iy - fy) / kFrazioni};
+        if (passata == Passata::Segno) return d.Timbra(c.timbri[forma], origine, colore);
+        if (c.contorni[forma].pixel.empty()) c.contorni[forma].Contorna(c.timbri[forma]);
+        d.Timbra(c.contorni[forma], origine, colore);
     }
 
   private:
@@ -142,7 +150,7 @@ class CaratteriInScala {
         Tratti tratti;
         bool piccolo = true;
         std::array<bool, kFrazioni * kFrazioni> fatti{};
-        std::array<Timbro, kFrazioni * kFrazioni> timbri;
+        std::array<Timbro, kFrazioni * kFrazioni> timbri, contorni;
     };
 
     Carattere &Prepara(int codice) {
@@ -152,6 +160,7 @@ class CaratteriInScala {
         pronti_[posto] = true;
         c.tratti = {};
         c.fatti.fill(false);
+        for (Timbro &contorno : c.contorni) contorno.pixel.clear();
         const Misura &m = chiave_.misura;
         for (int j = 0; j + 1 < NumPtFont[codice]; j += 2) {
             const double x1 = m.X(codice, j), y1 = m.Y(codice, j);
@@ -171,6 +180,27 @@ class CaratteriInScala {
     std::array<Carattere, 256> caratteri_;
 };
 
+using Passata = CaratteriInScala::Passata;
+
+CaratteriInScala &Caratteri() {
+    static CaratteriInScala caratteri;
+    return caratteri;
+}
+
+// `scrivi(codice, x, y)` for each character with the place of its cell, up to one that the font's
+// code page does not have.
+template <class Scrivi>
+void PerCarattere(std::string_view testo, double x, double y, double base, const Misura &misura,
+                  Scrivi scrivi) {
+    double avanzamento = -base;
+    for (std::size_t posto = 0; posto < testo.size();) {
+        const int codice = CodiceAnsi(ProssimoCarattere(testo, posto));
+        if (codice < 0) return;
+        avanzamento += base;
+        scrivi(codice, x + avanzamento * misura.ct, y + avanzamento * misura.st);
+    }
+}
+
 void RegistraCarattere(int codice, const Misura &m, double ox, double oy,
                        std::optional<std::int16_t> colore) {
     for (int j = 0; j + 1 < NumPtFont[codice]; j += 2)
@@ -187,20 +217,28 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
         RegistraTesto(testo, x, y);
         return;
     }
-    static CaratteriInScala caratteri;
     const Misura misura(angolo, base, altezza);
     const std::uint32_t rgb = ColoreRGB(colore.value_or(0));
-    double avanzamento = -base;
-    for (std::size_t posto = 0; posto < testo.size();) {
-        const int codice = CodiceAnsi(ProssimoCarattere(testo, posto));
-        if (codice < 0) return; // no character of the font's code page
-        avanzamento += base;
-        const double ox = x + avanzamento * misura.ct, oy = y + avanzamento * misura.st;
+    PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
         if (bersaglio)
-            caratteri.Disegna(codice, misura, ox, oy, rgb, *bersaglio);
+            Caratteri().Disegna(Passata::Segno, codice, misura, ox, oy, rgb, *bersaglio);
         else
             RegistraCarattere(codice, misura, ox, oy, colore);
+    });
+}
+
+void DisTestoContornato(std::string_view testo, double x, double y, std::int16_t angolo,
+                        double base, double altezza, std::int16_t colore,
+                        RiquadroDisegno &bersaglio) {
+    // The outlines first, all of them: none may cut into the character beside it.
+    if (base != 0 && altezza != 0 && ModoDisTesto != "gendis") {
+        const Misura misura(angolo, base, altezza);
+        PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
+            Caratteri().Disegna(Passata::Contorno, codice, misura, ox, oy, ColoreRGB(kNero),
+                                bersaglio);
+        });
     }
+    DisTesto(testo, x, y, angolo, base, altezza, colore, &bersaglio);
 }
 
 void AzzeraDisegno() {
