@@ -10,6 +10,7 @@
 #include "view/proiezione.h"
 
 #include <cmath>
+#include <ostream>
 
 namespace telva::prove {
 
@@ -158,6 +159,9 @@ TEST_F(VistaProva, DopoUnPassoDiRotellaRifiutato) {
 struct Lontano {
     double distanza, finestra;
 };
+void PrintTo(const Lontano &l, std::ostream *os) {
+    *os << "at " << l.distanza << ", a window of " << l.finestra << " units";
+}
 
 struct LontanoProva : VistaProva, ::testing::WithParamInterface<Lontano> {
     static constexpr int kLato = 9; // nodes 1..81 in rows upwards, a quarter of the window apart
