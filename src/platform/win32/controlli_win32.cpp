@@ -50,6 +50,15 @@ void ControlliWin32::ApplicaPosizioni(HWND finestra) {
     for (PariWin32 *p : std::exchange(daPosizionare_, {})) p->Spostato();
 }
 
+void ControlliWin32::Notifica(const NMHDR &notifica) const {
+    for (const auto &p : tutti_)
+        if (p->Notifica(notifica)) return;
+}
+
+void ControlliWin32::ColoriCambiati() const {
+    for (const auto &p : tutti_) p->ColoriCambiati();
+}
+
 void ControlliWin32::CancellaSfondo(HWND finestra, HDC dc) const {
     const int stato = SaveDC(dc);
     for (const auto &p : tutti_) {

@@ -20,6 +20,9 @@ class ControlliWin32 {
     void Sposta(PariWin32 &pari) { daPosizionare_.insert(&pari); }
     // Moves what is to be moved in `finestra`, all at once, and has it painted again.
     void ApplicaPosizioni(HWND finestra);
+    // A notification goes to the one that it is for.
+    void Notifica(const NMHDR &notifica) const;
+    void ColoriCambiati() const;
     // The window's background without what the controls cover anyway: nothing flickers while
     // resizing.
     void CancellaSfondo(HWND finestra, HDC dc) const;

@@ -134,20 +134,11 @@ LRESULT FinestraWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_NEXTDLGCTL: // an arrow key inside a group
         if (LOWORD(l)) SetFocus(reinterpret_cast<HWND>(w));
         return 0;
-    case WM_NOTIFY:
-        for (const auto &p : controlli_)
-            if (p->Notifica(*reinterpret_cast<const NMHDR *>(l))) break;
-        return 0;
-    case WM_DRAWITEM: {
-        const auto &d = *reinterpret_cast<const DRAWITEMSTRUCT *>(l);
-        if (const PariWin32 *p = PariDiNativo(d.hwndItem)) p->Disegna(d);
-        return TRUE;
-    }
+    case WM_NOTIFY: controlli_.Notifica(*reinterpret_cast<const NMHDR *>(l)); return 0;
+    case WM_DRAWITEM: DisegnaNativo(*reinterpret_cast<const DRAWITEMSTRUCT *>(l)); return TRUE;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT: return ColoraNativo(reinterpret_cast<HDC>(w), nativo);
-    case WM_SYSCOLORCHANGE:
-        for (const auto &p : controlli_) p->ColoriCambiati();
-        break;
+    case WM_SYSCOLORCHANGE: controlli_.ColoriCambiati(); break;
     case WM_ERASEBKGND: controlli_.CancellaSfondo(hwnd_, reinterpret_cast<HDC>(w)); return 1;
     case WM_SETCURSOR:
         if (LOWORD(l) == HTCLIENT && MostraPuntatore(modulo_, reinterpret_cast<HWND>(w)))

@@ -14,6 +14,10 @@ constexpr const wchar_t *kPari = L"TelvaPari";
 
 PariWin32 *PariDiNativo(HWND nativo) { return static_cast<PariWin32 *>(GetPropW(nativo, kPari)); }
 
+void DisegnaNativo(const DRAWITEMSTRUCT &d) {
+    if (const PariWin32 *p = PariDiNativo(d.hwndItem)) p->Disegna(d);
+}
+
 LRESULT ColoraNativo(HDC dc, HWND nativo) {
     const PariWin32 *p = PariDiNativo(nativo);
     const Tinte tinte = p ? p->Colori() : Tinte{};

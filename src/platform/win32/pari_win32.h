@@ -83,6 +83,8 @@ class PariDi : public PariWin32 {
 
 // The peer of a native control, or nullptr.
 PariWin32 *PariDiNativo(HWND nativo);
+// Paints a native control that leaves it to its peer.
+void DisegnaNativo(const DRAWITEMSTRUCT &d);
 // Answers WM_CTLCOLOR... of a native control.
 LRESULT ColoraNativo(HDC dc, HWND nativo);
 

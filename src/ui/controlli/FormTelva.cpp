@@ -30,29 +30,8 @@ int ModuloTelva::TipoElemento() {
     return 0;
 }
 
-void ModuloTelva::Inizio() {
-    Width = 15000;
-    Height = 11400;
-    Caption = "Telva";
-    MousePointer = Puntatore::Predefinito;
-    Disegno.MousePointer = Puntatore::Predefinito;
-    Disegno.Scale(0, 0, 1, 1);
-    Disegno.Shape.Visible = false;
-    Disegno.LineSposta.Visible = false;
-    FrameSel.Caption = "Elementi da selezionare";
-    FrameAtt.Caption = "Elementi attivati";
-    static constexpr const char *kTipi[] = {"Nodi", "Aste", "Gusci", "Elementi continui", "Pareti"};
-    for (int k = 0; k < 5; ++k) {
-        OptElem[k].Caption = kTipi[k];
-        OptElem[k].Value = k == 0;
-    }
-    NodiAtt.Caption = "Nodi";
-    AsteAtt.Caption = "Aste";
-    GusciAtt.Caption = "Gusci";
-    ElSelez.Caption = "Elementi selezionati";
-    ElNonSelez.Caption = "Elementi non selezionati";
-    for (CasellaSpunta *c : {&NodiAtt, &AsteAtt, &GusciAtt, &ElSelez, &ElNonSelez}) c->Value = true;
-    LabelInt.Caption = "Intervalli di coordinate";
+// Everything that stands once for each axis.
+void ModuloTelva::TestiDegliAssi() {
     static constexpr const char *kAssi[] = {"X", "Y", "Z"};
     static constexpr const char *kAngoli[] = {"30", "30", "0"};
     for (int k = 0; k < 3; ++k) {
@@ -76,10 +55,40 @@ void ModuloTelva::Inizio() {
         p->ToolTipText =
             std::string("Riporta l'intervallo ") + kAssi[asse++] + " all'intera struttura";
     }
+}
+
+void ModuloTelva::TestiIniziali() {
+    FrameSel.Caption = "Elementi da selezionare";
+    FrameAtt.Caption = "Elementi attivati";
+    static constexpr const char *kTipi[] = {"Nodi", "Aste", "Gusci", "Elementi continui", "Pareti"};
+    for (int k = 0; k < 5; ++k) {
+        OptElem[k].Caption = kTipi[k];
+        OptElem[k].Value = k == 0;
+    }
+    NodiAtt.Caption = "Nodi";
+    AsteAtt.Caption = "Aste";
+    GusciAtt.Caption = "Gusci";
+    ElSelez.Caption = "Elementi selezionati";
+    ElNonSelez.Caption = "Elementi non selezionati";
+    for (CasellaSpunta *c : {&NodiAtt, &AsteAtt, &GusciAtt, &ElSelez, &ElNonSelez}) c->Value = true;
+    LabelInt.Caption = "Intervalli di coordinate";
     Label5.Caption = "Risultato della selezione:";
     Label6.Caption = "Coordinate:";
     for (Etichetta *e : {&Domanda, &StringaSel, &FunAttiva, &SottoFunAttiva, &LabStato, &LabCoord})
         e->Caption = "";
+}
+
+void ModuloTelva::Inizio() {
+    Width = 15000;
+    Height = 11400;
+    Caption = "Telva";
+    MousePointer = Puntatore::Predefinito;
+    Disegno.MousePointer = Puntatore::Predefinito;
+    Disegno.Scale(0, 0, 1, 1);
+    Disegno.Shape.Visible = false;
+    Disegno.LineSposta.Visible = false;
+    TestiIniziali();
+    TestiDegliAssi();
     Risposta.Text = "";
     Risposta.Enabled = false;
     Risposta.BackColor = kColoreFaccia;

@@ -88,6 +88,10 @@ struct ModuloTelva : Modulo {
     // Index of the ticked element-kind button: 0 Nodi, 1 Aste, 2 Gusci, 3 Elementi continui,
     // 4 Pareti (0 when none is ticked).
     int TipoElemento();
+
+  private:
+    void TestiIniziali();
+    void TestiDegliAssi();
 };
 
 extern ModuloTelva FormTelva;
