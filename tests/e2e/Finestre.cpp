@@ -55,7 +55,8 @@ bool Tagliato(const Controllo &c) {
 // Index letters are small, and a swatch's name is only for those who do not see it.
 bool MostraIlTesto(const Controllo &c) {
     return (c.classe == "Button" || c.classe == "Static") && !c.nome.starts_with("Label2") &&
-           !c.nome.starts_with("LabelCol(");
+           !c.nome.starts_with("LabelCol(") &&
+           c.nome != "LabStato"; // where it is too long it has an ellipsis and a tip
 }
 
 // Frames without border only group; a swatch stands on the frame that marks it.

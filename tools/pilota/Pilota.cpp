@@ -139,14 +139,27 @@ DWORD ContaGdi(HANDLE processo) {
 
 } // namespace
 
+namespace {
+
+constexpr int kAvviiInPiu = 5;
+
+} // namespace
+
 Programma::Programma(const std::wstring &eseguibile, const std::wstring &argomenti, bool ricorda) {
     if (!ricorda) RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Telva");
     std::wstring riga = L"\"" + eseguibile + L"\" " + argomenti;
     STARTUPINFOW avvio{};
     avvio.cb = sizeof avvio;
     PROCESS_INFORMATION esito{};
-    if (!CreateProcessW(eseguibile.c_str(), riga.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                        nullptr, &avvio, &esito))
+    const auto parte = [&] {
+        return CreateProcessW(eseguibile.c_str(), riga.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                              nullptr, &avvio, &esito) != FALSE;
+    };
+    // Wine refuses a start now and then with this error, however good the program is.
+    bool partito = parte();
+    for (int n = 0; n < kAvviiInPiu && !partito && GetLastError() == ERROR_INTERNAL_ERROR; ++n)
+        partito = parte();
+    if (!partito)
         Fallisci("cannot start " + Utf8(riga) + ", error " + std::to_string(GetLastError()));
     CloseHandle(esito.hThread);
     processo_ = esito.hProcess;
