@@ -9,12 +9,17 @@
 #include "view/proiezione.h"
 
 #include <optional>
-#include <utility>
 
 namespace telva {
 namespace {
 
-std::optional<std::pair<double, double>> puntatore; // where it rests on the drawing
+// Where the pointer rests on the drawing: in drawing units as the event told it, and in pixels,
+// which stay when the view moves under it.
+struct Posto {
+    double x, y;
+    double px, py;
+};
+std::optional<Posto> puntatore;
 EffettoClic effetto = EffettoClic::Nessuno;
 ElementiPresi preda;
 
@@ -35,6 +40,14 @@ void TrovaElementi(double x, double y) {
     for (int i = 0; i < e.numero; ++i)
         if (e.nomi[i] == nome && e.Attivo(i)) preda.elementi.push_back(i);
     if (!preda.elementi.empty()) effetto = EffettoClic::Elemento;
+}
+
+// In the scale of the event, or in another that has come since.
+void CercaSotto(const Posto &p) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    const bool stessa = d.XPixel(p.x) == p.px && d.YPixel(p.y) == p.py;
+    TrovaElementi(stessa ? p.x : d.XEvento(d.XDaPixel(p.px)),
+                  stessa ? p.y : d.YEvento(d.YDaPixel(p.py)));
 }
 
 void Contorno(TipoElemento tipo, int parte, Sagoma &sagoma) {
@@ -65,13 +78,16 @@ void MostraPreda() {
 
 } // namespace
 
-void PuntatoreSu(double x, double y) { puntatore.emplace(x, y); }
+void PuntatoreSu(double x, double y) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    puntatore = Posto{x, y, d.XPixel(x), d.YPixel(y)};
+}
 void PuntatoreFuori() { puntatore.reset(); }
 
 void CercaPreda() {
     preda.elementi.clear();
     effetto = puntatore && Proiettata() ? EffettoDelGesto() : EffettoClic::Nessuno;
-    if (effetto == EffettoClic::ApreFinestra) TrovaElementi(puntatore->first, puntatore->second);
+    if (effetto == EffettoClic::ApreFinestra) CercaSotto(*puntatore);
     MostraPreda();
 }
 

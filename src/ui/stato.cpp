@@ -3,6 +3,7 @@
 #include "model/elementi.h"
 #include "model/scambio_cond.h"
 #include "model/tabelle_cond.h"
+#include "platform/mostrabile.h"
 #include "platform/numeri.h"
 #include "platform/testo.h"
 #include "selection/schede_sel.h"
@@ -18,6 +19,9 @@
 
 namespace telva {
 namespace {
+
+// More than a row can hold, and less than would hold anybody up.
+constexpr std::size_t kCaratteriNome = 100, kCaratteriElenco = 500;
 
 // How a kind is spoken of.
 struct Parole {
@@ -42,7 +46,7 @@ std::string DatiGuscio(int s) {
            Scheda("materiale", MaterialeSpessore(SpessoreGuscio[s]));
 }
 std::string DatiElCont(int k) {
-    const std::string nome(Rifila(NomeElCont[k]));
+    const std::string nome = Mostrabile(Rifila(NomeElCont[k]), kCaratteriNome);
     return nome.empty() ? "" : " - " + nome;
 }
 
@@ -108,7 +112,8 @@ std::string Presenti(const SchedaProprieta &proprieta) {
     if (proprieta.codice == kNome)
         return std::string(proprieta.presenti) + ": da " + TestoNumero(numeri.front()) + " a " +
                TestoNumero(numeri.back());
-    return std::string(proprieta.presenti) + ": " + FormattaNumeri(numeri);
+    return std::string(proprieta.presenti) + ": " +
+           Mostrabile(FormattaNumeri(numeri), kCaratteriElenco);
 }
 
 std::string Descrizione(int tipo, int elemento) {

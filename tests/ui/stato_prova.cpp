@@ -288,6 +288,37 @@ TEST_F(PredaProva, CioCheSiVedePrimaECioCheSiPrende) {
     }
 }
 
+TEST_F(PredaProva, ValeAncheQuandoLaVistaSiMuoveSottoIlPuntatore) {
+    Apri(Telaio());
+    Menu("Aggiungi");
+    Tipo(kNodiTipo);
+    Muovi(100, 100);
+    EXPECT_EQ(Poi(), "clic: nodo 5, vincolo 1");
+    const double px = d.XPixel(100), py = d.YPixel(100);
+    Menu("Sposta");
+    Clic(100, 100);
+    Clic(0, 0); // the pointer rests where node 1 stood, and node 5 comes there
+    EXPECT_EQ(Poi(), "clic: nodo 5, vincolo 1");
+    Muovi(static_cast<float>(d.XDaPixel(px)), static_cast<float>(d.YDaPixel(py)));
+    EXPECT_EQ(Poi(), "clic: nodo 9, vincolo 2");
+    Rotella(1);
+    const float x = static_cast<float>(d.XDaPixel(px)), y = static_cast<float>(d.YDaPixel(py));
+    const std::string detto = Poi();
+    Muovi(x, y);
+    EXPECT_EQ(Poi(), detto) << "as a move to the same pixel says";
+}
+
+TEST_F(StatoProva, UnNomeSmisuratoSiTaglia) {
+    LavoroProva lavoro = Telaio();
+    lavoro.elementi[0].nome = std::string(100000, 'x');
+    Apri(lavoro);
+    Menu("Aggiungi");
+    Tipo(kElContTipo);
+    Muovi(50, 0);
+    EXPECT_LT(Poi().size(), 200u);
+    EXPECT_TRUE(Poi().starts_with("clic: elemento continuo 10 - xxx"));
+}
+
 TEST_F(PredaProva, LaSagomaEQuellaDellElemento) {
     Apri(Telaio());
     Menu("Aggiungi");

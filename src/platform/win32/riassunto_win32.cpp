@@ -115,7 +115,8 @@ void RiassuntoWin32::Mostra(Campo campo) {
 
 std::wstring RiassuntoWin32::TestoSuggerito() const {
     if (!Tagliato()) return EtichettaWin32::TestoSuggerito();
-    return ALargo(ElencoInRighe(controllo_.Caption(), kColonne, kRighe, "… Ctrl+C copia tutto"));
+    return ALargo(ElencoInRighe(Mostrabile(controllo_.Caption(), kCaratteriSuggerimento), kColonne,
+                                kRighe, "… Ctrl+C copia tutto"));
 }
 
 } // namespace telva
