@@ -112,8 +112,9 @@ void VerificaControlli(const Programma &p, HWND cima, std::span<const ControlloA
         if (atteso == attesi.end()) continue;
         const auto suggerimento = suggerimenti.find(c.maniglia);
         UGUALE(c.testo, atteso->didascalia);
-        UGUALE(suggerimento == suggerimenti.end() ? "" : suggerimento->second,
-               atteso->suggerimento);
+        const std::string visto = suggerimento == suggerimenti.end() ? "" : suggerimento->second;
+        // A line of state that does not find room has its whole text in the tip.
+        if (c.nome != "LabStato" || visto != c.testo) UGUALE(visto, atteso->suggerimento);
         UGUALE(c.classe == "Edit" ? Letto(p, c) : "", atteso->letto);
     }
     for (const auto &atteso : attesi) {
