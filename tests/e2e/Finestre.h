@@ -6,17 +6,17 @@
 
 namespace telva::prove {
 
-/// The visible controls of a window that leave it, meet a sibling, cut their text or have no name
-/// for a reader, by name; empty when all is well.
+// The visible controls of a window that leave it, meet a sibling, cut their text or have no name
+// for a reader, by name; empty when all is well.
 std::string Difetti(const Programma &p, HWND cima);
 
-/// A control as it has to be. `letto` is the name of a text box for a screen reader: the label made
-/// before it (other controls are read by their caption).
+// A control as it has to be. `letto` is the name of a text box for a screen reader: the label made
+// before it (other controls are read by their caption).
 struct ControlloAtteso {
     std::string nome, didascalia{}, suggerimento{}, letto{};
 };
 
-/// Compares every control of a window with the table, which names them all.
+// Compares every control of a window with the table, which names them all.
 void VerificaControlli(const Programma &p, HWND cima, std::span<const ControlloAtteso> attesi);
 
 } // namespace telva::prove

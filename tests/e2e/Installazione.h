@@ -4,14 +4,14 @@
 
 namespace telva::prove {
 
-/// The same with options and a font of its own, on the same jobs.
+// The same with options and a font of its own, on the same jobs.
 Ambiente Copia(Ambiente amb);
 
-/// What may keep a file from being opened: it is gone, a folder, in another program's hands, or may
-/// only be read; last, in the hands of one that shares it.
+// What may keep a file from being opened: it is gone, a folder, in another program's hands, or may
+// only be read; last, in the hands of one that shares it.
 enum class Ostacolo { Manca, Cartella, Chiuso, SolaLettura, Letto };
 
-/// Puts an obstacle in the way of a file, and takes it away at its end at the latest.
+// Puts an obstacle in the way of a file, and takes it away at its end at the latest.
 class Impedito {
   public:
     Impedito(std::filesystem::path file, Ostacolo ostacolo);

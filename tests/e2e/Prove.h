@@ -8,29 +8,29 @@
 
 namespace telva::prove {
 
-/// What the command line gave: the program, an installation made by the job generator (with a job
-/// dimo01), and the folder for screenshots (empty: none).
+// What the command line gave: the program, an installation made by the job generator (with a job
+// dimo01), and the folder for screenshots (empty: none).
 struct Ambiente {
     std::wstring telva;
     std::filesystem::path dati, foto;
-    /// The jobs folder named by the installation's settings, lower-case, with its last backslash.
+    // The jobs folder named by the installation's settings, lower-case, with its last backslash.
     std::filesystem::path Lavori() const;
-    /// The argument string that opens the installation, with more behind it.
+    // The argument string that opens the installation, with more behind it.
     std::wstring Argomento(const std::string &altro = {}) const;
 };
 
-/// Puts a scenario on the list; they run in alphabetical order of their names.
+// Puts a scenario on the list; they run in alphabetical order of their names.
 struct Registra {
     Registra(const std::string &nome, void (*corpo)(const Ambiente &));
 };
 
-/// Remembers what is being done, so that a failure can tell the steps before it.
+// Remembers what is being done, so that a failure can tell the steps before it.
 void Annota(const std::string &passo);
 
-/// Counts a check and reports it when it failed.
+// Counts a check and reports it when it failed.
 void Verifica(bool esito, const std::string &testo, const char *file, int riga);
 
-/// Between quotes, with CR and LF written out.
+// Between quotes, with CR and LF written out.
 std::string Visibile(const std::string &testo);
 
 template <class T>

@@ -5,8 +5,8 @@
 
 namespace telva::prove {
 
-/// The keys from an open menu bar to an item, named without "&": {"Alt+S", "C Giu Invio"} for
-/// "Selezioni", "Colore", "Blu". An item with an access key is chosen by it, else by its place.
+// The keys from an open menu bar to an item, named without "&": {"Alt+S", "C Giu Invio"} for
+// "Selezioni", "Colore", "Blu". An item with an access key is chosen by it, else by its place.
 struct TastiMenu {
     std::string apri, voce;
 };

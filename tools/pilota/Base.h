@@ -10,12 +10,12 @@ namespace telva::prove {
 std::string Utf8(std::wstring_view testo);
 std::wstring Largo(std::string_view utf8);
 
-/// A step that could not be done; what() says what was awaited and what was seen instead.
+// A step that could not be done; what() says what was awaited and what was seen instead.
 struct Fallito : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Called just before a Fallito is thrown, while the windows still stand (for a screenshot).
+// Called just before a Fallito is thrown, while the windows still stand (for a screenshot).
 extern std::function<void()> alFallimento;
 
 [[noreturn]] void Fallisci(const std::string &testo);
