@@ -70,20 +70,26 @@ bool Contiene(const RECT &fuori, const RECT &dentro) {
     return EqualRect(&comune, &dentro) != 0;
 }
 
+// At odd scales neighbours may share a pixel: place and size are rounded apart.
 bool SiCoprono(const Controllo &a, const Controllo &b) {
     RECT comune{};
-    return IntersectRect(&comune, &a.posto, &b.posto) &&
-           !(a.Cornice() && Contiene(a.posto, b.posto)) &&
+    return IntersectRect(&comune, &a.posto, &b.posto) && comune.right - comune.left > 1 &&
+           comune.bottom - comune.top > 1 && !(a.Cornice() && Contiene(a.posto, b.posto)) &&
            !(b.Cornice() && Contiene(b.posto, a.posto));
 }
 
-} // namespace
-
-std::string Difetti(const Programma &p, HWND cima) {
+std::vector<Controllo> Visti(const Programma &p, HWND cima) {
     auto controlli = Controlli(p, cima);
     std::erase_if(controlli, [](const Controllo &c) {
         return !IsWindowVisible(c.maniglia) || SenzaPostoProprio(c);
     });
+    return controlli;
+}
+
+} // namespace
+
+std::string FuoriPosto(const Programma &p, HWND cima) {
+    const auto controlli = Visti(p, cima);
     if (controlli.empty()) return "no controls";
     RECT interna{};
     GetClientRect(cima, &interna);
@@ -92,13 +98,33 @@ std::string Difetti(const Programma &p, HWND cima) {
         if (c.classe == "Edit" && IsWindowEnabled(c.maniglia) && Letto(p, c).empty())
             difetti += c.nome + " nameless; ";
         if (!Contiene(interna, c.posto)) difetti += c.nome + " out; ";
-        if (MostraIlTesto(c) && Tagliato(c)) difetti += c.nome + " cut; ";
     }
     for (auto a = controlli.begin(); a != controlli.end(); ++a)
         for (auto b = a + 1; b != controlli.end(); ++b)
             if (SiCoprono(*a, *b)) difetti += a->nome + " on " + b->nome + "; ";
     return difetti;
 }
+
+std::string Difetti(const Programma &p, HWND cima) {
+    std::string difetti = FuoriPosto(p, cima);
+    for (const Controllo &c : Visti(p, cima))
+        if (MostraIlTesto(c) && Tagliato(c)) difetti += c.nome + " cut; ";
+    return difetti;
+}
+
+RECT AreaDiLavoro() {
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+RECT Rettangolo(HWND finestra) {
+    RECT r{};
+    GetWindowRect(finestra, &r);
+    return r;
+}
+
+bool SiVedeIntera(HWND finestra) { return Contiene(AreaDiLavoro(), Rettangolo(finestra)); }
 
 void VerificaControlli(const Programma &p, HWND cima, std::span<const ControlloAtteso> attesi) {
     const auto suggerimenti = p.Suggerimenti(cima);

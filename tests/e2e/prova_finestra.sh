@@ -1,6 +1,7 @@
 #!/bin/bash
 # The real-window scenarios on a freshly made sample installation: all of them at 100 % and 150 % DPI; those
-# that a scale or a screen can change (layout, windows, mouse, dialogs) at 200 % and on a large screen too.
+# that a scale or a screen can change (layout, windows, mouse, dialogs) at 200 % and on a large screen too; that
+# nothing is out of reach on a screen smaller than the window would like to be.
 #   prova_finestra.sh NATIVE_BUILD WINDOWS_BUILD WINE_PREFIX [--solo scenarios]
 # Scenarios: names with commas between them; "mouse_*" stands for all that begin so.
 set -eu
@@ -28,4 +29,5 @@ prova '' 1600x1000 '' || esito=1
 prova 144 1600x1000 '' || esito=1
 prova 192 1600x1000 "$sensibili" || esito=1
 prova '' 3840x2160 "$sensibili" || esito=1
+prova 144 800x600 'schermo_piccolo,posto_fuori*,posto_smisurato' || esito=1
 exit $esito

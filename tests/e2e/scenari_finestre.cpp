@@ -18,12 +18,6 @@ Misura MisuraDi(HWND finestra) {
     return {r.right - r.left, r.bottom - r.top};
 }
 
-RECT AreaDiLavoro() {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
-}
-
 // A size in twips (1440 to the inch) as pixels, but never larger than the screen.
 Misura InPixel(HWND finestra, Misura twip) {
     const auto dpi = static_cast<LONG>(GetDpiForWindow(finestra));
@@ -33,6 +27,15 @@ Misura InPixel(HWND finestra, Misura twip) {
 }
 
 constexpr Misura kAllaNascita{.larghezza = 15000, .altezza = 11400};
+const struct {
+    const char *voce, *tasti, *titolo, *chiude;
+} kDialoghi[] = {
+    {.voce = "Trappola...", .tasti = "t", .titolo = "Opzioni", .chiude = "Command1"},
+    {.voce = "Opzioni...",
+     .tasti = "p",
+     .titolo = "Opzioni di rappresentazione",
+     .chiude = "Chiudi"},
+};
 constexpr Misura kMinima{.larghezza = 5550, .altezza = 7120};
 
 void Comanda(Sessione &s, WPARAM comando) {
@@ -78,18 +81,39 @@ SCENARIO(dialoghi_nell_angolo) {
     const Misura m = MisuraDi(s.finestra);
     SetWindowPos(s.finestra, nullptr, area.right - m.larghezza, area.bottom - m.altezza, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER);
-    const std::pair<const char *, const char *> dialoghi[] = {
-        {"Trappola...", "Opzioni"}, {"Opzioni...", "Opzioni di rappresentazione"}};
-    for (const auto &[voce, titolo] : dialoghi) {
-        s.Menu("Opzioni", voce);
-        const HWND dialogo = s.AttendiDialogo(titolo);
-        RECT posto{}, comune{};
-        GetWindowRect(dialogo, &posto);
-        IntersectRect(&comune, &posto, &area);
-        VERIFICA(EqualRect(&comune, &posto));
+    for (const auto &caso : kDialoghi) {
+        s.Menu("Opzioni", caso.voce);
+        const HWND dialogo = s.AttendiDialogo(caso.titolo);
+        VERIFICA(SiVedeIntera(dialogo));
         UGUALE(Difetti(s.p, dialogo), "");
         s.Premi("Esc");
         s.AttendiFinestra();
+    }
+}
+
+// Where the window may not become as small as the screen is, it is laid out smaller, and so are the
+// dialogs: nothing is out of reach, at the first start and at every later one.
+SCENARIO(schermo_piccolo) {
+    LavoroPiccolo(amb);
+    for (const bool ricorda : {false, true}) {
+        Programma p(amb.telva, amb.Argomento("LAVORO=prova1"), ricorda);
+        const HWND finestra = p.Principale();
+        for (const Misura &m : {MisuraDi(finestra), Misura{.larghezza = 100, .altezza = 100}}) {
+            p.Dimensiona(finestra, m.larghezza, m.altezza);
+            DIVENTA(p, SiVedeIntera(finestra), true);
+            UGUALE(FuoriPosto(p, finestra), "");
+        }
+        for (const auto &caso : kDialoghi) {
+            p.Menu("Alt+Z", caso.tasti);
+            const HWND dialogo = p.Dialogo(caso.titolo);
+            VERIFICA(SiVedeIntera(dialogo));
+            UGUALE(FuoriPosto(p, dialogo), "");
+            p.Clic(caso.chiude);
+            p.Principale();
+        }
+        p.Dimensiona(finestra, AreaDiLavoro().right, AreaDiLavoro().bottom);
+        p.Premi("Ctrl+E");
+        UGUALE(p.AttendiFine(), 0U);
     }
 }
 

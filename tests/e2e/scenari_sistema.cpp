@@ -1,8 +1,8 @@
 // What the system does to the program, and what it is given to show: sizes and places that cannot
 // be, texts of any length, the end of the session.
+#include "Finestre.h"
 #include "LavoroPiccolo.h"
 
-#include <array>
 #include <cstring>
 
 using namespace telva::prove;
@@ -26,54 +26,7 @@ void RicordaPosto(LONG left, LONG top, LONG larghezza, LONG altezza) {
                     sizeof posto);
 }
 
-RECT Area() {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
-}
-
-RECT Rettangolo(HWND finestra) {
-    RECT r{};
-    GetWindowRect(finestra, &r);
-    return r;
-}
-
-bool StaDentro(const RECT &r, const RECT &area) {
-    return r.left >= area.left && r.top >= area.top && r.right <= area.right &&
-           r.bottom <= area.bottom;
-}
-
-// The controls of a window that are not wholly seen in it, by their texts.
-std::string Fuori(HWND cima) {
-    RECT interna{};
-    GetClientRect(cima, &interna);
-    MapWindowPoints(cima, nullptr, reinterpret_cast<POINT *>(&interna), 2);
-    std::string fuori;
-    for (HWND h = GetWindow(cima, GW_CHILD); h; h = GetWindow(h, GW_HWNDNEXT)) {
-        std::array<wchar_t, 64> testo{};
-        GetWindowTextW(h, testo.data(), static_cast<int>(testo.size()));
-        if (IsWindowVisible(h) && !StaDentro(Rettangolo(h), interna))
-            fuori += Utf8(testo.data()) + "; ";
-    }
-    return fuori;
-}
-
 } // namespace
-
-// On a small screen with a large scale too nothing of the largest dialog is out of reach.
-SCENARIO(schermo_piccolo) {
-    LavoroPiccolo(amb, "prova1");
-    Programma p(amb.telva, amb.Argomento("LAVORO=prova1"));
-    p.Principale();
-    p.Menu("Alt+Z", "p");
-    const HWND dialogo = p.Dialogo("Opzioni di rappresentazione");
-    VERIFICA(StaDentro(Rettangolo(dialogo), Area()));
-    UGUALE(Fuori(dialogo), "");
-    p.Premi("Esc");
-    p.Principale();
-    p.Premi("Ctrl+E");
-    UGUALE(p.AttendiFine(), 0U);
-}
 
 SCENARIO(titolo_smisurato) {
     const auto lavoro = LavoroPiccolo(amb, "prova1");
@@ -97,7 +50,7 @@ SCENARIO(testo_smisurato_in_una_casella) {
     p.Premi("Ctrl+V");
     p.Premi("Invio");
     const Riquadro r = p.AttendiRiquadro();
-    VERIFICA(StaDentro(Rettangolo(r.finestra), Area()));
+    VERIFICA(SiVedeIntera(r.finestra));
     p.ChiudiRiquadro();
     p.Premi("Ctrl+E");
     UGUALE(p.AttendiFine(), 0U);
@@ -107,7 +60,7 @@ SCENARIO(testo_smisurato_in_una_casella) {
 SCENARIO(posto_smisurato) {
     RicordaPosto(-900000, 900000, 150000, 150000); // twips: a picture of 400 MB
     Programma p(amb.telva, amb.Argomento(), true);
-    VERIFICA(StaDentro(Rettangolo(p.Principale()), Area()));
+    VERIFICA(SiVedeIntera(p.Principale()));
     VERIFICA(p.LeggiRisorse().piccoByte < 250U << 20);
     p.Premi("Ctrl+E");
     UGUALE(p.AttendiFine(), 0U);

@@ -17,7 +17,7 @@ FinestraWin32::FinestraWin32(Modulo &modulo, HWND proprietaria)
     modulo.dpi = DpiDi(proprietaria);
     CreaNativa(proprietaria);
     modulo.dpi = DpiDi(hwnd_);
-    misura_.RiduciDialogo();
+    misura_.Riduci();
     if (!modulo.barraMenu.empty()) menu_ = std::make_unique<MenuWin32>(modulo, *this);
     CreaControlli();
     modulo.pari = this;
@@ -168,7 +168,7 @@ void FinestraWin32::VoceCambiata(const VoceMenu &voce) {
 
 void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     modulo_.dpi = dpi;
-    misura_.RiduciDialogo();
+    misura_.Riduci();
     const FontWin32 prima =
         std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
     suggerimenti_.ImpostaFont(font_[Carattere::Normale]);

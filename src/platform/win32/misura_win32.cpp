@@ -40,8 +40,13 @@ void MisuraWin32::ApplicaDialogo() const {
     Colloca(hwnd, InMezzoA(GetWindow(hwnd, GW_OWNER), EsternaDialogo()));
 }
 
+void MisuraWin32::Riduci() const {
+    if (!modulo_.ridimensionabile) return RiduciDialogo();
+    modulo_.dpi =
+        DpiCheMostra(modulo_, AreaDiLavoro(RettangoloVisibile(finestra_.Maniglia())), modulo_.dpi);
+}
+
 void MisuraWin32::RiduciDialogo() const {
-    if (modulo_.ridimensionabile) return;
     const HWND hwnd = finestra_.Maniglia();
     const SIZE esterna = EsternaDialogo();
     const RECT posto = InMezzoA(GetWindow(hwnd, GW_OWNER), esterna); // smaller if it must be

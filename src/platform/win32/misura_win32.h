@@ -10,9 +10,9 @@ class MisuraWin32 {
   public:
     MisuraWin32(Modulo &modulo, OspiteWin32 &finestra) : modulo_(modulo), finestra_(finestra) {}
 
-    // Before the controls are made: a dialog too large for the screen is laid out smaller, so that
-    // nothing of it is out of reach.
-    void RiduciDialogo() const;
+    // Before the controls are made: a dialog too large for the screen, or a main window too large
+    // even at its smallest, is laid out smaller, so that nothing of it is out of reach.
+    void Riduci() const;
     // The window has all its controls: it takes its size; `altroDpi` when it was laid out for
     // another DPI than it has.
     void Nata(bool altroDpi);
@@ -31,6 +31,7 @@ class MisuraWin32 {
   private:
     SIZE EsternaDialogo() const;
     void ApplicaDialogo() const;
+    void RiduciDialogo() const;
 
     Modulo &modulo_;
     OspiteWin32 &finestra_;

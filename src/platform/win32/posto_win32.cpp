@@ -1,6 +1,5 @@
 #include "platform/win32/posto_win32.h"
 
-#include "platform/controlli.h"
 #include "platform/win32/schermo_win32.h"
 
 namespace telva {
@@ -20,7 +19,7 @@ bool Occupato(const RECT &r, HWND questa) {
 
 } // namespace
 
-std::optional<PostoFinestra> LeggiPosto(double dpi) {
+std::optional<PostoFinestra> LeggiPosto(const Modulo &modulo) {
     NumeriPosto n{};
     DWORD byte = sizeof n;
     const bool letto = RegGetValueW(HKEY_CURRENT_USER, kChiave, kValore, RRF_RT_REG_BINARY, nullptr,
@@ -29,6 +28,7 @@ std::optional<PostoFinestra> LeggiPosto(double dpi) {
     const std::optional<PostoFinestra> posto = letto ? PostoDaNumeri(n) : std::nullopt;
     if (!posto) return {};
     const RECT area = AreaDiLavoro({posto->left, posto->top, posto->left + 1, posto->top + 1});
+    const double dpi = DpiCheMostra(modulo, area, modulo.dpi);
     return EntroArea(*posto, ATwip(area.right - area.left, dpi),
                      ATwip(area.bottom - area.top, dpi));
 }

@@ -19,7 +19,7 @@ class Sistema : public SistemaFinestre {
   public:
     void Prepara(Modulo &modulo) override {
         modulo.dpi = DpiDi(nullptr);
-        if (!(posto_ = LeggiPosto(modulo.dpi))) return;
+        if (!(posto_ = LeggiPosto(modulo))) return;
         modulo.Width = std::max(posto_->larghezza, modulo.larghezzaMinima);
         modulo.Height = std::max(posto_->altezza, modulo.altezzaMinima);
     }

@@ -63,6 +63,11 @@ LONG APixelInSu(double twip, double dpi) {
     return static_cast<LONG>(std::ceil(twip * dpi / 1440 - 1e-6));
 }
 
+double DpiCheMostra(const Modulo &modulo, const RECT &area, double dpi) {
+    return std::min({dpi, (area.right - area.left) * 1440 / modulo.larghezzaMinima,
+                     (area.bottom - area.top) * 1440 / modulo.altezzaMinima});
+}
+
 RECT AreaDiLavoro(const RECT &r) {
     MONITORINFO info{};
     info.cbSize = sizeof info;

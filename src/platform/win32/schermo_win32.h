@@ -1,6 +1,7 @@
 #pragma once
 // DPI, the sizes of windows and their frames, and the monitors they stand on.
 
+#include "platform/controlli.h"
 #include "platform/win32/base_win32.h"
 
 namespace telva {
@@ -15,6 +16,9 @@ RECT RettangoloVisibile(HWND finestra);
 SIZE OltreIlVisibile(HWND finestra);
 // Twips to pixels upwards, so that a smallest size is never undercut by a fraction of a pixel.
 LONG APixelInSu(double twip, double dpi);
+
+// The largest DPI, up to `dpi`, at which the smallest size of a main window finds room in an area.
+double DpiCheMostra(const Modulo &modulo, const RECT &area, double dpi);
 
 // Work area of the monitor nearest to a rectangle; the rectangle itself when the system cannot
 // tell.
