@@ -255,6 +255,7 @@ void LeggiStruttura(std::int16_t &ok) {
         }
         lettore.Leggi(ok);
     }
+    StrutturaLetta = ok == 1;
     if (ok == 0 || LeggiIngombri()) return;
     for (auto *dove : {&IngIX, &IngIY, &IngIZ, &IngJX, &IngJY, &IngJZ})
         for (int b = 0; b < NumAste; ++b) (*dove)[b] = 0;

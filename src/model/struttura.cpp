@@ -42,7 +42,10 @@ Campi16ElCont TABELLA(SelElCont);
 
 int NumeroAngoli(int guscio) { return NodiGuscio[guscio][3] < 0 ? 3 : 4; }
 
+bool StrutturaLetta = false;
+
 void AzzeraStruttura() {
+    StrutturaLetta = false;
     NumPunti = NumNodi = NumAste = NumGusci = NumElCont = NumTestiFinali = 0;
     XMin = YMin = ZMin = XMax = YMax = ZMax = 0;
     PrimoPuntoContato = -1;

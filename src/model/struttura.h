@@ -62,6 +62,9 @@ extern Campi16ElCont SelElCont;
 // Corners that count for drawing, extents and intervals: 3 when the fourth is negative, else 4.
 int NumeroAngoli(int guscio);
 
+// The whole structure has been read. Half of one is not drawn, and nothing is told of it.
+extern bool StrutturaLetta;
+
 // Everything back to program start.
 void AzzeraStruttura();
 

@@ -5,6 +5,7 @@
 #include "platform/testo.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
+#include "view/proiezione.h"
 
 #include <algorithm>
 #include <array>
@@ -92,7 +93,7 @@ void MostraSelezione() {
 }
 
 void RicostruisciLista(int tipo) {
-    if (tipo != kParetiTipo) StrSel(tipo) = FormattaListaSel(OrdinaNumeriSel(tipo));
+    if (tipo != kParetiTipo && Proiettata()) StrSel(tipo) = FormattaListaSel(OrdinaNumeriSel(tipo));
 }
 
 void AggiornaSelezione() {

@@ -51,7 +51,8 @@ void InvertiSelezione();
 // What follows every marking: repaints and shows the list.
 void MostraSelezione();
 
-// Rebuilds the compact list of a kind 0..3; walls have none to rebuild.
+// Rebuilds the compact list of a kind 0..3; walls have none to rebuild. Without a structure nothing
+// is known of the elements, and every list stays as the caller gave it.
 void RicostruisciLista(int tipo);
 
 // Rebuilds the compact list of the chosen kind and shows it.

@@ -49,6 +49,13 @@ void PrimaVista(const std::string &ingresso) {
         MostraSelezione(); // a list that cannot be taken: the job is shown with nothing selected
 }
 
+// Without a structure nothing can be checked or selected: what the caller had goes back as it came.
+void ConservaIngresso(const std::string &ingresso) {
+    if (TipoRichiesto < 0) return;
+    StrSel(TipoRichiesto) = ingresso;
+    MostraStringaSel(TipoRichiesto);
+}
+
 void LeggiTabelle() {
     MostraProblema(LeggiSpessori());
     MostraProblema(LeggiSezioni());
@@ -81,10 +88,12 @@ void Avvia() {
     LeggiTabelle();
     std::int16_t ok = 0;
     LeggiStruttura(ok);
-    if (ok == 1)
+    if (ok == 1) {
         PrimaVista(ingresso);
-    else
+    } else {
+        ConservaIngresso(ingresso);
         MostraProblema("Errore nella lettura della struttura");
+    }
     FormTelva.MousePointer = Puntatore::Predefinito;
     AggiornaStato();
 }

@@ -35,7 +35,7 @@ void MostraTrappola() {
 }
 
 void ApriFormOptInt() {
-    FormOptInt.TextTrappola.Text = TestoNumero(OpzInt[1]);
+    FormOptInt.TextTrappola.Text = CitaNumero(OpzInt[1]);
     FormOptInt.fuoco = &FormOptInt.TextTrappola;
     FormOptInt.MostraModale();
 }

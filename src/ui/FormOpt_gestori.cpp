@@ -1,6 +1,7 @@
 #include "ui/FormOpt_gestori.h"
 
 #include "model/opzioni_cond.h"
+#include "platform/citazione.h"
 #include "platform/messaggi.h"
 #include "platform/numeri.h"
 #include "platform/tasti.h"
@@ -73,7 +74,7 @@ void Salva_Opzioni() {
 // Text of an entry as the box shows it.
 std::string TestoOpzione(int voce) {
     if (const auto *testo = std::get_if<std::string>(&Opzioni[voce])) return *testo;
-    return std::holds_alternative<double>(Opzioni[voce]) ? TestoNumero(OpzioneNumero(voce)) : "";
+    return std::holds_alternative<double>(Opzioni[voce]) ? CitaNumero(OpzioneNumero(voce)) : "";
 }
 
 } // namespace

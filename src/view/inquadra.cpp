@@ -72,7 +72,13 @@ bool HaArea(const FinestraDisegno &f) {
     return std::abs((f.primaY - f.secondaY) * (f.primaX - f.secondaX)) >= kAreaNulla;
 }
 
-// The one place where the user scale is set: FinestraVista is always what is shown.
+bool TroppoSottile(const FinestraDisegno &f) {
+    return std::abs(f.primaX - f.secondaX) < kFinestraMinimaRotella ||
+           std::abs(f.primaY - f.secondaY) < kFinestraMinimaRotella;
+}
+
+// The one place where the user scale is set: FinestraVista is always what is shown. A side too thin
+// for the wheel, as of a wall seen from its edge, is told as wide as it stands in the box.
 void Mostra(FinestraDisegno f) {
     FinestraVista = f;
     Allarga(f.primaX, f.secondaX);
@@ -85,6 +91,11 @@ void Mostra(FinestraDisegno f) {
     const double wU = larghezza / r, hU = altezza / r;
     const double cx = (f.primaX + f.secondaX) / 2, cy = (f.primaY + f.secondaY) / 2;
     FormTelva.Disegno.Scale(cx - wU / 2, cy + hU / 2, cx + wU / 2, cy - hU / 2);
+    if (TroppoSottile(FinestraVista)) {
+        FinestraVista = {cx + wU / 2, cx - wU / 2, cy + hU / 2, cy - hU / 2};
+        Restringi(FinestraVista.primaX, FinestraVista.secondaX);
+        Restringi(FinestraVista.primaY, FinestraVista.secondaY);
+    }
 }
 
 // Shows the box's pixels with so many units each around a centre.
@@ -141,17 +152,14 @@ FinestraDisegno FinestraDaSpostare() {
 
 bool ApplicaRotella(double d) {
     FinestraDisegno &f = FinestraZoom;
-    if (std::abs(f.primaX - f.secondaX) < kFinestraMinimaRotella ||
-        std::abs(f.primaY - f.secondaY) < kFinestraMinimaRotella)
-        f = FinestraVista;
+    if (TroppoSottile(f)) f = FinestraVista;
     const double passoX = d * (f.primaX - f.secondaX) * kPassoRotella;
     const double passoY = d * (f.primaY - f.secondaY) * kPassoRotella;
     f.primaX -= passoX;
     f.secondaX += passoX;
     f.primaY -= passoY;
     f.secondaY += passoY;
-    return std::abs(f.primaX - f.secondaX) >= kFinestraMinimaRotella &&
-           std::abs(f.primaY - f.secondaY) >= kFinestraMinimaRotella;
+    return !TroppoSottile(f);
 }
 
 void Adatta() {

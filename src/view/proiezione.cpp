@@ -1,5 +1,6 @@
 #include "view/proiezione.h"
 
+#include "platform/citazione.h"
 #include "platform/numeri.h"
 #include "ui/controlli/FormTelva.h"
 
@@ -56,7 +57,7 @@ Estremi EstremiStruttura() {
 std::array<EstremiAsse, 3> estremiModello; // as AggiornaIntervalli last found them
 
 // Nearest whole unit, halves up.
-std::string TestoIntero(double valore) { return TestoNumero(ParteIntera(valore + 0.5)); }
+std::string TestoIntero(double valore) { return CitaNumero(ParteIntera(valore + 0.5)); }
 
 } // namespace
 
@@ -116,7 +117,8 @@ EstremiAsse EstremiModello(int asse) { return estremiModello[static_cast<std::si
 
 bool Proiettata() {
     // Seen from wherever, at most one axis is a point.
-    return DirAsseX.x != 0 || DirAsseX.y != 0 || DirAsseY.x != 0 || DirAsseY.y != 0;
+    return StrutturaLetta &&
+           (DirAsseX.x != 0 || DirAsseX.y != 0 || DirAsseY.x != 0 || DirAsseY.y != 0);
 }
 
 void AzzeraProiezione() {

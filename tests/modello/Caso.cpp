@@ -39,9 +39,10 @@ void Caso::Nodi(LavoroProva &l) {
         l.punti.push_back({x, y, z});
     }
     l.punti[1] = {1, 2, 3};
-    if (Tira(6) == 0) { // one plane, or one line, seen from its edge
+    if (Tira(6) == 0) { // one plane, or one line, seen from its edge; or nearly so
         const int asse = Tira(3), altro = Tira(3);
-        for (auto &punto : l.punti) punto[asse] = punto[altro] = 0;
+        const double spessore = Una({0.0, 0.05});
+        for (auto &punto : l.punti) punto[asse] = punto[altro] = Tira(2) * spessore;
     }
     if (Tira(6) == 0) { // map coordinates
         const double lontano = Una({4e6, 4e7, 5e8});

@@ -137,8 +137,8 @@ bool Modello::Dentro(const Elemento &e) const {
 
 bool Modello::Zoomata() const { return std::abs(zoom.maxX - zoom.minX) >= kUguale; }
 
-bool Modello::Piccola() const {
-    return std::min(std::abs(zoom.maxX - zoom.minX), std::abs(zoom.maxY - zoom.minY)) < kZoomMinimo;
+bool Modello::Piccola(const Riquadro &r) {
+    return std::min(std::abs(r.maxX - r.minX), std::abs(r.maxY - r.minY)) < kZoomMinimo;
 }
 
 // Around what is drawn and active.
@@ -167,7 +167,6 @@ Riquadro Modello::Mostrati() const {
 }
 
 void Modello::Inquadra(const Riquadro &finestra) {
-    vista = finestra;
     auto [maxX, minX, maxY, minY] = finestra;
     // A tenth more on either side, the second one of what the first has widened.
     maxX += 0.1 * std::abs(maxX - minX);
@@ -178,14 +177,18 @@ void Modello::Inquadra(const Riquadro &finestra) {
     scala = {(maxX + minX - largo / r) / 2, (maxY + minY + alto / r) / 2, largo / r, -alto / r};
     largoScala_ = largo;
     altoScala_ = alto;
+    vista = finestra;
+    if (Piccola(finestra)) vista = Attorno((maxX + minX) / 2, (maxY + minY) / 2, 1 / r);
 }
 
 // The window whose margins reach to the edges of the box.
-void Modello::InquadraAttorno(double x, double y, double unita) {
+Riquadro Modello::Attorno(double x, double y, double unita) const {
     const double w = unita * largo, h = unita * alto;
-    Inquadra({x + w / 2 - 0.1 * w / 1.21, x - w / 2 + 0.11 * w / 1.21, y + h / 2 - 0.1 * h / 1.21,
-              y - h / 2 + 0.11 * h / 1.21});
+    return {x + w / 2 - 0.1 * w / 1.21, x - w / 2 + 0.11 * w / 1.21, y + h / 2 - 0.1 * h / 1.21,
+            y - h / 2 + 0.11 * h / 1.21};
 }
+
+void Modello::InquadraAttorno(double x, double y, double unita) { Inquadra(Attorno(x, y, unita)); }
 
 // Without area: its length takes two thirds of the smaller side.
 void Modello::InquadraLunghezza(const Riquadro &r) {
@@ -242,11 +245,11 @@ void Modello::Trasla(const Riquadro &da, double dx, double dy) {
 // --- steps of the view
 
 void Modello::Rotella(int passi) {
-    if (Piccola()) zoom = vista;
+    if (Piccola(zoom)) zoom = vista;
     const double dx = (zoom.maxX - zoom.minX) * passi * 0.1;
     const double dy = (zoom.maxY - zoom.minY) * passi * 0.1;
     zoom = {zoom.maxX - dx, zoom.minX + dx, zoom.maxY - dy, zoom.minY + dy};
-    if (!Piccola()) Ridisegna();
+    if (!Piccola(zoom)) Ridisegna();
 }
 
 void Modello::Ridimensionata(double larghezza) {

@@ -127,9 +127,10 @@ struct Modello {
     bool Proietta();
     bool Dentro(const Elemento &e) const;
     bool Zoomata() const;
-    bool Piccola() const;
+    static bool Piccola(const Riquadro &r); // for the wheel
     Riquadro Mostrati() const;
     void Inquadra(const Riquadro &finestra);
+    Riquadro Attorno(double x, double y, double unita) const;
     void InquadraAttorno(double x, double y, double unita);
     void InquadraLunghezza(const Riquadro &finestra);
     static bool Giusto(const std::string &intervallo); // of those that a step types

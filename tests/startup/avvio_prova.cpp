@@ -133,6 +133,22 @@ TEST_F(AvvioProva, MezzaStrutturaNonSiDisegna) {
     EXPECT_EQ(std::count(inizio, fine, 0U), fine - inizio);
 }
 
+TEST_F(AvvioProva, SenzaStrutturaLaListaDelChiamanteTornaIntera) {
+    for (const int tipo : {+kNodiTipo, +kAsteTipo, +kElContTipo}) {
+        AzzeraProgramma();
+        Installa();
+        ScriviLavoro(Telaio());
+        ScriviIngresso("Palazzo", "2-4,9", tipo);
+        Cancella("lavori/prova1/STRUTTUR.STR");
+        Avvia();
+        Detto();
+        Passo("Ridis", [] { FormTelva.Ridis.Click(); });
+        EXPECT_EQ(Lista(), "2-4,9") << "kind " << tipo;
+        Passo("Salva", [] { FormTelva.Salva.Click(); });
+        EXPECT_EQ(Leggi("lavori/prova1/TelvaOut.txt"), "2-4,9\r\n") << "kind " << tipo;
+    }
+}
+
 // --- the bench itself
 
 TEST_F(AvvioProva, UnAvvioFallitoFermaLaProvaConLaSuaCausa) {

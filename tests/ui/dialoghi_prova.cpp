@@ -38,6 +38,12 @@ TEST_F(DialogoTrappola, LaMisuraEUnNumeroInteroSenzaSegno) {
     }
 }
 
+TEST_F(DialogoTrappola, UnaMisuraEnormeStaNellaCasellaInBreve) {
+    OpzInt[1] = 2e20;
+    Menu("Trappola");
+    EXPECT_EQ(FormOptInt.TextTrappola.Text(), "2e+20");
+}
+
 TEST_F(DialogoTrappola, EscLasciaLaMisuraComEra) {
     Trappola("12");
     for (const char *testo : {"99", "0", ""}) {
