@@ -9,6 +9,8 @@
 namespace telva::prove {
 namespace {
 
+constexpr double kAlto = 7120; // twips: the smallest height
+
 // A place as it is printed: short steps in the story of a failure. Far from the origin every digit
 // counts.
 double SeiCifre(double v) {
@@ -142,69 +144,92 @@ Punto Caso::Posto(const Modello &m) {
                     -1.3 * t});
     };
     const double y = SeiCifre(p.y + scarto()), x = SeiCifre(p.x + scarto());
-    return m.Evento(x, y);
+    const Punto evento = m.Evento(x, y);
+    return m.AlPixel(evento.x, evento.y);
 }
 
 PassoCasuale Caso::Filtri() {
     const auto asse = static_cast<Asse>(Tira(3));
     const auto filtro = static_cast<Filtro>(Tira(5));
-    return Una<PassoCasuale>({passi::Mostra{filtro}, passi::Tutto{asse}, passi::Tutto{Asse::X},
-                              passi::Tutto{Asse::Y}, passi::Tutto{Asse::Z}, passi::Larghezza{5550},
-                              passi::Larghezza{7000}, passi::Larghezza{99}});
+    const auto tutto = [](Asse quale) { return [=](auto &chi) { chi.Tutto(quale); }; };
+    const auto largo = [](double twip) {
+        return [=](auto &chi) { chi.Ridimensiona(twip, kAlto); };
+    };
+    return Una<PassoCasuale>({[=](auto &chi) { chi.Mostra(filtro); }, tutto(asse), tutto(Asse::X),
+                              tutto(Asse::Y), tutto(Asse::Z), largo(5550), largo(7000), largo(99)});
 }
 
-PassoCasuale Caso::Vista(const Modello &m, const passi::Trascina &trascina) {
+PassoCasuale Caso::Vista(const Modello &m, const PassoCasuale &trascina) {
     const Punto p = Posto(m);
-    return Una<PassoCasuale>({trascina, passi::Rotella{1}, passi::Rotella{-1}, passi::Rotella{-3},
-                              passi::Rotella{2}, passi::DoppioClic{}, passi::ClicDestro{p.x, p.y},
-                              passi::Lettera{}, passi::Menu{"Ottimizza"}});
+    const auto rotella = [](int passi) { return [=](auto &chi) { chi.Rotella(passi); }; };
+    return Una<PassoCasuale>(
+        {trascina, rotella(1), rotella(-1), rotella(-3), rotella(2),
+         [](auto &chi) { chi.DoppioClic(); }, [=](auto &chi) { chi.ClicDestro(p.x, p.y); },
+         [](auto &chi) { chi.Lettera('A'); }, [](auto &chi) { chi.Menu("Ottimizza"); }});
+}
+
+// Something that is typed.
+PassoCasuale Caso::Casella(int quale) {
+    if (quale == 4) {
+        const std::string testo =
+            Testo({"9", "17", "2.5", "7.5", "1000", "-1000", "abc", "", "100"});
+        const auto estremo = static_cast<Estremo>(Tira(6));
+        const bool invio = Tira(2) == 0;
+        return [=](auto &chi) { chi.Intervallo(estremo, testo, invio); };
+    }
+    if (quale == 5) {
+        const std::string testo =
+            Testo({"0", "0", "0", "30", "-75", "22.5", "90", "x1", "", "22,5", "6e307"});
+        const auto asse = static_cast<Asse>(Tira(3));
+        const bool invio = Tira(2) == 0;
+        return [=](auto &chi) { chi.Angolo(asse, testo, invio); };
+    }
+    const std::string testo =
+        Testo({"8", "8", "30", "2", "-7.6", "200", "2000", "12abc", "", "abc", "0.9"});
+    const bool applica = Tira(2) == 0;
+    return [=](auto &chi) { chi.Trappola(testo, applica); };
 }
 
 PassoCasuale Caso::Passo(const Modello &m) {
     const int py = Tira(250), px = Tira(160), qx = Tira(160);
-    const passi::Trascina trascina{{{px, py}, {qx, 99}, {px, py}}};
+    const std::vector<Pixel> strada = {{px, py}, {qx, 99}, {px, py}};
+    const auto menu = [](const std::string &voce) { return [=](auto &chi) { chi.Menu(voce); }; };
+    const auto risposta = [&]() -> PassoCasuale {
+        const std::string testo = Elenco();
+        if (!m.risposta) return [](auto &chi) { chi.Invio(); };
+        return [=](auto &chi) { chi.Elenco(testo); };
+    };
     if (m.funzione == Modello::Niente && Tira(2))
-        return passi::Menu{Testo({"Aggiungi", "Aggiungi", "Rimuovi"})};
-    if (m.risposta && Tira(3) == 0) return passi::Risposta{Elenco()};
+        return menu(Testo({"Aggiungi", "Aggiungi", "Rimuovi"}));
+    if (m.risposta && Tira(3) == 0) return risposta();
     const int quale = Tira(22);
     switch (quale) {
-    case 1: return passi::Menu{Testo({"Aggiungi", "Aggiungi", "Rimuovi", "Finestra"})};
-    case 2: return passi::Tipo{Una({0, 1, 2, 2, 3, 4})};
+    case 1: return menu(Testo({"Aggiungi", "Aggiungi", "Rimuovi", "Finestra"}));
+    case 2: {
+        const int tipo = Una({0, 1, 2, 2, 3, 4});
+        return [=](auto &chi) { chi.Tipo(tipo); };
+    }
     case 3: return Filtri();
-    case 4: {
-        const std::string testo =
-            Testo({"9", "17", "2.5", "7.5", "1000", "-1000", "abc", "", "100"});
-        const auto estremo = static_cast<Estremo>(Tira(6));
-        return passi::Intervallo{estremo, testo, Tira(2) == 0};
-    }
-    case 5: {
-        const std::string testo =
-            Testo({"0", "0", "0", "30", "-75", "22.5", "90", "x1", "", "22,5", "6e307"});
-        const auto asse = static_cast<Asse>(Tira(3));
-        return passi::Angolo{asse, testo, Tira(2) == 0};
-    }
+    case 4:
+    case 5:
+    case 8: return Casella(quale);
     case 6:
-    case 7: return passi::Risposta{Elenco()};
-    case 8: {
-        const std::string testo =
-            Testo({"8", "8", "30", "2", "-7.6", "200", "2000", "12abc", "", "abc", "0.9"});
-        return passi::Trappola{testo, Tira(2) == 0};
-    }
-    case 9: return Vista(m, trascina);
+    case 7: return risposta();
+    case 9: return Vista(m, [=](auto &chi) { chi.Trascina(strada); });
     case 10: {
         const std::string voce =
             Testo({"", "Ottimizza", "ZoomIn", "ZoomIn", "Sposta", "RimTutto", "Inverti"});
-        if (voce.empty()) return passi::Esc{};
-        return passi::Menu{voce};
+        if (voce.empty()) return [](auto &chi) { chi.Esc(); };
+        return menu(voce);
     }
     case 11:
     case 12:
-    case 13: return passi::Menu{FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo()};
+    case 13: return menu(FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo());
     default: break;
     }
     const Punto p = Posto(m);
-    if (quale == 0) return passi::Muovi{p.x, p.y};
-    return passi::Clic{p.x, p.y};
+    if (quale == 0) return [=](auto &chi) { chi.Muovi(p.x, p.y); };
+    return [=](auto &chi) { chi.Clic(p.x, p.y); };
 }
 
 } // namespace telva::prove

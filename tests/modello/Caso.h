@@ -3,11 +3,20 @@
 // numbers in every build, so every draw is a statement of its own.
 
 #include "modello/Modello.h"
-#include "modello/Passi.h"
 
+#include <concepts>
+#include <functional>
 #include <random>
 
 namespace telva::prove {
+
+// One step, to be done in the program and by the rules: both have steps of the same names.
+struct PassoCasuale {
+    template <std::invocable<Utente &> Fai>
+    PassoCasuale(const Fai &fai) : programma(fai), regole(fai) {} // from [=](auto &chi) {...}
+    std::function<void(Utente &)> programma;
+    std::function<void(Modello &)> regole;
+};
 
 class Caso {
   public:
@@ -26,7 +35,8 @@ class Caso {
     std::string Elenco();
     Punto Posto(const Modello &m);
     PassoCasuale Filtri();
-    PassoCasuale Vista(const Modello &m, const passi::Trascina &trascina);
+    PassoCasuale Vista(const Modello &m, const PassoCasuale &trascina);
+    PassoCasuale Casella(int quale);
     void Nodi(LavoroProva &l);
     void Elementi(LavoroProva &l);
     int Nome();

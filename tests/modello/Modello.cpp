@@ -73,7 +73,7 @@ void Modello::Dice(const std::string &testo, const char *titolo, int icona) {
 }
 
 void Modello::Avvio(const Ingresso &ingresso) {
-    for (int asse = 0; asse < 3; ++asse) Estremi(asse);
+    for (int asse = 0; asse < 3; ++asse) InteroIntervallo(asse);
     Ottimizza();
     tipo = ingresso.tipo;
     funzione = Aggiungere;
@@ -87,7 +87,7 @@ void Modello::Avvio(const Ingresso &ingresso) {
 // --- the view
 
 // The whole extent of the nodes into an interval, in whole numbers.
-void Modello::Estremi(int asse) {
+void Modello::InteroIntervallo(int asse) {
     const auto valore = [&](const auto &n) { return lavoro_.punti[n.punto][asse]; };
     const auto [minimo, massimo] = std::ranges::minmax(lavoro_.nodi, {}, valore);
     const auto intero = [&](const auto &n) {
@@ -252,27 +252,28 @@ void Modello::Rotella(int passi) {
     if (!Piccola(zoom)) Ridisegna();
 }
 
-void Modello::Ridimensionata(double larghezza) {
+void Modello::Ridimensiona(double larghezza, double) {
     if (larghezza >= 5550) Adatta(); // below, the window only goes back to its smallest size
 }
 
-void Modello::Mostra(int filtro) {
-    filtri_[filtro] = !filtri_[filtro];
+void Modello::Mostra(Filtro filtro) {
+    bool &mostrati = filtri_[static_cast<std::size_t>(filtro)];
+    mostrati = !mostrati;
     Ridisegna();
 }
 
-void Modello::Tutto(int asse) {
-    Estremi(asse);
+void Modello::Tutto(Asse asse) {
+    InteroIntervallo(static_cast<int>(asse));
     Ridisegna();
 }
 
-void Modello::Intervallo(int quale, const std::string &testo, bool invio) {
-    intervalli[quale] = testo;
+void Modello::Intervallo(Estremo estremo, const std::string &testo, bool invio) {
+    intervalli[static_cast<std::size_t>(estremo)] = testo;
     if (invio) Ridisegna();
 }
 
-void Modello::Angolo(int asse, const std::string &testo, bool invio) {
-    angoli[asse] = testo;
+void Modello::Angolo(Asse asse, const std::string &testo, bool invio) {
+    angoli[static_cast<std::size_t>(asse)] = testo;
     if (invio) Ridisegna();
 }
 

@@ -2,11 +2,11 @@
 // The rules of view and selection told once more, small and slow: what random sequences are
 // compared with. It shares nothing with the program but the message texts.
 //
-// A step of the user is a procedure here; what the window then has to show are the members. A new
-// rule goes where its step is: what is shown and the view into Modello.cpp, the selection into
-// Modello_selezione.cpp, the mouse into Modello_puntatore.cpp.
+// A step of the user is a procedure here, named as in Utente; what the window then has to show are
+// the members. A new rule goes where its step is: what is shown and the view into Modello.cpp, the
+// selection into Modello_selezione.cpp, the mouse into Modello_puntatore.cpp.
 
-#include "sostegno/LavoroProva.h"
+#include "sostegno/Utente.h"
 
 #include <array>
 #include <cmath>
@@ -64,7 +64,7 @@ struct Ingresso {
 };
 
 struct Modello {
-    enum Tipo { Nodi, Aste, Gusci, Continui, Pareti };
+    enum { Nodi, Aste, Gusci, Continui, Pareti }; // kinds
     enum Funzione { Niente, Aggiungere, Rimuovere };
     enum Tasto { Nessuno = 0, Sinistro = 1, Destro = 2, Centrale = 4 };
 
@@ -89,26 +89,30 @@ struct Modello {
     // --- the box and its settings
     double largo = 1, alto = 1; // pixels
     double trappola = 8;
-    bool dubbio = false;      // the last digits of a sum would decide: not to be compared
     std::vector<Punto> punti; // projected
 
-    // --- steps; false when nobody can do it now
-    bool Menu(const std::string &voce);
-    bool Clic(double x, double y);
-    bool ClicDestro(double x, double y);
+    // --- steps
+    // The last one is to be left out: nobody can do it now, or the last digits of a sum would
+    // decide what it does.
+    bool salta = false;
+    void Menu(const std::string &voce);
+    void Clic(double x, double y);
+    void ClicDestro(double x, double y);
     void Muovi(double x, double y);
-    void Trascina(const std::vector<std::array<int, 2>> &pixel);
+    void Trascina(const std::vector<Pixel> &pixel);
     void DoppioClic();
     void Rotella(int passi);
-    void Ridimensionata(double larghezza);
-    void Esc();
-    void Invio(const std::string &testo);
-    void ScegliTipo(int nuovo);
-    void Mostra(int filtro); // nodes, bars, shells, selected, others
-    void Tutto(int asse);
-    void Intervallo(int quale, const std::string &testo, bool invio);
-    void Angolo(int asse, const std::string &testo, bool invio);
-    void Trappola(const std::string &testo);
+    void Ridimensiona(double larghezza, double altezza);
+    void Esc() { Interrompi(); }
+    void Lettera(char) {}
+    void Elenco(const std::string &testo);
+    void Invio();
+    void Tipo(int nuovo);
+    void Mostra(Filtro filtro);
+    void Tutto(Asse asse);
+    void Intervallo(Estremo estremo, const std::string &testo, bool invio);
+    void Angolo(Asse asse, const std::string &testo, bool invio);
+    void Trappola(const std::string &testo, bool applica);
 
     // The start: intervals on the whole structure, everything in view, the caller's list selected.
     void Avvio(const Ingresso &ingresso);
@@ -123,7 +127,7 @@ struct Modello {
     void Dice(const std::string &testo, const char *titolo, int icona);
 
     // --- the view
-    void Estremi(int asse);
+    void InteroIntervallo(int asse);
     bool Proietta();
     bool Dentro(const Elemento &e) const;
     bool Zoomata() const;
@@ -149,12 +153,11 @@ struct Modello {
     void Attributo(const std::string &menu, int codice);
     void Numeri(Sotto proprieta, const std::string &elenco);
     void AzzeraInput();
-    void Abilita();
     void Annulla();
     void Interrompi();
     void RimuoviTutto();
     void Inverti();
-    bool VoceSelezioni(const std::string &menu, int codice);
+    void VoceSelezioni(const std::string &menu, int codice);
     void ChiediProprieta(Sotto proprieta);
 
     // --- the pointer

@@ -12,7 +12,7 @@ constexpr std::size_t kCandidati = 50;
 } // namespace
 
 bool Modello::Meno(double a, double b) {
-    if (std::abs(a - b) < 1e-3) dubbio = true;
+    if (std::abs(a - b) < 1e-3) salta = true;
     return a < b;
 }
 
@@ -97,7 +97,7 @@ int Modello::Scelto(double x, double y) {
         for (const auto &[g, dg] : candidati) // equal, but as sums of other numbers
             if ((tipo == Aste && std::abs(d - dg) < 1e-6 && e->punti != g->punti) ||
                 std::abs(d - std::floor(d) - 0.5) < 1e-6)
-                dubbio = true;
+                salta = true;
     // The nearest first, as the old sorting had it: what is moved back is rounded to whole numbers.
     for (std::size_t giri = candidati.size() * candidati.size(); giri > 0; --giri)
         for (std::size_t k = 1; k < candidati.size(); ++k)
@@ -127,7 +127,7 @@ std::vector<Elemento *> Modello::NelRettangolo(double margine) {
 
 void Modello::SelezionaRettangolo() {
     const bool frontale = validi_[0] == "0" && validi_[1] == "0" && validi_[2] == "0";
-    if (!frontale && NelRettangolo(0.999) != NelRettangolo(1.001)) dubbio = true;
+    if (!frontale && NelRettangolo(0.999) != NelRettangolo(1.001)) salta = true;
     for (Elemento *e : NelRettangolo(1)) e->selezionato = funzione == Aggiungere;
     AggiornaLista();
     RiprendiDiretta();
@@ -169,18 +169,17 @@ void Modello::Muovi(double x, double y) {
     }
 }
 
-bool Modello::Clic(double x, double y) {
-    if (!InVista(x, y)) return false;
+void Modello::Clic(double x, double y) {
+    const Punto pixel = AlPixel(x, y);
+    salta = !InVista(x, y) || x != pixel.x || y != pixel.y;
     ultimoTasto_ = Sinistro;
     Muovi(x, y);
     Premi(x, y);
-    return true;
 }
 
-bool Modello::ClicDestro(double x, double y) {
-    if (!InVista(x, y)) return false;
+void Modello::ClicDestro(double x, double y) {
+    salta = !InVista(x, y);
     ultimoTasto_ = Destro;
-    return true;
 }
 
 void Modello::DoppioClic() {
@@ -221,7 +220,7 @@ void Modello::SecondoAngolo() {
     Didascalia();
 }
 
-void Modello::Trascina(const std::vector<std::array<int, 2>> &pixel) {
+void Modello::Trascina(const std::vector<Pixel> &pixel) {
     ultimoTasto_ = Centrale;
     lineaSposta = spostaInCorso;
     const auto [px, py] = pixel[0];

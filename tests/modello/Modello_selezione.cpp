@@ -40,41 +40,21 @@ const std::map<std::string, FamigliaAttributo> kAttributi = {
     {"TipoLinea", {{Modello::Aste, Modello::Continui}, 5}},
     {"TipoTratt", {{Modello::Gusci, Modello::Pareti}, 9}}};
 
-const std::map<std::string, Sotto> kProprieta = {{"Materiale", Sotto::Materiale},
-                                                 {"SchSezione", Sotto::Sezione},
-                                                 {"SchSpessore", Sotto::Spessore},
-                                                 {"SchOrientamento", Sotto::Orientamento},
-                                                 {"SchSvincolo", Sotto::Svincolo},
-                                                 {"SchVincolo", Sotto::Vincolo},
-                                                 {"Nome", Sotto::Nome}};
+struct Proprieta {
+    Sotto sotto;
+    const char *voce;
+    const char *titolo;
+};
+const Proprieta kProprieta[] = {
+    {.sotto = Sotto::Materiale, .voce = "Materiale", .titolo = "materiale"},
+    {.sotto = Sotto::Nome, .voce = "Nome", .titolo = "nome elemento"},
+    {.sotto = Sotto::Sezione, .voce = "SchSezione", .titolo = "sezione"},
+    {.sotto = Sotto::Spessore, .voce = "SchSpessore", .titolo = "spessore"},
+    {.sotto = Sotto::Orientamento, .voce = "SchOrientamento", .titolo = "orientamento"},
+    {.sotto = Sotto::Svincolo, .voce = "SchSvincolo", .titolo = "svincolo"},
+    {.sotto = Sotto::Vincolo, .voce = "SchVincolo", .titolo = "vincolo"}};
 
-const std::map<Sotto, std::string> kTitoli = {{Sotto::Materiale, "materiale"},
-                                              {Sotto::Nome, "nome elemento"},
-                                              {Sotto::Sezione, "sezione"},
-                                              {Sotto::Spessore, "spessore"},
-                                              {Sotto::Orientamento, "orientamento"},
-                                              {Sotto::Svincolo, "svincolo"},
-                                              {Sotto::Vincolo, "vincolo"}};
-
-// The refusal of a property that a kind does not have.
-const std::map<Sotto, std::map<int, int>> kRifiuti = {
-    {Sotto::Materiale, {{Modello::Nodi, kMsgMaterialeNodi}}},
-    {Sotto::Nome, {}},
-    {Sotto::Sezione, {{Modello::Nodi, kMsgSezioneNodi}, {Modello::Gusci, kMsgSezioneGusci}}},
-    {Sotto::Spessore,
-     {{Modello::Nodi, kMsgSpessoreNodi},
-      {Modello::Aste, kMsgSpessoreAste},
-      {Modello::Continui, kMsgSpessoreElCont}}},
-    {Sotto::Orientamento,
-     {{Modello::Nodi, kMsgOrientamentoNodi}, {Modello::Gusci, kMsgOrientamentoGusci}}},
-    {Sotto::Svincolo,
-     {{Modello::Nodi, kMsgSvincoloNodi},
-      {Modello::Gusci, kMsgSvincoloGusci},
-      {Modello::Continui, kMsgSvincoloElCont}}},
-    {Sotto::Vincolo,
-     {{Modello::Aste, kMsgVincoloAste},
-      {Modello::Gusci, kMsgVincoloGusci},
-      {Modello::Continui, kMsgVincoloElCont}}}};
+const char *const kITipi[] = {"i nodi", "le aste", "i gusci", "gli elementi continui", "le pareti"};
 
 // An item of the menus of attributes.
 struct VoceAttributo {
@@ -162,10 +142,6 @@ void Modello::AzzeraInput() {
     sottoFunAttiva = domanda = testoRisposta = "";
 }
 
-void Modello::Abilita() {
-    if (funzione != Niente) abilitate = kAbilitate[tipo];
-}
-
 void Modello::Annulla() {
     primoAngolo = spostaInCorso = modoZoom = modoSposta = lineaSposta = false;
 }
@@ -242,7 +218,7 @@ void Modello::Numeri(Sotto proprieta, const std::string &elenco) {
 void Modello::ChiediProprieta(Sotto proprieta) {
     sotto = proprieta;
     risposta = true;
-    const std::string &titolo = kTitoli.at(proprieta);
+    const std::string titolo = std::ranges::find(kProprieta, sotto, &Proprieta::sotto)->titolo;
     sottoFunAttiva = "Seleziona per " + titolo;
     domanda =
         "Inserire i " +
@@ -250,12 +226,19 @@ void Modello::ChiediProprieta(Sotto proprieta) {
         " e premere INVIO";
 }
 
-void Modello::Invio(const std::string &testo) {
-    if (risposta) testoRisposta = testo;
-    const auto rifiuti = kRifiuti.find(sotto);
-    if (rifiuti == kRifiuti.end()) return; // nothing has been asked
-    if (const auto r = rifiuti->second.find(tipo); r != rifiuti->second.end())
-        return Dice(Messaggi[r->second], "INFORMAZIONE", kInformazione);
+void Modello::Elenco(const std::string &testo) {
+    salta = !risposta;
+    testoRisposta = testo;
+    Invio();
+}
+
+void Modello::Invio() {
+    const auto *proprieta = std::ranges::find(kProprieta, sotto, &Proprieta::sotto);
+    if (proprieta == std::end(kProprieta)) return; // nothing has been asked
+    if (!kAbilitate[tipo].contains(proprieta->voce))
+        return Dice(std::string(" La selezione per ") + proprieta->titolo +
+                        " non è possibile per " + kITipi[tipo] + " ",
+                    "INFORMAZIONE", kInformazione);
     const bool perPareti = sotto == Sotto::Materiale || sotto == Sotto::Nome;
     if (tipo == Pareti && !perPareti) return; // walls have no cards: nothing happens
     if (!testoRisposta.empty()) Numeri(sotto, testoRisposta);
@@ -263,50 +246,46 @@ void Modello::Invio(const std::string &testo) {
 
 // --- steps
 
-void Modello::Esc() { Interrompi(); }
-
-void Modello::ScegliTipo(int nuovo) {
+void Modello::Tipo(int nuovo) {
     tipo = nuovo;
-    Abilita();
+    if (funzione != Niente) abilitate = kAbilitate[tipo];
 }
 
-void Modello::Trappola(const std::string &testo) {
+void Modello::Trappola(const std::string &testo, bool applica) {
+    if (!applica) return;
     trappola = std::abs(std::floor(std::strtod(testo.c_str(), nullptr)));
     if (trappola == 0) Dice(Messaggi[kMsgTrappolaNulla], "ATTENZIONE", kEsclamazione);
 }
 
-bool Modello::VoceSelezioni(const std::string &menu, int codice) {
-    if (!abilitate.contains(menu)) return false;
+void Modello::VoceSelezioni(const std::string &menu, int codice) {
+    salta = !abilitate.contains(menu);
     Annulla();
     AzzeraInput();
     finestraAutomatica = false;
-    const auto proprieta = kProprieta.find(menu);
-    if (proprieta != kProprieta.end()) {
-        ChiediProprieta(proprieta->second);
-        return true;
-    }
-    if (menu == "Finestra") {
+    const auto *proprieta = std::ranges::find(kProprieta, menu, &Proprieta::voce);
+    if (proprieta != std::end(kProprieta)) {
+        ChiediProprieta(proprieta->sotto);
+    } else if (menu == "Finestra") {
         sotto = Sotto::Finestra;
         Didascalia();
     } else {
         Attributo(menu == "Tutto" ? "Colore" : menu, menu == "Tutto" ? kOgniColore : codice);
     }
-    return true;
 }
 
-bool Modello::Menu(const std::string &voce) {
-    const auto attributo = std::ranges::find(kVociAttributi, voce, &VoceAttributo::nome);
+void Modello::Menu(const std::string &voce) {
+    const auto *attributo = std::ranges::find(kVociAttributi, voce, &VoceAttributo::nome);
     if (attributo != std::end(kVociAttributi))
         return VoceSelezioni(attributo->menu, attributo->codice);
-    if (kAttributi.contains(voce)) return true; // only opens its own items
+    if (kAttributi.contains(voce)) return; // only opens its own items
     if (std::ranges::count(kVociSelezioni, voce)) return VoceSelezioni(voce, 0);
-    if (voce == "Interrompi" && funzione == Niente) return false;
-    if (voce == "Trappola" || voce == "Salva" || voce == "Esci") return false; // not this way
+    salta = (voce == "Interrompi" && funzione == Niente) || voce == "Trappola" || // not this way
+            voce == "Salva" || voce == "Esci";
     if (voce == "Aggiungi" || voce == "Rimuovi") {
         Interrompi();
         funzione = voce == "Aggiungi" ? Aggiungere : Rimuovere;
         sotto = Sotto::Diretta;
-        Abilita();
+        abilitate = kAbilitate[tipo];
         Didascalia();
     }
     if (voce == "RimTutto") RimuoviTutto();
@@ -332,7 +311,6 @@ bool Modello::Menu(const std::string &voce) {
         ControllaIntervalli();
         Adatta();
     }
-    return true;
 }
 
 } // namespace telva::prove

@@ -1,6 +1,6 @@
 // Random sequences of what a user can do, on random jobs, against the model of the rules. By hand:
 // TELVA_SEME=7 TELVA_SEMI=100 TELVA_PASSI=5000 prove_telva --gtest_filter=*Sequenze*
-// A failure prints the job and the steps as the lines of a test that does them again.
+// A failure prints the job and the steps, as few as do it again, as they stand in a test.
 #include "model/struttura.h"
 #include "modello/Caso.h"
 #include "selection/selezione.h"
@@ -20,7 +20,8 @@ namespace {
 
 using Passi = std::vector<PassoCasuale>;
 
-constexpr double kAltezza = 7120; // twips: the smallest height
+constexpr int kEsc = 27;
+const PassoCasuale kPiccola = [](auto &chi) { chi.Ridimensiona(5550, 7120); };
 
 // What is not as the rules say, a line each.
 class Confronto {
@@ -32,8 +33,12 @@ class Confronto {
                     << ::testing::PrintToString(atteso) << "\n";
     }
     // Within the last digits of numbers of this size.
-    void Vicini(const std::string &che, double visto, double atteso, double misura) {
-        if (!(std::abs(visto - atteso) <= 1e-6 * misura)) Uguali(che, visto, atteso);
+    using Quattro = std::array<double, 4>;
+    void Vicini(const std::string &che, const Quattro &visti, const Quattro &attesi,
+                double misura) {
+        for (std::size_t k = 0; k < visti.size(); ++k)
+            if (!(std::abs(visti[k] - attesi[k]) <= 1e-6 * misura))
+                return Uguali(che, visti, attesi);
     }
     std::string Differenze() const { return differenze_.str(); }
 
@@ -51,23 +56,19 @@ double Misura(double larghezza, double altezza, double x, double y) {
 // The model takes over the last digits.
 void ConfrontaFinestra(Confronto &c, const std::string &che, const FinestraDisegno &vista,
                        Riquadro &attesa) {
-    const double misura = Misura(vista.primaX - vista.secondaX, vista.primaY - vista.secondaY,
-                                 vista.primaX, vista.primaY);
-    c.Vicini(che + " primaX", vista.primaX, attesa.maxX, misura);
-    c.Vicini(che + " secondaX", vista.secondaX, attesa.minX, misura);
-    c.Vicini(che + " primaY", vista.primaY, attesa.maxY, misura);
-    c.Vicini(che + " secondaY", vista.secondaY, attesa.minY, misura);
-    attesa = {vista.primaX, vista.secondaX, vista.primaY, vista.secondaY};
+    const auto &[maxX, minX, maxY, minY] = vista;
+    c.Vicini(che, {maxX, minX, maxY, minY}, {attesa.maxX, attesa.minX, attesa.maxY, attesa.minY},
+             Misura(maxX - minX, maxY - minY, maxX, maxY));
+    attesa = {maxX, minX, maxY, minY};
 }
 
-void ConfrontaScala(Confronto &c, const RiquadroDisegno &d, Modello &m) {
-    const Scala vista{d.ScaleLeft, d.ScaleTop, d.ScaleWidth, d.ScaleHeight};
-    const double misura = Misura(d.ScaleWidth, d.ScaleHeight, d.ScaleLeft, d.ScaleTop);
-    c.Vicini("ScaleLeft", vista.sinistra, m.scala.sinistra, misura);
-    c.Vicini("ScaleTop", vista.alto, m.scala.alto, misura);
-    c.Vicini("ScaleWidth", vista.larghezza, m.scala.larghezza, misura);
-    c.Vicini("ScaleHeight", vista.altezza, m.scala.altezza, misura);
-    m.scala = vista;
+void ConfrontaScala(Confronto &c, const RiquadroDisegno &d, Scala &attesa) {
+    const double sinistra = d.ScaleLeft, alto = d.ScaleTop, largo = d.ScaleWidth,
+                 altezza = d.ScaleHeight;
+    c.Vicini("Scale", {sinistra, alto, largo, altezza},
+             {attesa.sinistra, attesa.alto, attesa.larghezza, attesa.altezza},
+             Misura(largo, altezza, sinistra, alto));
+    attesa = {sinistra, alto, largo, altezza};
 }
 
 void ConfrontaElementi(Confronto &c, const Modello &m) {
@@ -100,80 +101,6 @@ struct Inizio {
 struct SequenzeProva : Utente {
     ModuloTelva &f = FormTelva;
     RiquadroDisegno &d = FormTelva.Disegno;
-
-    // --- a step in the program
-    void Fai(const passi::Menu &p) {
-        Menu(p.voce);
-        if (p.voce == "Rappresentazione") FormOpt.KeyUp(27);
-    }
-    void Fai(const passi::Muovi &p) { Muovi(p.x, p.y); }
-    void Fai(const passi::Clic &p) { Clic(p.x, p.y); }
-    void Fai(const passi::ClicDestro &p) { ClicDestro(p.x, p.y); }
-    void Fai(const passi::Trascina &p) {
-        std::vector<Pixel> pixel;
-        for (const auto &[x, y] : p.pixel) pixel.push_back({x, y});
-        Trascina(pixel);
-    }
-    void Fai(const passi::DoppioClic &) { DoppioClic(); }
-    void Fai(const passi::Rotella &p) { Rotella(p.passi); }
-    void Fai(const passi::Larghezza &p) { Ridimensiona(p.twip, kAltezza); }
-    void Fai(const passi::Esc &) { Esc(); }
-    void Fai(const passi::Lettera &) { Lettera('A'); }
-    void Fai(const passi::Risposta &p) { f.Risposta.Enabled ? Elenco(p.testo) : Invio(); }
-    void Fai(const passi::Tipo &p) { Tipo(p.tipo); }
-    void Fai(const passi::Mostra &p) { Mostra(p.filtro); }
-    void Fai(const passi::Tutto &p) { Tutto(p.asse); }
-    void Fai(const passi::Intervallo &p) { Intervallo(p.estremo, p.testo, p.invio); }
-    void Fai(const passi::Angolo &p) { Angolo(p.asse, p.testo, p.invio); }
-    void Fai(const passi::Trappola &p) { Trappola(p.testo, p.applica); }
-
-    // --- the same by the rules; false when nobody can do it now
-    static bool Segui(Modello &m, const passi::Menu &p) { return m.Menu(p.voce); }
-    static bool Segui(Modello &m, const passi::Muovi &p) { return m.Muovi(p.x, p.y), true; }
-    static bool Segui(Modello &m, const passi::Clic &p) { return m.Clic(p.x, p.y); }
-    static bool Segui(Modello &m, const passi::ClicDestro &p) { return m.ClicDestro(p.x, p.y); }
-    static bool Segui(Modello &m, const passi::Trascina &p) { return m.Trascina(p.pixel), true; }
-    static bool Segui(Modello &m, const passi::DoppioClic &) { return m.DoppioClic(), true; }
-    static bool Segui(Modello &m, const passi::Rotella &p) { return m.Rotella(p.passi), true; }
-    static bool Segui(Modello &m, const passi::Larghezza &p) {
-        return m.Ridimensionata(p.twip), true;
-    }
-    static bool Segui(Modello &m, const passi::Esc &) { return m.Esc(), true; }
-    static bool Segui(Modello &, const passi::Lettera &) { return true; }
-    static bool Segui(Modello &m, const passi::Risposta &p) { return m.Invio(p.testo), true; }
-    static bool Segui(Modello &m, const passi::Tipo &p) { return m.ScegliTipo(p.tipo), true; }
-    static bool Segui(Modello &m, const passi::Mostra &p) {
-        return m.Mostra(static_cast<int>(p.filtro)), true;
-    }
-    static bool Segui(Modello &m, const passi::Tutto &p) {
-        return m.Tutto(static_cast<int>(p.asse)), true;
-    }
-    static bool Segui(Modello &m, const passi::Intervallo &p) {
-        return m.Intervallo(static_cast<int>(p.estremo), p.testo, p.invio), true;
-    }
-    static bool Segui(Modello &m, const passi::Angolo &p) {
-        return m.Angolo(static_cast<int>(p.asse), p.testo, p.invio), true;
-    }
-    static bool Segui(Modello &m, const passi::Trappola &p) {
-        if (p.applica) m.Trappola(p.testo);
-        return true;
-    }
-    static bool Regole(Modello &m, const PassoCasuale &passo) {
-        return std::visit([&](const auto &p) { return Segui(m, p); }, passo);
-    }
-
-    // A pan goes by whole pixels of what is shown now.
-    static PassoCasuale AlPixel(const Modello &m, PassoCasuale passo) {
-        const auto sposta = [&](auto &p) {
-            if constexpr (requires { p.x; }) {
-                const Punto q = m.AlPixel(p.x, p.y);
-                p.x = q.x;
-                p.y = q.y;
-            }
-        };
-        std::visit(sposta, passo);
-        return passo;
-    }
 
     void Misura(Modello &m) const {
         m.largo = d.LarghezzaPixel();
@@ -226,7 +153,7 @@ struct SequenzeProva : Utente {
         m.messaggi.clear();
         ConfrontaFinestra(c, "FinestraZoom", FinestraZoom, m.zoom);
         ConfrontaFinestra(c, "FinestraVista", FinestraVista, m.vista);
-        ConfrontaScala(c, d, m);
+        ConfrontaScala(c, d, m.scala);
         return c.Differenze();
     }
 
@@ -245,13 +172,14 @@ struct SequenzeProva : Utente {
     // One step in both; what differs then.
     std::string Confronta(Modello &m, const PassoCasuale &passo) {
         try {
-            std::visit([this](const auto &p) { Fai(p); }, passo);
+            passo.programma(*this);
+            if (FormOpt.Mostrata()) FormOpt.KeyUp(kEsc);
         } catch (const std::logic_error &impossibile) {
             return impossibile.what();
         }
         if (Finito()) return "the end: " + ::testing::PrintToString(messaggi);
         Misura(m);
-        Regole(m, passo);
+        passo.regole(m);
         return Differenze(m);
     }
 
@@ -276,18 +204,17 @@ struct SequenzeProva : Utente {
         m.Avvio(inizio.ingresso);
         std::string diverso = Differenze(m);
         for (std::size_t n = 0; diverso.empty() && (n < passi.size() || nuovi-- > 0);) {
-            if (n == passi.size())
-                passi.push_back(n == 0 ? passi::Larghezza{5550} : caso->Passo(m));
-            const PassoCasuale passo = AlPixel(m, passi[n]);
+            if (n == passi.size()) passi.push_back(n == 0 ? kPiccola : caso->Passo(m));
             Modello prova = m;
-            if (!Regole(prova, passo) || prova.dubbio) {
+            passi[n].regole(prova);
+            if (prova.salta) {
                 passi.erase(passi.begin() + static_cast<long>(n));
                 continue;
             }
-            diverso = Confronta(m, passo);
+            diverso = Confronta(m, passi[n]);
             if (diverso.empty()) Imprimi();
             ++n;
-            if (!diverso.empty()) passi.resize(n);
+            if (!diverso.empty()) passi.erase(passi.begin() + static_cast<long>(n), passi.end());
         }
         return diverso.empty() ? ConfrontaUscita(m) : diverso;
     }
@@ -329,12 +256,10 @@ TEST_F(SequenzeProva, ComeLeRegole) {
         const std::string diverso = Gioca(inizio, passi, &caso, ambiente("TELVA_PASSI", 250));
         if (diverso.empty()) continue;
         FAIL() << "seed " << seme << "\n"
-               << Accorcia(inizio, passi, diverso)
-               << "\nThe job (its settings are those of Installa):\n"
-               << Dichiarazione(inizio.lavoro) << "TelvaIn.txt:\n"
-               << Leggi("lavori/prova1/TelvaIn.txt") << "custom/TelOpInt.txt:\n"
-               << Leggi("custom/TelOpInt.txt") << "custom/TelOpzio.txt:\n"
-               << Leggi("custom/TelOpzio.txt");
+               << Accorcia(inizio, passi, diverso) << "\nThe job is Apri(Caso(" << seme
+               << ").Lavoro()), with this list handed in: \"" << inizio.ingresso.lista
+               << "\", kind " << inizio.ingresso.tipo << "\n"
+               << inizio.lavoro.Struttura();
     }
     if (impronta != 0) std::cout << "impronta " << std::hex << impronta << "\n";
 }

@@ -3,22 +3,6 @@
 #include <sstream>
 
 namespace telva::prove {
-namespace {
-
-template <class T>
-std::string Elenco(const std::vector<T> &voci, const auto &scrivi) {
-    std::ostringstream s;
-    s << "{";
-    for (const T &v : voci) {
-        s << (&v == voci.data() ? "" : ", ");
-        scrivi(s, v);
-    }
-    s << "}";
-    return s.str();
-}
-
-} // namespace
-
 std::string LavoroProva::Struttura() const {
     std::ostringstream s;
     s.precision(15); // far from the origin every digit counts
@@ -69,61 +53,6 @@ LavoroProva Telaio() {
     l.spessori = {{3, 20}, {4, 0.5}};
     l.sezioni = {1, 2};
     return l;
-}
-
-std::string Dichiarazione(const LavoroProva &l) {
-    std::ostringstream s;
-    s.precision(17);
-    s << "LavoroProva l;\n"
-      << "l.punti = "
-      << Elenco(l.punti,
-                [](auto &o, const auto &p) {
-                    o.precision(17);
-                    o << "{" << p[0] << ", " << p[1] << ", " << p[2] << "}";
-                })
-      << ";\n"
-      << "l.nodi = "
-      << Elenco(l.nodi,
-                [](auto &o, const LavoroProva::Nodo &n) {
-                    o << "\n    {.punto = " << n.punto << ", .nome = " << n.nome
-                      << ", .colore = " << n.colore << ", .tipo = " << n.tipo
-                      << ", .vincolo = " << n.vincolo << "}";
-                })
-      << ";\n"
-      << "l.aste = "
-      << Elenco(l.aste,
-                [](auto &o, const LavoroProva::Asta &a) {
-                    o << "\n    {.i = " << a.i << ", .j = " << a.j << ", .nome = " << a.nome
-                      << ", .colore = " << a.colore << ", .tipo = " << a.tipo
-                      << ", .sezione = " << a.sezione << ", .svincolo = " << a.svincolo
-                      << ", .orientamento = " << a.orientamento << "}";
-                })
-      << ";\n"
-      << "l.gusci = "
-      << Elenco(l.gusci,
-                [](auto &o, const LavoroProva::Guscio &g) {
-                    o << "\n    {.nodi = {" << g.nodi[0] << ", " << g.nodi[1] << ", " << g.nodi[2]
-                      << ", " << g.nodi[3] << "}, .nome = " << g.nome << ", .colore = " << g.colore
-                      << ", .tratto = " << g.tratto << ", .spessore = " << g.spessore << "}";
-                })
-      << ";\n"
-      << "l.elementi = "
-      << Elenco(l.elementi,
-                [](auto &o, const LavoroProva::ElCont &e) {
-                    o << "\n    {.numero = " << e.numero << ", .nome = \"" << e.nome
-                      << "\", .aste = " << Elenco(e.aste, [](auto &p, int asta) { p << asta; })
-                      << "}";
-                })
-      << ";\n"
-      << "l.spessori = "
-      << Elenco(l.spessori,
-                [](auto &o, const LavoroProva::Spessore &c) {
-                    o << "{.materiale = " << c.materiale << ", .valore = " << c.valore << "}";
-                })
-      << ";\n"
-      << "l.sezioni = " << Elenco(l.sezioni, [](auto &o, int materiale) { o << materiale; })
-      << ";\n";
-    return s.str();
 }
 
 } // namespace telva::prove

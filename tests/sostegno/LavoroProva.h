@@ -44,7 +44,4 @@ struct LavoroProva {
 // 1,2; 20: bars 3,4), sections 1..2, thicknesses 1..2. Colours, cards and types differ.
 LavoroProva Telaio();
 
-// The whole job as the C++ lines that make it again in a test.
-std::string Dichiarazione(const LavoroProva &l);
-
 } // namespace telva::prove

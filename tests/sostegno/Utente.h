@@ -18,7 +18,7 @@ enum class Filtro { Nodi, Aste, Gusci, Selezionati, NonSelezionati };
 enum class Asse { X, Y, Z };
 
 class Utente : public Banco {
-  protected:
+  public:
     // --- steps; one that nobody could do (a disabled item) fails the test
     void Menu(const std::string &voce); // by the name of the item
     void Barra(const std::string &chiave);
