@@ -8,7 +8,7 @@
 
 namespace telva {
 
-// Places in Opzioni.
+// Places in Opzioni. Pixels are those of a window at 100 %.
 enum Opzione {
     kOpzNascondiSottili = 0, // 1 = shells thinner than kOpzSpessoreMinimo are not drawn
     kOpzSpessoreMinimo = 1,  // cm
@@ -31,7 +31,7 @@ enum Opzione {
 };
 
 extern Tabella<Valore, 30> Opzioni;
-// 1 = pick aperture (pixels); 2, 3 = axis length and letter size (pixels); 5 = axis colour code.
+// 1 = pick aperture; 2, 3 = axis length and letter size (pixels at 100 %); 5 = axis colour code.
 extern Tabella<double, 6> OpzInt;
 
 // The entry as a number (a text by its leading number, nothing as 0); equal to 1.

@@ -12,6 +12,7 @@ namespace {
 constexpr double kLimitePixel = 1 << 28;
 
 constexpr double kScartoEvento = 1.0 / 64; // pixels
+constexpr double kDpiNormale = 96;         // of a window at 100 %
 
 double PerEvento(double v, double scala) {
     if (!(std::abs(v) <= std::numeric_limits<float>::max())) return v;
@@ -50,6 +51,13 @@ double RiquadroDisegno::XEvento(double x) const { return PerEvento(x, scalaX_); 
 double RiquadroDisegno::YEvento(double y) const { return PerEvento(y, scalaY_); }
 
 double RiquadroDisegno::UnitaPerPixel() const { return std::abs(1 / scalaX_); }
+
+double RiquadroDisegno::PixelOpzione(double pixel) const {
+    return pixel * (Proprietario()->dpi / kDpiNormale);
+}
+int RiquadroDisegno::PennaOpzione(double pixel) const {
+    return std::clamp(InteroVicino(PixelOpzione(pixel)), 1, Superficie::kPennaMassima);
+}
 
 Pixel RiquadroDisegno::InPixel(double x, double y, bool &fuori) const {
     double px = XPixel(x), py = YPixel(y);
@@ -118,14 +126,16 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
 }
 
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
-                           Tratteggio t) {
+                           const Tratteggio &t) {
     Pixel a, b;
     if (EstremiInPixel(x1, y1, x2, y2, a, b)) Line(a, b, colore, t);
 }
 
-void RiquadroDisegno::Line(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t) {
+void RiquadroDisegno::Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
     const std::uint32_t rgb = APixelRGB(colore);
-    if (DrawWidth > 1)
+    if (DrawWidth > 1 && t.periodo > 1)
+        superficie_.LineaLargaTratteggiata(a, b, DrawWidth, rgb, t);
+    else if (DrawWidth > 1)
         superficie_.LineaLarga(a, b, DrawWidth, rgb);
     else if (t.periodo > 1)
         superficie_.LineaTratteggiata(a, b, rgb, t);

@@ -22,7 +22,7 @@ class RiquadroDisegno : public Controllo {
 
     Proprieta<Puntatore> MousePointer;
     std::uint32_t BackColor = 0;
-    int DrawWidth = 1; // pixels; below 1 counts as 1
+    int DrawWidth = 1; // pixels of the screen; below 1 counts as 1
 
     // button 1 left, 2 right, 4 middle (in MouseMove: the sum of those held); shift bits 1 Shift,
     // 2 Ctrl, 4 Alt; x and y in the user scale, as XEvento and YEvento tell them.
@@ -40,6 +40,10 @@ class RiquadroDisegno : public Controllo {
     int AltezzaPixel() const;
     // Drawing units per pixel of the current scale (positive).
     double UnitaPerPixel() const;
+    // A length that the user gives in pixels, which are those of a window at 100 %, in pixels of
+    // this one; fractions kept. The same as a pen's width: whole, 1..Superficie::kPennaMassima.
+    double PixelOpzione(double pixel) const;
+    int PennaOpzione(double pixel) const;
 
     // Position in pixels, fractions kept; pixel i has its centre at i.
     double XPixel(double x) const { return (x - ScaleLeft) * scalaX_; }
@@ -57,10 +61,11 @@ class RiquadroDisegno : public Controllo {
     // Clears the picture in BackColor, at the present size.
     void Cls();
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore);
-    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore, Tratteggio t);
+    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
+              const Tratteggio &t);
     void Circle(double x, double y, double raggio, std::uint32_t colore);
     // The same between pixels, for places and radii that many shapes share.
-    void Line(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t);
+    void Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t);
     void Circle(Pixel centro, int raggio, std::uint32_t colore);
     // Radius of a circle in whole pixels, at most Superficie::kRaggioMassimo.
     int RaggioInPixel(double raggio) const;

@@ -13,7 +13,7 @@ namespace {
 // Light over dark, to be seen on every colour of the drawing.
 constexpr std::uint32_t kChiaro = 0xFFFFFF;
 constexpr std::uint32_t kScuro = 0x202020;
-constexpr int kBordo = 2;  // pixels of dark on either side
+constexpr int kBordo = 2;  // pixels of dark on either side, at 100 %
 constexpr int kPezzo = 64; // pixels: zones of this length follow a slanting line closely
 
 // A segment cut to where a pen of this reach can light a pixel of the picture; false when nowhere.
@@ -44,23 +44,22 @@ bool Ritaglia(double (&p)[4], double portata, int larghezza, int altezza) {
 // One stroke of what is shown over the picture: a segment, or a circle around `a`.
 struct RiquadroDisegno::TrattoElastico {
     Pixel a = {}, b = {};
-    int spessore = 1;          // of the light line
-    bool tratteggiato = false; // dashes, on a band that is dark all along
-    int raggio = -1;           // of a circle
+    int spessore = 1, bordo = kBordo; // of the light line, and of the dark on either side
+    Tratteggio tratti = {};           // of the light line; the band is dark all along
+    int raggio = -1;                  // of a circle
 
-    int Portata() const { return spessore / 2 + kBordo + 1 + std::max(raggio, 0); }
+    int Portata() const { return spessore / 2 + bordo + 1 + std::max(raggio, 0); }
 
     void DisegnaScuro(Superficie &s, Pixel origine) const {
-        const int penna = spessore + 2 * kBordo;
+        const int penna = spessore + 2 * bordo;
         const Pixel da{a.x - origine.x, a.y - origine.y}, fino{b.x - origine.x, b.y - origine.y};
         raggio < 0 ? s.LineaLarga(da, fino, penna, kScuro) : s.Cerchio(da, raggio, penna, kScuro);
     }
     void DisegnaChiaro(Superficie &s, Pixel origine) const {
         const Pixel da{a.x - origine.x, a.y - origine.y}, fino{b.x - origine.x, b.y - origine.y};
         if (raggio >= 0) return s.Cerchio(da, raggio, spessore, kChiaro);
-        if (!tratteggiato && spessore > 1) return s.LineaLarga(da, fino, spessore, kChiaro);
+        if (tratti.periodo == 1 && spessore > 1) return s.LineaLarga(da, fino, spessore, kChiaro);
         const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
-        const Tratteggio tratti = tratteggiato ? Tratteggio{0xFF, 12} : Tratteggio{};
         for (int k = 0; k < spessore; ++k) { // side by side, in the middle
             const int kx = ripida ? k - spessore / 2 : 0, ky = ripida ? 0 : k - spessore / 2;
             s.LineaTratteggiata({da.x + kx, da.y + ky}, {fino.x + kx, fino.y + ky}, kChiaro,
@@ -94,12 +93,13 @@ struct RiquadroDisegno::TrattoElastico {
 
 std::vector<std::vector<RiquadroDisegno::TrattoElastico>> RiquadroDisegno::TrattiElastici() const {
     std::vector<std::vector<TrattoElastico>> tratti(3);
-    const int spessore = std::max(1, InteroVicino(Proprietario()->dpi / 96));
+    const int spessore = PennaOpzione(1), bordo = PennaOpzione(kBordo);
+    const Tratteggio trattini = Tratteggio{0xFF, 12}.Ingrandito(PixelOpzione(1));
     const auto linea = [&](std::size_t dove, double x1, double y1, double x2, double y2,
                            TrattoElastico t) {
         if (EstremiInPixel(x1, y1, x2, y2, t.a, t.b)) tratti[dove].push_back(t);
     };
-    const TrattoElastico piena{.spessore = 2 * spessore};
+    const TrattoElastico piena{.spessore = 2 * spessore, .bordo = bordo};
     for (const Sagoma::Linea &l : Anteprima().linee) linea(0, l.x1, l.y1, l.x2, l.y2, piena);
     for (const Sagoma::Cerchio &c : Anteprima().cerchi) {
         bool fuori = false;
@@ -109,10 +109,11 @@ std::vector<std::vector<RiquadroDisegno::TrattoElastico>> RiquadroDisegno::Tratt
             tratti[0].push_back({.a = centro,
                                  .b = centro,
                                  .spessore = 2 * spessore,
+                                 .bordo = bordo,
                                  .raggio = InteroVicino(raggio)});
     }
     if (Shape.Visible) {
-        const TrattoElastico lato{.spessore = spessore, .tratteggiato = true};
+        const TrattoElastico lato{.spessore = spessore, .bordo = bordo, .tratti = trattini};
         const double x1 = Shape.Left, x2 = x1 + Shape.Width, y1 = Shape.Top, y2 = y1 - Shape.Height;
         linea(1, x1, y1, x2, y1, lato);
         linea(1, x2, y1, x2, y2, lato);
@@ -121,7 +122,7 @@ std::vector<std::vector<RiquadroDisegno::TrattoElastico>> RiquadroDisegno::Tratt
     }
     if (LineSposta.Visible)
         linea(2, LineSposta.X1, LineSposta.Y1, LineSposta.X2, LineSposta.Y2,
-              {.spessore = 2 * spessore, .tratteggiato = true});
+              {.spessore = 2 * spessore, .bordo = bordo, .tratti = trattini});
     return tratti;
 }
 

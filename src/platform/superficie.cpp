@@ -170,11 +170,19 @@ void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
     Percorri(a, b, [=](std::ptrdiff_t posto, int) { pixel[posto] = colore; });
 }
 
-void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio t) {
+Tratteggio Tratteggio::Ingrandito(double quanto) const {
+    Tratteggio t;
+    t.periodo = std::clamp(InteroVicino(periodo * quanto), 1, kPeriodoMassimo);
+    for (int k = 0; k < t.periodo; ++k)
+        t.bit[static_cast<std::size_t>(k)] = bit[static_cast<std::size_t>(k * periodo / t.periodo)];
+    return t;
+}
+
+void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
     Intingi(colore);
     std::uint32_t *pixel = pixel_.data();
-    Percorri(a, b, [=](std::ptrdiff_t posto, int passo) {
-        if ((t.bit >> (passo % t.periodo)) & 1u) pixel[posto] = colore;
+    Percorri(a, b, [pixel, colore, &t](std::ptrdiff_t posto, int passo) {
+        if (t.bit[static_cast<std::size_t>(passo % t.periodo)]) pixel[posto] = colore;
     });
 }
 
@@ -192,24 +200,27 @@ void Tratti::Aggiungi(double x1, double y1, double x2, double y2) {
     Aggiungi({x2, y2, false});
 }
 
-void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {
+void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore, int penna) {
     Pixel da{};
     for (const Tratti::Punto &punto : t.punti) {
         const Pixel a{InteroVicino(x + punto.x), InteroVicino(y + punto.y)};
-        if (!punto.inizio) Linea(da, a, colore);
+        if (!punto.inizio && penna > 1) LineaLarga(da, a, penna, colore);
+        if (!punto.inizio && penna <= 1) Linea(da, a, colore);
         da = a;
     }
 }
 
-void Timbro::Riempi(const Tratti &t, double x, double y) {
+void Timbro::Riempi(const Tratti &t, double x, double y, int penna) {
     pixel.clear();
     if (t.punti.empty()) return;
-    const auto basso = [](double v) { return InteroBasso(v) - 1; };
+    const int margine = penna / 2 + penna; // for the pen and an outline as wide
+    const auto basso = [=](double v) { return InteroBasso(v) - margine; };
+    const auto alto = [=](double v) { return InteroBasso(v) + 2 + margine; };
     const Pixel angolo{basso(t.minX + x), basso(t.minY + y)};
     Superficie foglio;
-    foglio.Ridimensiona(basso(t.maxX + x) + 4 - angolo.x, basso(t.maxY + y) + 4 - angolo.y);
+    foglio.Ridimensiona(alto(t.maxX + x) - angolo.x, alto(t.maxY + y) - angolo.y);
     foglio.Riempi(0);
-    foglio.LineeTratti(t, x - angolo.x, y - angolo.y, 1);
+    foglio.LineeTratti(t, x - angolo.x, y - angolo.y, 1, penna);
     for (int py = 0; py < foglio.Altezza(); ++py)
         for (int px = 0; px < foglio.Larghezza(); ++px)
             if (foglio.Leggi(px, py) != 0) pixel.push_back({px + angolo.x, py + angolo.y});
@@ -217,7 +228,7 @@ void Timbro::Riempi(const Tratti &t, double x, double y) {
     massimo = {angolo.x + foglio.Larghezza() - 1, angolo.y + foglio.Altezza() - 1};
 }
 
-void Timbro::Contorna(const Timbro &altro) {
+void Timbro::Contorna(const Timbro &altro, int spessore) {
     pixel.clear();
     minimo = altro.minimo; // it has a margin
     massimo = altro.massimo;
@@ -229,7 +240,7 @@ void Timbro::Contorna(const Timbro &altro) {
             for (int x = p.x - raggio; x <= p.x + raggio; ++x)
                 foglio.Riga(y - minimo.y)[x - minimo.x] = valore;
     };
-    for (const Pixel &p : altro.pixel) segna(p, 1, 1);
+    for (const Pixel &p : altro.pixel) segna(p, spessore, 1);
     for (const Pixel &p : altro.pixel) segna(p, 0, 0);
     for (int y = 0; y < foglio.Altezza(); ++y)
         for (int x = 0; x < foglio.Larghezza(); ++x)
@@ -364,27 +375,23 @@ bool Superficie::GiaTracciata(Pixel a, Pixel b, int larghezza) {
     return false;
 }
 
+bool Superficie::BandaInVista(Pixel a, Pixel b, int larghezza) const {
+    return std::max(a.x, b.x) >= -larghezza && std::min(a.x, b.x) <= larghezza_ + larghezza &&
+           std::max(a.y, b.y) >= -larghezza && std::min(a.y, b.y) <= altezza_ + larghezza;
+}
+
 // The band between two discs is convex: every row of it is one run, whose ends are the outermost
 // of the two discs and of the two long edges that touch both. Rows between the discs have their
-// ends on the edges alone.
-void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore) {
-    larghezza = std::clamp(larghezza, 1, kPennaMassima);
-    if (std::max(a.x, b.x) < -larghezza || std::min(a.x, b.x) > larghezza_ + larghezza ||
-        std::max(a.y, b.y) < -larghezza || std::min(a.y, b.y) > altezza_ + larghezza)
-        return;
-    Intingi(colore);
+// ends on the edges alone. `a` lies not below `b`; calls riga(first x, last x, y) for the rows of
+// the surface.
+template <class Scrivi>
+void Superficie::PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga) {
     const std::vector<Tratto> &disco = Disco(larghezza);
-    if (a == b) {
-        TimbraForma(disco, a, larghezza, colore);
-        return;
-    }
-    if (a.y > b.y || (a.y == b.y && a.x > b.x)) std::swap(a, b);
-    if (GiaTracciata(a, b, larghezza)) return;
     const Fascia fascia(a, b, larghezza);
     const int sopra = disco.front().y, sotto = disco.back().y;
-    const auto righe = [&](int da, int fino, auto riga) {
+    const auto righe = [&](int da, int fino, auto fai) {
         fino = std::min(fino, altezza_ - 1);
-        for (int y = std::max(da, 0); y <= fino; ++y) riga(y);
+        for (int y = std::max(da, 0); y <= fino; ++y) fai(y);
     };
     const auto capo = [&](int y) { // with a part of one disc or both
         int xDa = INT_MAX, xA = INT_MIN;
@@ -397,13 +404,55 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
         }
         if (fascia.ASinistra(y)) xDa = std::min(xDa, fascia.Sinistra(y));
         if (fascia.ADestra(y)) xA = std::max(xA, fascia.Destra(y));
-        Orizzontale(xDa, xA, y, colore);
+        riga(xDa, xA, y);
     };
     const int finoA = std::min(a.y + sotto, b.y + sotto), daB = std::max(b.y + sopra, finoA + 1);
     righe(a.y + sopra, finoA, capo);
-    righe(finoA + 1, daB - 1,
-          [&](int y) { Orizzontale(fascia.Sinistra(y), fascia.Destra(y), y, colore); });
+    righe(finoA + 1, daB - 1, [&](int y) { riga(fascia.Sinistra(y), fascia.Destra(y), y); });
     righe(daB, b.y + sotto, capo);
+}
+
+void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore) {
+    larghezza = std::clamp(larghezza, 1, kPennaMassima);
+    if (!BandaInVista(a, b, larghezza)) return;
+    Intingi(colore);
+    if (a == b) {
+        TimbraForma(Disco(larghezza), a, larghezza, colore);
+        return;
+    }
+    if (a.y > b.y || (a.y == b.y && a.x > b.x)) std::swap(a, b);
+    if (GiaTracciata(a, b, larghezza)) return;
+    PercorriBanda(a, b, larghezza,
+                  [&](int xDa, int xA, int y) { Orizzontale(xDa, xA, y, colore); });
+}
+
+// The wide line, cut straight across its longer direction where the pattern is dark: its long edges
+// are those of the line without gaps. The round cap before the first pixel belongs to it.
+void Superficie::LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                                        const Tratteggio &t) {
+    larghezza = std::clamp(larghezza, 1, kPennaMassima);
+    if (a == b) return LineaLarga(a, b, larghezza, colore);
+    if (!BandaInVista(a, b, larghezza)) return;
+    Intingi(colore);
+    if (a.y > b.y || (a.y == b.y && a.x > b.x)) std::swap(a, b);
+    const auto fase = [&t](int passo) { return std::max(passo, 0) % t.periodo; };
+    if (b.y - a.y > std::abs(b.x - a.x)) {
+        PercorriBanda(a, b, larghezza, [&](int xDa, int xA, int y) {
+            if (t.bit[static_cast<std::size_t>(fase(y - a.y))]) Orizzontale(xDa, xA, y, colore);
+        });
+        return;
+    }
+    const int inizio = std::min(a.x, b.x);
+    PercorriBanda(a, b, larghezza, [&](int xDa, int xA, int y) {
+        xDa = std::max(xDa, 0);
+        xA = std::min(xA, larghezza_ - 1);
+        std::uint32_t *riga = Scrivibile(y);
+        int f = fase(xDa - inizio);
+        for (int x = xDa; x <= xA; ++x) {
+            if (t.bit[static_cast<std::size_t>(f)]) riga[x] = colore;
+            if (x >= inizio && ++f == t.periodo) f = 0;
+        }
+    });
 }
 
 } // namespace telva

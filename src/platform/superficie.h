@@ -4,6 +4,7 @@
 // lies outside is clipped exactly, so a clipped line lights the same pixels as a whole one.
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -22,10 +23,14 @@ struct ZonaPixel {
     friend bool operator==(const ZonaPixel &, const ZonaPixel &) = default;
 };
 
-// Dash pattern of a width-1 line: bit i of `bit` says whether pixel i of the period is lit.
+// Dash pattern of a line: bit i of `bit` says whether pixel i of the period is lit. Pixels are
+// counted along the line's longer direction, from its left end, or the upper one when it is steep.
 struct Tratteggio {
-    std::uint32_t bit = 1;
-    int periodo = 1; // 1..32
+    static constexpr int kPeriodoMassimo = 256;
+    std::bitset<kPeriodoMassimo> bit = 1;
+    int periodo = 1; // 1..kPeriodoMassimo; 1 = a continuous line
+    // The same with dashes and gaps so many times as long.
+    Tratteggio Ingrandito(double quanto) const;
 };
 
 // Segments in pixels (fractions kept) from an origin; one that begins where the last one ended goes
@@ -47,10 +52,10 @@ struct Tratti {
 struct Timbro {
     std::vector<Pixel> pixel;
     Pixel minimo, massimo;
-    // Of the segments with their origin at (x, y) within one pixel.
-    void Riempi(const Tratti &tratti, double x, double y);
-    // The pixels around those of another, one pixel wide.
-    void Contorna(const Timbro &altro);
+    // Of the segments with their origin at (x, y) within one pixel, drawn with this pen.
+    void Riempi(const Tratti &tratti, double x, double y, int penna = 1);
+    // The pixels around those of another, so many pixels wide: at most as wide as its pen.
+    void Contorna(const Timbro &altro, int spessore = 1);
 };
 
 class Superficie {
@@ -72,13 +77,16 @@ class Superficie {
 
     // Ends included. Coordinates may lie anywhere within +-2^28.
     void Linea(Pixel a, Pixel b, std::uint32_t colore);
-    void LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, Tratteggio tratteggio);
+    void LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &tratteggio);
     // The segments with their origin at (x, y), which lies within +-2^19: each end goes to its
-    // nearest pixel, then as Linea.
-    void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore);
+    // nearest pixel, then as Linea, or as LineaLarga with a wider pen.
+    void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore, int penna = 1);
     void Timbra(const Timbro &timbro, Pixel origine, std::uint32_t colore);
     // Pen of `larghezza` pixels (2..kPennaMassima) with round ends.
     void LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore);
+    // The same with gaps: of its pixels those beside a lit one of the pattern.
+    void LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                                const Tratteggio &tratteggio);
     // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
     void Cerchio(Pixel centro, int raggio, int larghezza, std::uint32_t colore);
 
@@ -102,6 +110,9 @@ class Superficie {
     void Orizzontale(int xDa, int xA, int y, std::uint32_t colore);
     template <class Scrivi>
     void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
+    template <class Scrivi>
+    void PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga);
+    bool BandaInVista(Pixel a, Pixel b, int larghezza) const;
     const std::vector<Tratto> &Disco(int larghezza);
     const std::vector<Tratto> &Anello(int raggio, int larghezza);
     void TimbraForma(const std::vector<Tratto> &forma, Pixel centro, int ingombro,

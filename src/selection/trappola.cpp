@@ -78,7 +78,10 @@ std::int16_t UltimoElCont(double x, double y) {
 
 } // namespace
 
-void CalcolaTrappola() { TrappolaDis = std::abs(OpzInt[1] * FormTelva.Disegno.UnitaPerPixel()); }
+void CalcolaTrappola() {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    TrappolaDis = std::abs(d.PixelOpzione(OpzInt[1]) * d.UnitaPerPixel());
+}
 
 int PickNodo(int i, double x, double y, double &distanza) {
     const double dx = x - XNodo(i), dy = y - YNodo(i);

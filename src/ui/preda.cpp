@@ -57,7 +57,8 @@ void Contorno(TipoElemento tipo, int parte, Sagoma &sagoma) {
         return true;
     });
     if (nodi.size() == 1)
-        sagoma.cerchi.push_back({XNodo(nodi[0]), YNodo(nodi[0]), OpzioneNumero(kOpzRaggioNodo)});
+        sagoma.cerchi.push_back({XNodo(nodi[0]), YNodo(nodi[0]),
+                                 FormTelva.Disegno.PixelOpzione(OpzioneNumero(kOpzRaggioNodo))});
     const std::size_t lati = nodi.size() > 2 ? nodi.size() : nodi.size() - 1;
     for (std::size_t k = 0; k < lati; ++k) {
         const int a = nodi[k], z = nodi[(k + 1) % nodi.size()];

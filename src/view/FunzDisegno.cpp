@@ -11,6 +11,7 @@
 #include "view/posti.h"
 #include "view/proiezione.h"
 #include "view/retini.h"
+#include "view/tratti.h"
 #include "view/visibile.h"
 
 #include <algorithm>
@@ -20,33 +21,37 @@
 namespace telva {
 namespace {
 
+// Width of a pen in pixels at 100 %.
 int Penna(int opzione) {
     return static_cast<int>(
         std::clamp(ArrotondaPari(OpzioneNumero(opzione)), 1.0, double(Superficie::kPennaMassima)));
 }
 
-// How elements are drawn, from the options, once for a whole picture.
+constexpr int kTipiLinea = 5;
+
+// How elements are drawn, from the options and the window's scale, once for a whole picture.
 struct Stile {
+    const RiquadroDisegno &d = FormTelva.Disegno;
     bool evidenziaSel = OpzioneAttiva(kOpzColoreSel);
     int pennaSel = Penna(kOpzPennaSel), pennaNonSel = Penna(kOpzPennaNonSel);
+    int pixelSel = d.PennaOpzione(pennaSel), pixelNonSel = d.PennaOpzione(pennaNonSel);
+    std::array<Tratteggio, kTipiLinea> tratti;
 
+    Stile() {
+        for (int tipo = 0; tipo < kTipiLinea; ++tipo)
+            tratti[static_cast<std::size_t>(tipo)] = TrattoLinea(tipo, d.PixelOpzione(1));
+    }
     // With the option off the two roles are exchanged on purpose.
     std::uint32_t Colore(bool sel, int codice) const {
         return sel == evidenziaSel ? kColoreEvidenza : ColoreRGB(codice);
     }
-    int Larghezza(bool sel) const { return sel ? pennaSel : pennaNonSel; }
-};
-
-// Dash patterns by line type: continuous, dashed, dotted, dash-dot, dash-dot-dot.
-Tratteggio TrattoLinea(int tipo) {
-    switch (tipo) {
-    case 1: return {0x1FF, 14};
-    case 2: return {0x3, 6};
-    case 3: return {0xC1FF, 20};   // 9 on, 5 off, 2 on, 4 off
-    case 4: return {0x30C1FF, 26}; // the same and once more 2 on, 4 off
-    default: return {};
+    int Larghezza(bool sel) const { return sel ? pixelSel : pixelNonSel; }
+    // Only a pen of one pixel, at whatever scale, shows the line type.
+    const Tratteggio &Tratto(bool sel, int tipo) const {
+        const bool tipizzata = (sel ? pennaSel : pennaNonSel) == 1 && tipo > 0 && tipo < kTipiLinea;
+        return tratti[tipizzata ? static_cast<std::size_t>(tipo) : 0];
     }
-}
+};
 
 // Bars of selected continuous elements are drawn as selected.
 std::vector<bool> AsteEvidenziate() {
@@ -83,7 +88,7 @@ void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
     const auto disegna = [&](int b, bool sel) {
         d.DrawWidth = stile.Larghezza(sel);
         posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
-                    TrattoLinea(TipoLinAsta[b]));
+                    stile.Tratto(sel, TipoLinAsta[b]));
     };
     SelezionatiPerUltimi(
         NumAste, AstaDisegnata, [&](int b) { return evidenziate[static_cast<std::size_t>(b)]; },
@@ -107,7 +112,8 @@ void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
 
 void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
-    const int raggio = d.RaggioInPixel(OpzioneNumero(kOpzRaggioNodo) * d.UnitaPerPixel());
+    const int raggio =
+        d.RaggioInPixel(d.PixelOpzione(OpzioneNumero(kOpzRaggioNodo)) * d.UnitaPerPixel());
     const auto disegna = [&](int i, bool sel) {
         const std::optional<Pixel> centro = posti.Posto(i);
         if (!centro) return; // far outside

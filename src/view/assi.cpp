@@ -13,14 +13,14 @@
 namespace telva {
 namespace {
 
-constexpr double kMarginePixel = 8;
+constexpr double kMarginePixel = 8;     // at 100 %
 constexpr double kStaccoLettera = 1.15; // letters stand a little beyond the end of their axis
 
 } // namespace
 
 void DisegnaAssi() {
     RiquadroDisegno &d = FormTelva.Disegno;
-    const double unita = d.UnitaPerPixel();
+    const double unita = d.UnitaPerPixel() * d.PixelOpzione(1);
     const double lunghezza = std::abs(OpzInt[2] * unita);
     const double lettera = std::abs(OpzInt[3] * unita);
     const Direzione *assi[3] = {&DirAsseX, &DirAsseY, &DirAsseZ};
@@ -34,7 +34,7 @@ void DisegnaAssi() {
     const double ox = d.ScaleLeft - sinistra + bordo;
     const double oy = d.ScaleTop + d.ScaleHeight - basso + bordo;
     const std::int16_t colore = CodiceDaNumero(OpzInt[5]);
-    d.DrawWidth = 1;
+    d.DrawWidth = d.PennaOpzione(1);
     static constexpr const char *kLettere[3] = {"X", "Y", "Z"};
     for (int k = 0; k < 3; ++k) {
         const double fx = assi[k]->x * lunghezza, fy = assi[k]->y * lunghezza;

@@ -27,7 +27,7 @@ void Parte(std::string &etichetta, int opzione, char lettera, int numero) {
     etichetta += TestoNumero(numero);
 }
 
-constexpr double kPixelLeggibili = 6; // height from which a text can be read
+constexpr double kPixelLeggibili = 6; // height from which a text can be read, at 100 %
 
 // Text size, distance and colour of a picture's labels, and what part of it is visible.
 struct Scrittura {
@@ -37,7 +37,7 @@ struct Scrittura {
     double distanza = OpzioneNumero(kOpzDistanzaTesto);
     std::int16_t colore = CodiceDaNumero(OpzioneNumero(kOpzColoreTesto));
     // Outlines are for reading: around texts too small for that they would only rub out the bars.
-    bool leggibile = std::abs(altezza) >= kPixelLeggibili * d.UnitaPerPixel();
+    bool leggibile = std::abs(altezza) >= d.PixelOpzione(kPixelLeggibili) * d.UnitaPerPixel();
 
     // Room that a text of n characters may take up around (x, y), in any direction.
     bool InVista(double x, double y, std::size_t n) const {
@@ -201,7 +201,7 @@ void EtichetteAste(const Scrittura &s) {
 
 void EtichetteNodi(const Scrittura &s) {
     if (!OpzioneAttiva(kOpzTestiNodi)) return;
-    const double raggio = OpzioneNumero(kOpzRaggioNodo) * s.d.UnitaPerPixel();
+    const double raggio = s.d.PixelOpzione(OpzioneNumero(kOpzRaggioNodo)) * s.d.UnitaPerPixel();
     const double scarto = (raggio + s.distanza) * std::sqrt(0.5);
     const AngoliNodi angoli(scarto, kCaratteriNodo * s.base, s.altezza);
     for (int i = 0; i < NumNodi; ++i) {
@@ -247,7 +247,7 @@ std::string EtichettaElCont(int k) {
 void DisegnaEtichette() {
     const Scrittura s;
     if (s.base == 0 || s.altezza == 0) return;
-    s.d.DrawWidth = 1;
+    s.d.DrawWidth = s.d.PennaOpzione(1);
     EtichetteElCont(s);
     EtichetteGusci(s);
     EtichetteAste(s);

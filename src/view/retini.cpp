@@ -17,6 +17,12 @@ namespace {
 // `punti` > 0 draws dots that far apart instead, every second row shifted by half.
 struct Fascio {
     int a, b, passo, punti = 0;
+    int penna = 1, punto = 2; // width of a line; length of a dot
+
+    Fascio Ingrandito(double quanto) const {
+        const auto pixel = [=](int n) { return std::max(InteroVicino(n * quanto), 1); };
+        return {a, b, pixel(passo), punti == 0 ? 0 : pixel(punti), pixel(penna), pixel(punto)};
+    }
 };
 
 struct Retino {
@@ -37,7 +43,9 @@ constexpr std::array<Retino, 9> kRetini = {{
     {1, {{0, 1, 8, 12}}},           // dotted
 }};
 
-constexpr int kLatoMinimo = 12; // pixels; below this a hatch would only fill the shell
+bool HaRetino(int tipo) { return tipo > 0 && tipo < static_cast<int>(kRetini.size()); }
+
+constexpr int kLatoMinimo = 12; // pixels at 100 %; below this a hatch would only fill the shell
 
 // Corners within +-2^28, so that the values of a family's lines there, and their differences, keep
 // within 32 bits.
@@ -69,18 +77,17 @@ std::size_t Incontri(const Poligono &p, const Fascio &f, int c, std::array<doubl
 
 // The pixels da..a of the line a*x + b*y = c, along x or, for upright lines, along y.
 void DisegnaTratto(Superficie &s, const Fascio &f, int c, int da, int a, std::uint32_t rgb) {
-    if (f.b == 0) {
-        s.Linea({c, da}, {c, a}, rgb);
-        return;
-    }
+    const auto linea = [&](Pixel p, Pixel q) {
+        f.penna > 1 ? s.LineaLarga(p, q, f.penna, rgb) : s.Linea(p, q, rgb);
+    };
+    if (f.b == 0) return linea({c, da}, {c, a});
     const auto y = [&](int x) { return (c - f.a * x) * f.b; }; // b is 1 or -1
-    if (f.punti == 0) {
-        s.Linea({da, y(da)}, {a, y(a)}, rgb);
-        return;
-    }
+    if (f.punti == 0) return linea({da, y(da)}, {a, y(a)});
     const int fase = c / f.passo % 2 == 0 ? 0 : f.punti / 2;
-    for (int x = da + ((fase - da) % f.punti + f.punti) % f.punti; x < a; x += f.punti)
-        s.Linea({x, c}, {x + 1, c}, rgb);
+    const int prima = f.penna / 2, dopo = f.punto - 1 - (f.penna - 1) / 2; // the pen has round ends
+    for (int x = da + ((fase - da) % f.punti + f.punti) % f.punti; x + f.punto - 1 <= a;
+         x += f.punti)
+        linea({x + prima, c}, {x + dopo, c});
 }
 
 void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rgb) {
@@ -109,25 +116,36 @@ void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rg
 
 } // namespace
 
+void RiempiRetino(Superficie &s, std::span<const Pixel> angoli, int tipo, std::uint32_t rgb,
+                  double quanto) {
+    if (!HaRetino(tipo)) return;
+    Poligono p;
+    p.numero = std::min(angoli.size(), p.vertici.size());
+    std::copy_n(angoli.begin(), p.numero, p.vertici.begin());
+    const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
+    for (int k = 0; k < retino.numero; ++k)
+        DisegnaFascio(s, p, retino.fasci[k].Ingrandito(quanto), rgb);
+}
+
 void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
     const int tipo = TrattGuscio[guscio];
-    if (tipo < 1 || tipo > 8) return;
-    Poligono p;
-    p.numero = static_cast<std::size_t>(NumeroAngoli(guscio));
+    if (!HaRetino(tipo)) return;
+    std::array<Pixel, 4> angoli;
+    const auto quanti = static_cast<std::size_t>(NumeroAngoli(guscio));
     int minX = INT32_MAX, maxX = INT32_MIN, minY = INT32_MAX, maxY = INT32_MIN;
-    for (std::size_t c = 0; c < p.numero; ++c) {
+    for (std::size_t c = 0; c < quanti; ++c) {
         const std::optional<Pixel> posto = posti.Posto(NodiGuscio[guscio][c]);
         if (!posto) return;
-        const Pixel v = p.vertici[c] = *posto;
+        const Pixel v = angoli[c] = *posto;
         minX = std::min(minX, v.x), maxX = std::max(maxX, v.x);
         minY = std::min(minY, v.y), maxY = std::max(maxY, v.y);
     }
-    Superficie &s = FormTelva.Disegno.Immagine();
-    if (std::min(maxX - minX, maxY - minY) < kLatoMinimo || maxX < 0 || maxY < 0 ||
+    RiquadroDisegno &d = FormTelva.Disegno;
+    Superficie &s = d.Immagine();
+    if (std::min(maxX - minX, maxY - minY) < d.PixelOpzione(kLatoMinimo) || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
-    const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
-    for (int k = 0; k < retino.numero; ++k) DisegnaFascio(s, p, retino.fasci[k], APixelRGB(colore));
+    RiempiRetino(s, std::span(angoli).first(quanti), tipo, APixelRGB(colore), d.PixelOpzione(1));
 }
 
 } // namespace telva

@@ -106,7 +106,9 @@ class CaratteriInScala {
 
     void Disegna(Passata passata, int codice, const Misura &misura, double x, double y,
                  std::uint32_t colore, RiquadroDisegno &d) {
-        const Chiave chiave{misura, d.ScalaX(), d.ScalaY(), RevisioneFont};
+        const int penna = std::max(d.DrawWidth, 1);
+        const Chiave chiave{misura, d.ScalaX(),   d.ScalaY(), d.PixelOpzione(kGrande),
+                            penna,  RevisioneFont};
         if (!(chiave_ == chiave)) {
             chiave_ = chiave;
             pronti_.fill(false);
@@ -116,9 +118,8 @@ class CaratteriInScala {
         const int ix = InteroVicino(d.XPixel(x) * kFrazioni);
         const int iy = InteroVicino(d.YPixel(y) * kFrazioni);
         const bool vicino = ix > -kLontano && ix < kLontano && iy > -kLontano && iy < kLontano;
-        if (!c.piccolo || d.DrawWidth > 1 || !vicino) {
-            const int penna = d.DrawWidth;
-            d.DrawWidth = passata == Passata::Contorno ? penna + 2 : penna;
+        if (!c.piccolo || !vicino) {
+            d.DrawWidth = passata == Passata::Contorno ? 3 * penna : penna;
             d.LineeTratti(c.tratti, x, y, colore);
             d.DrawWidth = penna;
             return;
@@ -126,24 +127,25 @@ class CaratteriInScala {
         const int fx = ix & (kFrazioni - 1), fy = iy & (kFrazioni - 1);
         const auto forma = static_cast<std::size_t>(fy * kFrazioni + fx);
         if (!c.fatti[forma]) {
-            c.timbri[forma].Riempi(c.tratti, double(fx) / kFrazioni, double(fy) / kFrazioni);
+            c.timbri[forma].Riempi(c.tratti, double(fx) / kFrazioni, double(fy) / kFrazioni, penna);
             c.fatti[forma] = true;
         }
         const Pixel origine{(ix - fx) / kFrazioni, (iy - fy) / kFrazioni};
         if (passata == Passata::Segno) return d.Timbra(c.timbri[forma], origine, colore);
-        if (c.contorni[forma].pixel.empty()) c.contorni[forma].Contorna(c.timbri[forma]);
+        if (c.contorni[forma].pixel.empty()) c.contorni[forma].Contorna(c.timbri[forma], penna);
         d.Timbra(c.contorni[forma], origine, colore);
     }
 
   private:
     static constexpr int kFrazioni = 4;
     static constexpr int kLontano = 1 << 24;
-    static constexpr double kGrande = 64;
+    static constexpr double kGrande = 64; // pixels at 100 %
 
     struct Chiave {
         Misura misura{0, 0, 0};
         double scalaX = 0, scalaY = 0;
-        int revisione = -1;
+        double grande = 0; // pixels from which a glyph is drawn stroke by stroke
+        int penna = 0, revisione = -1;
         friend bool operator==(const Chiave &, const Chiave &) = default;
     };
     struct Carattere {
@@ -170,8 +172,9 @@ class CaratteriInScala {
                               y2 * chiave_.scalaY);
         }
         const Tratti &t = c.tratti; // small, and not far from its origin
-        c.piccolo = t.maxX - t.minX < kGrande && t.maxY - t.minY < kGrande &&
-                    std::max({-t.minX, t.maxX, -t.minY, t.maxY}) < 2 * kGrande;
+        const double grande = chiave_.grande;
+        c.piccolo = t.maxX - t.minX < grande && t.maxY - t.minY < grande &&
+                    std::max({-t.minX, t.maxX, -t.minY, t.maxY}) < 2 * grande;
         return c;
     }
 

@@ -48,7 +48,7 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
               double altezza, std::optional<std::int16_t> colore = {},
               RiquadroDisegno *bersaglio = nullptr);
 
-// DisTesto on a target, with a black outline of one pixel: it reads over anything.
+// DisTesto on a target, with a black outline as wide as its pen: it reads over anything.
 void DisTestoContornato(std::string_view testo, double x, double y, std::int16_t angolo,
                         double base, double altezza, std::int16_t colore,
                         RiquadroDisegno &bersaglio);

@@ -83,6 +83,7 @@ void Impila(Superficie &pila, const Superficie &s) {
 
 struct Immagini : Banco {
     RiquadroDisegno &d = FormTelva.Disegno;
+    ~Immagini() override { FormTelva.dpi = 96; }
 
     void Misura(int larghezza, int altezza) {
         d.Width = larghezza * kTwipPerPixel;
@@ -264,6 +265,35 @@ TEST_F(Immagini, Etichette) {
         Confronta(g.nome);
         Opzioni[g.opzione] = 0.0;
     }
+}
+
+// A window at 200 %: pens, dashes, hatches, letters and axes are twice as large on the screen.
+TEST_F(Immagini, TrattiERetiniAl200) {
+    Foglio f;
+    for (int k = 0; k < 4; ++k) {
+        f.Linea(10, 10 + 10 * k, 90, 20 + 10 * k, 1, k + 1);
+        f.Linea(100 + 8 * k, 10, 104 + 8 * k, 60, 5, k + 1);
+        f.Quadrilatero(10 + 40 * k, 70, 36, 2 * k + 1, 4);
+        f.Quadrilatero(10 + 40 * k, 112, 36, 2 * k + 2, 7);
+        f.NodoVisibile(150, 12 + 15 * k, 3);
+    }
+    FormTelva.dpi = 192;
+    ApriFoglio(f, 170, 155);
+    Opzioni[kOpzRaggioNodo] = 4.0;
+    Confronta("tratti_retini_200");
+}
+
+TEST_F(Immagini, EtichetteEAssiAl200) {
+    FormTelva.dpi = 192;
+    ApriTelaio();
+    Misura(150, 140);
+    FormTelva.VisAssi.Checked = true;
+    Opzioni[kOpzTestiAste] = 1.0;
+    for (int parte : {1, 2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
+    Opzioni[kOpzBaseTesto] = 9.0;
+    Opzioni[kOpzAltezzaTesto] = 11.0;
+    Adatta();
+    Confronta("etichette_assi_200");
 }
 
 // So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke.

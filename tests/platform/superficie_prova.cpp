@@ -11,8 +11,8 @@ namespace {
 constexpr std::uint32_t kColore = 7;
 constexpr int kMargine = 100; // around the part that is compared with the whole
 
-enum class Genere { Linea, Tratteggiata, Larga, Cerchio };
-constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "circle"};
+enum class Genere { Linea, Tratteggiata, Larga, LargaTratteggiata, Cerchio };
+constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "wide dashed line", "circle"};
 
 struct Forma {
     Genere genere;
@@ -27,6 +27,9 @@ struct Forma {
         case Genere::Linea: s.Linea(da, fino, kColore); break;
         case Genere::Tratteggiata: s.LineaTratteggiata(da, fino, kColore, tratteggio); break;
         case Genere::Larga: s.LineaLarga(da, fino, penna, kColore); break;
+        case Genere::LargaTratteggiata:
+            s.LineaLargaTratteggiata(da, fino, penna, kColore, tratteggio);
+            break;
         case Genere::Cerchio: s.Cerchio(da, raggio, penna, kColore); break;
         }
     }
@@ -112,8 +115,8 @@ struct SuperficieProva : ::testing::Test {
 TEST_F(SuperficieProva, UnaFormaRitagliataAccendeGliStessiPixelDiQuellaIntera) {
     Superficie parte, intera;
     intera.Ridimensiona(40 + 2 * kMargine, 40 + 2 * kMargine);
-    for (const Genere genere :
-         {Genere::Linea, Genere::Tratteggiata, Genere::Larga, Genere::Cerchio})
+    for (const Genere genere : {Genere::Linea, Genere::Tratteggiata, Genere::Larga,
+                                Genere::LargaTratteggiata, Genere::Cerchio})
         for (int giro = 0; giro < 1000; ++giro) {
             const Forma f = FormaACaso(genere);
             parte.Ridimensiona(Fra(1, 40), Fra(1, 40));
@@ -129,7 +132,8 @@ TEST_F(SuperficieProva, UnaLineaELaStessaDallAltroCapo) {
     Superficie s, rovescia;
     s.Ridimensiona(40, 40);
     rovescia.Ridimensiona(40, 40);
-    for (const Genere genere : {Genere::Linea, Genere::Tratteggiata, Genere::Larga})
+    for (const Genere genere :
+         {Genere::Linea, Genere::Tratteggiata, Genere::Larga, Genere::LargaTratteggiata})
         for (int giro = 0; giro < 500; ++giro) {
             const Forma f = FormaACaso(genere);
             f.Disegna(s);
@@ -164,6 +168,25 @@ TEST_F(SuperficieProva, AncheConGliEstremiLontanissimi) {
             f.Disegna(s);
             ASSERT_TRUE(SecondoDefinizione(s, f));
         }
+}
+
+TEST_F(SuperficieProva, UnaLineaLargaTratteggiataEQuellaLargaColTrattoDellaSottile) {
+    Superficie tratteggiata, larga;
+    tratteggiata.Ridimensiona(40, 33);
+    larga.Ridimensiona(40, 33);
+    for (int giro = 0; giro < 1000; ++giro) {
+        const Forma f = FormaACaso(Genere::LargaTratteggiata);
+        f.Disegna(tratteggiata);
+        larga.Riempi(0);
+        larga.LineaLarga(f.a, f.b, f.penna, kColore);
+        const bool ripida = std::abs(f.b.y - f.a.y) > std::abs(f.b.x - f.a.x);
+        ASSERT_TRUE(OgniPixel(tratteggiata, f, [&](Pixel p, bool acceso) {
+            const int passo = ripida ? p.y - std::min(f.a.y, f.b.y) : p.x - std::min(f.a.x, f.b.x);
+            const int bit = std::max(passo, 0) % f.tratteggio.periodo;
+            const bool tratto = f.a == f.b || f.tratteggio.bit[static_cast<std::size_t>(bit)];
+            return acceso == (tratto && larga.Leggi(p.x, p.y) == kColore);
+        }));
+    }
 }
 
 TEST_F(SuperficieProva, IlTrattoComincaDalCapoASinistraOInAlto) {
@@ -202,14 +225,15 @@ TEST_F(SuperficieProva, UnaLetteraTimbrataEQuellaTracciata) {
         }
         const Pixel origine{Fra(-30, 70), Fra(-30, 70)};
         const double fx = Fra(0, 3) / 4.0, fy = Fra(0, 3) / 4.0;
+        const int penna = Fra(1, 4);
         for (Superficie *s : {&timbrata, &tracciata}) {
             s->Ridimensiona(50, 50);
             s->Riempi(0);
         }
         Timbro timbro;
-        timbro.Riempi(lettera, fx, fy);
+        timbro.Riempi(lettera, fx, fy, penna);
         timbrata.Timbra(timbro, origine, kColore);
-        tracciata.LineeTratti(lettera, origine.x + fx, origine.y + fy, kColore);
+        tracciata.LineeTratti(lettera, origine.x + fx, origine.y + fy, kColore, penna);
         for (int y1 = 0; y1 < 50; ++y1)
             for (int x1 = 0; x1 < 50; ++x1)
                 ASSERT_EQ(timbrata.Leggi(x1, y1), tracciata.Leggi(x1, y1))
