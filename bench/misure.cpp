@@ -163,6 +163,7 @@ class Banco {
     void Ridisegni() const;
     void Selezioni() const;
     void Puntatore() const;
+    void Anteprime() const;
     void Elastici() const;
     void Mezzo() const;
 
@@ -260,16 +261,35 @@ void Banco::Puntatore() const {
     });
 }
 
+// A move of the mouse to a pixel, as the window does it: the event, the line of state, and what
+// stands over the picture then.
+void Muovi(double x, double y) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(x)), static_cast<float>(d.YDaPixel(y)));
+    FormTelva.DopoEvento();
+    d.ComponiElastici(d.ZoneElastici(), [](const Superficie &, const ZonaPixel &) {});
+}
+
+// In direct pick, to and fro over the middle of the picture, where most elements lie.
+void Banco::Anteprime() const {
+    int mossa = 0;
+    for (int tipo = 0; tipo < 4; ++tipo)
+        Misura(
+            std::string("Anteprima/") + kTipi[tipo],
+            [=] {
+                FormTelva.OptElem[tipo].Seleziona();
+                CodSottoFun = kDiretta;
+            },
+            [&] { Muovi(quadro_.larghezza / 2 + ++mossa % 40, quadro_.altezza / 2); });
+}
+
 // A move of the second corner, or of the second point, from one side of the picture to the other.
 void Banco::Elastici() const {
     RiquadroDisegno &d = FormTelva.Disegno;
     int mossa = 0;
     const auto muovi = [&] {
         const int scarto = ++mossa % 2 * 7;
-        Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(quadro_.larghezza - 20 - scarto)),
-                          static_cast<float>(d.YDaPixel(quadro_.altezza - 20 - scarto)));
-        Superficie parte;
-        for (const ZonaPixel &zona : d.ZoneElastici()) d.ComponiElastici(parte, zona);
+        Muovi(quadro_.larghezza - 20 - scarto, quadro_.altezza - 20 - scarto);
     };
     const auto premi = [&] {
         Disegno_MouseDown(1, 0, static_cast<float>(d.XDaPixel(10)),
@@ -384,6 +404,7 @@ int main(int numero, char **parole) {
             banco.Selezioni();
             banco.Puntatore();
         }
+        banco.Anteprime();
         banco.Elastici();
         banco.Mezzo();
     }

@@ -7,6 +7,7 @@
 #include "platform/superficie.h"
 
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace telva {
@@ -92,7 +93,9 @@ class RiquadroDisegno : public Controllo {
     bool ElasticiVisibili() const;
     // The zones of the picture that hold all their pixels; few and small.
     std::vector<ZonaPixel> ZoneElastici() const;
-    // A zone of the picture with them over it, as it is shown.
+    // Each zone of the picture with them over it, as it is shown.
+    using MostraParte = std::function<void(const Superficie &parte, const ZonaPixel &zona)>;
+    void ComponiElastici(std::span<const ZonaPixel> zone, const MostraParte &mostra) const;
     void ComponiElastici(Superficie &parte, const ZonaPixel &zona) const;
 
     // Between these two a picture that is asked for may be left out (Rimandata); the last Rilascia

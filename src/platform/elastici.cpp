@@ -50,6 +50,14 @@ struct RiquadroDisegno::TrattoElastico {
 
     int Portata() const { return spessore / 2 + bordo + 1 + std::max(raggio, 0); }
 
+    // False only when none of its pixels lies there.
+    bool Tocca(const ZonaPixel &z) const {
+        const auto [x0, x1] = std::minmax(a.x, b.x);
+        const auto [y0, y1] = std::minmax(a.y, b.y);
+        const int portata = Portata();
+        return x1 + portata >= z.x && x0 - portata < z.x + z.larghezza && y1 + portata >= z.y &&
+               y0 - portata < z.y + z.altezza;
+    }
     void DisegnaScuro(Superficie &s, Pixel origine) const {
         const int penna = spessore + 2 * bordo;
         const Pixel da{a.x - origine.x, a.y - origine.y}, fino{b.x - origine.x, b.y - origine.y};
@@ -138,12 +146,26 @@ std::vector<ZonaPixel> RiquadroDisegno::ZoneElastici() const {
     return zone;
 }
 
-void RiquadroDisegno::ComponiElastici(Superficie &parte, const ZonaPixel &zona) const {
-    parte.CopiaZona(superficie_, zona);
-    for (const auto &cosa : TrattiElastici()) {
-        for (const TrattoElastico &t : cosa) t.DisegnaScuro(parte, {zona.x, zona.y});
-        for (const TrattoElastico &t : cosa) t.DisegnaChiaro(parte, {zona.x, zona.y});
+void RiquadroDisegno::ComponiElastici(std::span<const ZonaPixel> zone,
+                                      const MostraParte &mostra) const {
+    const auto tratti = TrattiElastici();
+    Superficie parte;
+    std::vector<const TrattoElastico *> qui; // a chain has hundreds of strokes, and of zones
+    for (const ZonaPixel &zona : zone) {
+        parte.CopiaZona(superficie_, zona);
+        for (const auto &cosa : tratti) {
+            qui.clear();
+            for (const TrattoElastico &t : cosa)
+                if (t.Tocca(zona)) qui.push_back(&t);
+            for (const TrattoElastico *t : qui) t->DisegnaScuro(parte, {zona.x, zona.y});
+            for (const TrattoElastico *t : qui) t->DisegnaChiaro(parte, {zona.x, zona.y});
+        }
+        mostra(parte, zona);
     }
+}
+
+void RiquadroDisegno::ComponiElastici(Superficie &parte, const ZonaPixel &zona) const {
+    ComponiElastici({&zona, 1}, [&](const Superficie &s, const ZonaPixel &) { parte = s; });
 }
 
 } // namespace telva

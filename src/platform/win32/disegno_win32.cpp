@@ -56,9 +56,7 @@ void DisegnoWin32::Dipingi() const {
     if (!dc) return;
     const Superficie &s = controllo_.Immagine();
     const int l = s.Larghezza(), a = s.Altezza();
-    for (const ZonaPixel &z : zone)
-        DipingiZona(dc, {z.x, z.y, std::min(z.x + z.larghezza, l) - z.x,
-                         std::min(z.y + z.altezza, a) - z.y});
+    DipingiImmagine(dc, zone);
     RECT client{};
     GetClientRect(hwnd_, &client);
     const auto nero = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
@@ -70,16 +68,24 @@ void DisegnoWin32::Dipingi() const {
     EndPaint(hwnd_, &p);
 }
 
-void DisegnoWin32::DipingiZona(HDC dc, const ZonaPixel &z) const {
-    if (z.larghezza <= 0 || z.altezza <= 0) return;
-    if (!controllo_.ElasticiVisibili()) return Copia(dc, controllo_.Immagine(), z, 0, 0);
-    constexpr int kRighe = 64; // in strips: a second picture would cost as much as the first
-    static Superficie striscia;
-    for (int y = 0; y < z.altezza; y += kRighe) {
-        const ZonaPixel parte{z.x, z.y + y, z.larghezza, std::min(kRighe, z.altezza - y)};
-        controllo_.ComponiElastici(striscia, parte);
-        Copia(dc, striscia, {0, 0, parte.larghezza, parte.altezza}, parte.x, parte.y);
+void DisegnoWin32::DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) const {
+    const Superficie &s = controllo_.Immagine();
+    std::vector<ZonaPixel> strisce; // a second picture would cost as much as the first
+    for (ZonaPixel z : zone) {
+        z.larghezza = std::min(z.larghezza, s.Larghezza() - z.x);
+        z.altezza = std::min(z.altezza, s.Altezza() - z.y);
+        if (z.larghezza <= 0 || z.altezza <= 0) continue;
+        if (!controllo_.ElasticiVisibili()) {
+            Copia(dc, s, z, 0, 0);
+            continue;
+        }
+        constexpr int kRighe = 64;
+        for (int y = 0; y < z.altezza; y += kRighe)
+            strisce.push_back({z.x, z.y + y, z.larghezza, std::min(kRighe, z.altezza - y)});
     }
+    controllo_.ComponiElastici(strisce, [dc](const Superficie &parte, const ZonaPixel &z) {
+        Copia(dc, parte, {0, 0, z.larghezza, z.altezza}, z.x, z.y);
+    });
 }
 
 void DisegnoWin32::Invalida(const std::vector<ZonaPixel> &zone) const {

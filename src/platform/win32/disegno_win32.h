@@ -24,7 +24,7 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     static LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l);
     LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
     void Dipingi() const;
-    void DipingiZona(HDC dc, const ZonaPixel &zona) const;
+    void DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) const;
     void Invalida(const std::vector<ZonaPixel> &zone) const;
     void AggiornaElastici();
     LPARAM PostoPiuRecente(WPARAM w, LPARAM l) const;
