@@ -106,9 +106,11 @@ class Telva {
         while (SendMessageW(riassunto, WM_GETTEXTLENGTH, 0, 0) == 0)
             if (Adesso() > limite) throw Fallito("the list has not come");
     }
+    // Emptied, as it may have waited for another list.
     void PerNome() {
         p_.Menu("Alt+S", "o");
-        p_.Aspetta("the answer box", [&] { return p_.Abilitato("Risposta"); });
+        p_.Aspetta("the answer box",
+                   [&] { return p_.Abilitato("Risposta") && p_.Testo("Risposta").empty(); });
     }
     void Mouse(UINT messaggio, int x, int y, WPARAM tasti = 0) const {
         SendMessageW(disegno_, messaggio, messaggio == WM_LBUTTONDOWN ? MK_LBUTTON : tasti,
@@ -177,12 +179,24 @@ void Dirette(const Telva &t) {
 void Liste(Telva &t) {
     for (int k = 0; k < 2; ++k) {
         t.Tipo(k);
-        const auto prepara = [&] {
-            t.Bottone(kRimuoviTutto);
-            t.PerNome();
+        t.PerNome();
+        Riga(std::string("Lista/") + nomi[k],
+             Misura([&] { t.Bottone(kRimuoviTutto); }, [&] { t.Lista("1-20000"); }, 9));
+    }
+}
+
+// In direct pick, to and fro over the middle of the picture, where most elements lie.
+void Anteprime(const Telva &t) {
+    const POINT angolo = t.Angolo();
+    int n = 0;
+    for (int k = 0; k < 4; ++k) {
+        t.Tipo(k);
+        t.Bottone(kAggiungi);
+        const auto fai = [&] {
+            t.Mouse(WM_MOUSEMOVE, angolo.x / 2 + ++n % 40, angolo.y / 2);
+            t.Dipingi();
         };
-        Riga(std::string("Lista/") + nomi[k], Misura(
-                                                  prepara, [&] { t.Lista("1-20000"); }, 9));
+        Riga(std::string("Anteprima/") + nomi[k], Misura([] {}, fai, 45));
     }
 }
 
@@ -234,6 +248,7 @@ void Operazioni(Telva &t) {
     int x = 0;
     Riga("Coordinate", Misura([&] { ++x; }, [&] { t.Mouse(WM_MOUSEMOVE, 300 + x, 300); }, 45));
     Dirette(t);
+    Anteprime(t);
     Liste(t);
     Elastici(t);
     Trascinamento(t);

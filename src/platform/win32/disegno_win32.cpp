@@ -11,6 +11,10 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaDisegno";
 
+// What stands over the picture is put together in strips: a second picture would cost as much as
+// the first.
+constexpr int kPixelStriscia = 1 << 18;
+
 // A zone of a surface to the same place of the screen, moved by (x, y).
 void Copia(HDC dc, const Superficie &s, const ZonaPixel &z, int x, int y) {
     BITMAPINFO info{};
@@ -70,7 +74,7 @@ void DisegnoWin32::Dipingi() const {
 
 void DisegnoWin32::DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) const {
     const Superficie &s = controllo_.Immagine();
-    std::vector<ZonaPixel> strisce; // a second picture would cost as much as the first
+    std::vector<ZonaPixel> strisce;
     for (ZonaPixel z : zone) {
         z.larghezza = std::min(z.larghezza, s.Larghezza() - z.x);
         z.altezza = std::min(z.altezza, s.Altezza() - z.y);
@@ -79,9 +83,9 @@ void DisegnoWin32::DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) c
             Copia(dc, s, z, 0, 0);
             continue;
         }
-        constexpr int kRighe = 64;
-        for (int y = 0; y < z.altezza; y += kRighe)
-            strisce.push_back({z.x, z.y + y, z.larghezza, std::min(kRighe, z.altezza - y)});
+        const int righe = std::max(1, kPixelStriscia / z.larghezza);
+        for (int y = 0; y < z.altezza; y += righe)
+            strisce.push_back({z.x, z.y + y, z.larghezza, std::min(righe, z.altezza - y)});
     }
     controllo_.ComponiElastici(strisce, [dc](const Superficie &parte, const ZonaPixel &z) {
         Copia(dc, parte, {0, 0, z.larghezza, z.altezza}, z.x, z.y);
