@@ -162,10 +162,12 @@ PassoCasuale Caso::Filtri() {
 PassoCasuale Caso::Vista(const Modello &m, const PassoCasuale &trascina) {
     const Punto p = Posto(m);
     const auto rotella = [](int passi) { return [=](auto &chi) { chi.Rotella(passi); }; };
+    const int tasto = Una({37, 38, 39, 40, 107, 109, 187, 189, int{'A'}}); // arrows, + and -
     return Una<PassoCasuale>(
         {trascina, rotella(1), rotella(-1), rotella(-3), rotella(2),
-         [](auto &chi) { chi.DoppioClic(); }, [=](auto &chi) { chi.ClicDestro(p.x, p.y); },
-         [](auto &chi) { chi.Lettera('A'); }, [](auto &chi) { chi.Menu("Ottimizza"); }});
+         [=](auto &chi) { chi.Tasto(tasto); }, [](auto &chi) { chi.DoppioClic(); },
+         [=](auto &chi) { chi.ClicDestro(p.x, p.y); }, [](auto &chi) { chi.Lettera('A'); },
+         [](auto &chi) { chi.Menu("Ottimizza"); }});
 }
 
 // Something that is typed.

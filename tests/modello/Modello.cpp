@@ -12,6 +12,8 @@ constexpr double kPi = 3.14159265359;
 constexpr double kUguale = 1e-4;    // drawing units: nearer than this is the same
 constexpr double kZoomMinimo = 0.1; // drawing units
 constexpr int kCritica = 0;
+constexpr int kSinistra = 37, kSu = 38, kDestra = 39, kGiu = 40; // keys
+constexpr int kPiu = 187, kMeno = 189, kPiuCifre = 107, kMenoCifre = 109;
 constexpr int kUltimaAsta = 20000; // place in the table
 
 double Numero(std::string testo) { // typed, the comma for a point
@@ -250,6 +252,23 @@ void Modello::Rotella(int passi) {
     const double dy = (zoom.maxY - zoom.minY) * passi * 0.1;
     zoom = {zoom.maxX - dx, zoom.minX + dx, zoom.maxY - dy, zoom.minY + dy};
     if (!Piccola(zoom)) Ridisegna();
+}
+
+// A tenth of the box, in whole pixels, towards what lies there; + and - as the wheel.
+void Modello::Tasto(int codice) {
+    const double dx = std::floor(largo / 10) * scala.larghezza / largo;
+    const double dy = std::floor(alto / 10) * scala.altezza / alto;
+    switch (codice) {
+    case kSinistra: return Trasla(vista, dx, 0);
+    case kSu: return Trasla(vista, 0, dy);
+    case kDestra: return Trasla(vista, -dx, 0);
+    case kGiu: return Trasla(vista, 0, -dy);
+    case kPiu:
+    case kPiuCifre: return Rotella(1);
+    case kMeno:
+    case kMenoCifre: return Rotella(-1);
+    default: break; // not a key of the view
+    }
 }
 
 void Modello::Ridimensiona(double larghezza, double) {

@@ -66,7 +66,7 @@ struct Ingresso {
 struct Modello {
     enum { Nodi, Aste, Gusci, Continui, Pareti }; // kinds
     enum Funzione { Niente, Aggiungere, Rimuovere };
-    enum Tasto { Nessuno = 0, Sinistro = 1, Destro = 2, Centrale = 4 };
+    enum { Nessuno = 0, Sinistro = 1, Destro = 2, Centrale = 4 }; // buttons
 
     explicit Modello(const LavoroProva &lavoro);
 
@@ -102,6 +102,7 @@ struct Modello {
     void Trascina(const std::vector<Pixel> &pixel);
     void DoppioClic();
     void Rotella(int passi);
+    void Tasto(int codice); // of the view
     void Ridimensiona(double larghezza, double altezza);
     void Esc() { Interrompi(); }
     void Lettera(char) {}

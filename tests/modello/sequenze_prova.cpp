@@ -134,6 +134,7 @@ struct SequenzeProva : Utente {
         c.Uguali("FinestraAutomatica", FinestraAutomatica != 0, m.finestraAutomatica);
         c.Uguali("Shape.Visible", d.Shape.Visible(), m.primoAngolo);
         c.Uguali("LineSposta.Visible", d.LineSposta.Visible(), m.lineaSposta);
+        c.Uguali("FrameCoord.Visible", f.FrameCoord.Visible(), m.coordinate);
         c.Uguali("Interrompi.Enabled", f.Interrompi.Enabled(), m.funzione != Modello::Niente);
         for (const VoceMenu *voce : f.Selezioni.voci)
             c.Uguali(voce->NomeControllo() + ".Enabled", voce->Enabled(),

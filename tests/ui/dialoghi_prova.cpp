@@ -5,8 +5,6 @@
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
 
-#include <algorithm>
-
 namespace telva::prove {
 
 constexpr int kEsc = 27, kInvio = 13;
@@ -44,17 +42,6 @@ TEST_F(DialogoTrappola, UnaMisuraEnormeStaNellaCasellaInBreve) {
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "2e+20");
 }
 
-TEST_F(DialogoTrappola, EscLasciaLaMisuraComEra) {
-    Trappola("12");
-    for (const char *testo : {"99", "0", ""}) {
-        Trappola(testo, false);
-        EXPECT_EQ(OpzInt[1], 12);
-        EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (12)...");
-        EXPECT_EQ(Detto(), "");
-        EXPECT_FALSE(FormOptInt.Mostrata());
-    }
-}
-
 TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     Menu("Trappola");
     EXPECT_TRUE(FormOptInt.Mostrata());
@@ -69,20 +56,11 @@ TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "20");
     FormOptInt.KeyUp('A');
     EXPECT_TRUE(FormOptInt.Mostrata()) << "only Esc closes";
+    FormOptInt.TextTrappola.Text = "0";
     FormOptInt.KeyUp(kEsc);
     EXPECT_FALSE(FormOptInt.Mostrata());
-}
-
-TEST_F(DialogoTrappola, LaMisuraDecideCheCosaSiPrende) {
-    const auto unita = static_cast<float>(FormTelva.Disegno.UnitaPerPixel());
-    Menu("Aggiungi");
-    Trappola("10");
-    Clic(9 * unita, 0);
-    EXPECT_EQ(Lista(), "1,1");
-    Trappola("8");
-    Clic(9 * unita, 100);
-    EXPECT_EQ(Lista(), "1,1") << "beside node 4: a window begins";
-    EXPECT_EQ(Gesto(), "PrimoAngolo FinestraAutomatica");
+    EXPECT_EQ(OpzInt[1], 20) << "Esc leaves it as it was";
+    EXPECT_EQ(Detto(), "");
 }
 
 // --- representation options
@@ -162,33 +140,14 @@ TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
     Cambia("EvColSel", 5, 1, [&] { f.EvColSel.Seleziona(); });
 }
 
-TEST_F(DialogoRappresentazione, SiApreConLeOpzioniDiOra) {
-    Opzioni[kOpzTestiElCont] = std::string("x"); // anything but 1 is off
-    Opzioni[kOpzRaggioNodo] = 7.5;
-    Opzioni[kOpzColoreTesto] = 3.0;
-    Opzioni[kOpzColoreSel] = 0.0;
-    Opzioni[kOpzPartiAste + 3] = 0.0;
-    Menu("Rappresentazione");
-    EXPECT_EQ(f.Raggio.Text(), "7.5");
-    EXPECT_EQ(f.SpMinGus.Text(), "1");
-    EXPECT_EQ(f.SpSel.Text(), "4");
-    EXPECT_TRUE(f.CheckSpGus.Value);
-    EXPECT_FALSE(f.CheckTxtElCont.Value);
-    EXPECT_TRUE(f.TxtAste[2].Value);
-    EXPECT_FALSE(f.TxtAste[3].Value);
-    EXPECT_FALSE(f.EvColSel.Value);
-    EXPECT_TRUE(f.EvColNonSel.Value);
-    for (int k = 0; k < 10; ++k) {
-        EXPECT_EQ(f.LabelCol[k].Marcato, k == 3);
-        EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 3);
-    }
-}
-
 TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBianco) {
     for (const double codice : {-1.0, 10.0, 1e9}) {
         Opzioni[kOpzColoreTesto] = codice;
         Menu("Rappresentazione");
-        EXPECT_TRUE(f.LabelBordCol[1].Marcato) << codice;
+        for (int k = 0; k < ModuloOpt::kCampioni; ++k) {
+            EXPECT_EQ(f.LabelCol[k].Marcato, k == 1) << codice;
+            EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 1) << codice;
+        }
         f.Chiudi();
     }
 }
@@ -206,34 +165,28 @@ TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
 
     struct Gruppo {
         CasellaSpunta &capo;
-        std::vector<CasellaSpunta *> parti;
+        const char *parti;
     };
-    Gruppo gruppi[] = {{.capo = f.CheckTxtNodi, .parti = {}},
-                       {.capo = f.CheckTxtAste, .parti = {}},
-                       {.capo = f.CheckTxtGusci, .parti = {}},
-                       {.capo = f.CheckTxtElCont, .parti = {&f.TxtElCont}}};
-    for (CasellaSpunta &c : f.TxtNodi) gruppi[0].parti.push_back(&c);
-    for (CasellaSpunta &c : f.TxtAste) gruppi[1].parti.push_back(&c);
-    for (CasellaSpunta &c : f.TxtGusci) gruppi[2].parti.push_back(&c);
-    std::vector<Controllo *> testi = {&f.LabelBaseTxt,  &f.BaseTxt,      &f.LabelAltezzaTxt,
-                                      &f.AltezzaTxt,    &f.LabelDistTxt, &f.DistTxt,
-                                      &f.LabelColoreTxt};
-    for (Campione &c : f.LabelCol) testi.push_back(&c);
-    for (Campione &c : f.LabelBordCol) testi.push_back(&c);
-    const auto controlla = [&](const CasellaSpunta *accesa) {
-        for (const Gruppo &g : gruppi)
-            for (const CasellaSpunta *parte : g.parti)
-                EXPECT_EQ(parte->Enabled, &g.capo == accesa) << parte->NomeControllo();
-        for (const Controllo *c : testi)
-            EXPECT_EQ(c->Enabled, accesa != nullptr) << c->NomeControllo();
+    const Gruppo gruppi[] = {{.capo = f.CheckTxtNodi, .parti = "TxtNodi"},
+                             {.capo = f.CheckTxtAste, .parti = "TxtAste"},
+                             {.capo = f.CheckTxtGusci, .parti = "TxtGusci"},
+                             {.capo = f.CheckTxtElCont, .parti = "TxtElCont"}};
+    // Sizes and colours of the labels when there are any; the parts of those that there are.
+    const auto controlla = [&](bool testi, const std::string &parti) {
+        for (const Controllo *c : f.controlli) {
+            const std::string &nome = c->NomeControllo();
+            if (c->Genitore() != &f.FrameNum || nome.starts_with("Check")) continue;
+            const bool parte = nome.starts_with("Txt");
+            EXPECT_EQ(c->Enabled, parte ? testi && nome.starts_with(parti) : testi) << nome;
+        }
     };
-    controlla(nullptr);
-    for (const Gruppo &g : gruppi) {
-        SCOPED_TRACE(g.capo.NomeControllo());
-        g.capo.Premi();
-        controlla(&g.capo);
-        g.capo.Premi();
-        controlla(nullptr);
+    controlla(false, "");
+    for (const auto &[capo, parti] : gruppi) {
+        SCOPED_TRACE(parti);
+        capo.Premi();
+        controlla(true, parti);
+        capo.Premi();
+        controlla(false, "");
     }
 }
 
@@ -279,29 +232,18 @@ TEST_F(DialogoRappresentazione, IlDisegnoCambiaAllaChiusuraESoloDopoSalva) {
 
 // Shells 1 and 2 are 20 cm thick, 3 and 4 half a centimetre.
 TEST_F(DialogoRappresentazione, UnGuscioSpessoQuantoIlLimiteSiDisegna) {
-    FormTelva.VisAssi.Click();
-    const auto disegna = [&](const char *limite, bool nascondi) {
+    const auto disegna = [&](const char *limite) {
         Menu("Rappresentazione");
-        if (f.CheckSpGus.Value != nascondi) f.CheckSpGus.Premi();
         f.SpMinGus.Text = limite;
         f.Salva.Click();
         f.Chiudi_.Click();
         return Pixel();
     };
-    const auto tutti = disegna("1", false), spessi = disegna("1", true),
-               nessuno = disegna("100", true);
-    ASSERT_TRUE(tutti != spessi);
-    ASSERT_TRUE(spessi != nessuno);
-    struct Caso {
-        const char *limite;
-        const std::vector<std::uint32_t> &attesi;
-    };
-    const Caso casi[] = {
-        {.limite = "0.49", .attesi = tutti},  {.limite = "0.5", .attesi = tutti},
-        {.limite = "0.51", .attesi = spessi}, {.limite = "19.9", .attesi = spessi},
-        {.limite = "20", .attesi = spessi},   {.limite = "20.1", .attesi = nessuno}};
-    for (const auto &[limite, attesi] : casi)
-        EXPECT_TRUE(disegna(limite, true) == attesi) << limite;
+    const auto tutti = disegna("0.49"), spessi = disegna("0.51"), nessuno = disegna("20.1");
+    EXPECT_TRUE(tutti != spessi);
+    EXPECT_TRUE(spessi != nessuno);
+    EXPECT_TRUE(disegna("0.5") == tutti);
+    EXPECT_TRUE(disegna("20") == spessi);
 }
 
 TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {
@@ -310,16 +252,6 @@ TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {
     f.Salva.Click();
     EXPECT_EQ(Detto(), "INFORMAZIONE: Problemi nel salvataggio delle opzioni");
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "they hold all the same";
-}
-
-TEST_F(DialogoRappresentazione, LaFinestraInCorsoFinisce) {
-    Menu("Aggiungi");
-    Clic(50, 50);
-    ASSERT_EQ(Gesto(), "PrimoAngolo FinestraAutomatica");
-    Menu("Rappresentazione");
-    EXPECT_EQ(Gesto(), "");
-    EXPECT_EQ(Elastici(), "");
-    EXPECT_EQ(SottoFunzione(), "Selezione diretta");
 }
 
 } // namespace telva::prove

@@ -2,9 +2,9 @@
 // inverted and handed back. One element too many would end the program.
 #include "Generatore.h"
 #include "ScriviLavoro.h"
+#include "model/elementi.h"
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
-#include "selection/selezione.h"
 #include "sostegno/Utente.h"
 #include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
@@ -34,26 +34,10 @@ struct LavoroPienoProva : Utente {
         for (const std::string &voce : voci) righe += voce + "\r\n";
         return righe;
     }
-    struct Tabella {
-        int tipo;
-        const std::int16_t *flag, *nomi;
-        int numero;
-    };
-    static std::vector<Tabella> Tabelle() {
-        return {
-            {.tipo = kNodiTipo, .flag = SelNodo.Dati(), .nomi = NomeNodo.Dati(), .numero = NumNodi},
-            {.tipo = kAsteTipo, .flag = SelAsta.Dati(), .nomi = NomeAsta.Dati(), .numero = NumAste},
-            {.tipo = kGusciTipo,
-             .flag = SelGuscio.Dati(),
-             .nomi = NomeGuscio.Dati(),
-             .numero = NumGusci},
-            {.tipo = kElContTipo,
-             .flag = SelElCont.Dati(),
-             .nomi = NumeroElCont.Dati(),
-             .numero = NumElCont}};
-    }
-    static int Selezionati(const Tabella &t) {
-        return static_cast<int>(std::count(t.flag, t.flag + t.numero, 1));
+    // How many of the chosen kind are selected.
+    static int Selezionati() {
+        const Elementi &e = ElementiDi(FormTelva.TipoElemento());
+        return static_cast<int>(std::count(e.selezionati, e.selezionati + e.numero, 1));
     }
 };
 
@@ -74,31 +58,26 @@ TEST_F(LavoroPienoProva, SiDisegnaConTuttiITesti) {
 
 TEST_F(LavoroPienoProva, SiSelezionaESiInverte) {
     ASSERT_TRUE(Avvia()) << Detto();
-    for (const Tabella &t : Tabelle()) {
-        SCOPED_TRACE("kind " + std::to_string(t.tipo));
+    for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
+        const Elementi &e = ElementiDi(tipo);
+        SCOPED_TRACE("kind " + std::to_string(tipo));
         DimenticaPassi();
-        Tipo(t.tipo);
+        Tipo(tipo);
         Menu("Inverti");
-        EXPECT_EQ(Selezionati(t), t.numero);
-        Menu("Inverti");
-        EXPECT_EQ(Selezionati(t), 0);
-        EXPECT_EQ(Lista(), "");
-        Menu("Aggiungi");
-        Menu("Tutto");
-        EXPECT_EQ(Selezionati(t), t.numero);
+        EXPECT_EQ(Selezionati(), e.numero);
         Menu("RimTutto");
-        EXPECT_EQ(Selezionati(t), 0);
+        EXPECT_EQ(Selezionati(), 0);
         Rotella(-3); // a margin around the picture
         const RiquadroDisegno &d = f.Disegno;
-        const auto x = static_cast<float>(d.ScaleLeft), y = static_cast<float>(d.ScaleTop);
+        Menu("Aggiungi");
         Menu("Finestra");
-        Clic(x, y);
-        Clic(static_cast<float>(d.XDaPixel(d.LarghezzaPixel() - 1)),
-             static_cast<float>(d.YDaPixel(d.AltezzaPixel() - 1)));
-        EXPECT_EQ(Selezionati(t), t.numero);
+        Clic(d.XEvento(d.ScaleLeft), d.YEvento(d.ScaleTop));
+        Clic(d.XEvento(d.XDaPixel(d.LarghezzaPixel() - 1)),
+             d.YEvento(d.YDaPixel(d.AltezzaPixel() - 1)));
+        EXPECT_EQ(Selezionati(), e.numero);
         Menu("RimTutto");
         // By name, the last of the table too.
-        const int ultimo = *std::max_element(t.nomi, t.nomi + t.numero);
+        const int ultimo = *std::max_element(e.nomi, e.nomi + e.numero);
         Menu("Nome");
         Elenco(std::to_string(ultimo));
         EXPECT_EQ(Lista(), std::to_string(ultimo));
@@ -130,11 +109,12 @@ TEST_F(LavoroPienoProva, CioCheStaOltreLUltimoElementoNonCE) {
     };
     const auto guarda = [&] {
         Visto v;
-        for (const Tabella &t : Tabelle()) {
-            Tipo(t.tipo);
+        for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
+            const Elementi &e = ElementiDi(tipo);
+            Tipo(tipo);
             Menu("Inverti");
             v.liste.push_back(Lista());
-            EXPECT_EQ(t.flag[t.numero], 0) << "kind " << t.tipo;
+            EXPECT_EQ(e.selezionati[e.numero], 0) << "kind " << tipo;
         }
         const Superficie &s = f.Disegno.Immagine();
         v.pixel.assign(s.Riga(0), s.Riga(0) + s.Larghezza() * s.Altezza());

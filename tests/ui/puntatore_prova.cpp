@@ -9,9 +9,6 @@
 
 namespace telva::prove {
 
-constexpr int kSinistra = 37, kSu = 38, kDestra = 39, kGiu = 40, kPiu = 187, kMeno = 189,
-              kPiuCifre = 107, kMenoCifre = 109;
-
 struct PuntatoreProva : Utente {
     ModuloTelva &f = FormTelva;
     RiquadroDisegno &d = FormTelva.Disegno;
@@ -112,23 +109,6 @@ TEST_F(PuntatoreProva, UnRettangoloArrivaAlPrimoPixel) {
     }
 }
 
-TEST_F(PuntatoreProva, UnTrascinamentoContinuaDaCioCheRotellaEComandiMostrano) {
-    const std::function<void()> inMezzo[] = {[&] { Rotella(2); }, [&] { Rotella(-1); },
-                                             [&] { Menu("Ottimizza"); }};
-    for (int k = 0; k < 12; ++k)
-        for (const auto &comando : inMezzo) {
-            ImpostaZoom(k / 7.0, k * 1.1, 90 + k * 3.3, 120);
-            Menu("Ridis");
-            PremiCentrale(X(300), Y(200));
-            MuoviPremuto(X(310), Y(220));
-            comando();
-            const Superficie prima = d.Immagine();
-            MuoviPremuto(X(310), Y(220));
-            EXPECT_EQ(Diversi(prima, 0, 0), 0) << "the pointer has not moved";
-            RilasciaCentrale();
-        }
-}
-
 TEST_F(PuntatoreProva, IlTrascinamentoFinisceAlRilascioOQuandoIlMouseSePerso) {
     for (const bool perso : {false, true}) {
         PremiCentrale(X(300), Y(200));
@@ -140,108 +120,33 @@ TEST_F(PuntatoreProva, IlTrascinamentoFinisceAlRilascioOQuandoIlMouseSePerso) {
     }
 }
 
-TEST_F(PuntatoreProva, IlDoppioClicCentraleMostraTutto) {
-    const double intera = d.ScaleWidth;
-    Rotella(3);
-    ASSERT_LT(d.ScaleWidth, intera);
-    Clic(X(300), Y(200));
-    DoppioClic();
-    EXPECT_LT(d.ScaleWidth, intera) << "only that of the middle button";
-    PremiCentrale(X(300), Y(200));
-    DoppioClic();
-    EXPECT_EQ(d.ScaleWidth, intera);
-}
-
-TEST_F(PuntatoreProva, LeFrecceSpostanoDiUnDecimoInPixelInteri) {
-    struct Caso {
-        int tasto, ritorno;
-        int dx, dy; // tenths of the box by which the picture moves
-    };
-    const Caso casi[] = {{.tasto = kDestra, .ritorno = kSinistra, .dx = -1, .dy = 0},
-                         {.tasto = kSinistra, .ritorno = kDestra, .dx = 1, .dy = 0},
-                         {.tasto = kGiu, .ritorno = kSu, .dx = 0, .dy = -1},
-                         {.tasto = kSu, .ritorno = kGiu, .dx = 0, .dy = 1}};
-    Mostra(Filtro::Gusci);
-    for (int k = 0; k < 12; ++k)
-        for (const Caso &c : casi) {
-            ImpostaZoom(k / 7.0, k * 1.1, 90 + k * 3.3, 120);
-            Menu("Ridis");
-            const Superficie prima = d.Immagine();
-            EXPECT_TRUE(Tasto(c.tasto));
-            EXPECT_EQ(
-                Diversi(prima, c.dx * (d.LarghezzaPixel() / 10), c.dy * (d.AltezzaPixel() / 10)),
-                0);
-            EXPECT_TRUE(Tasto(c.ritorno));
-            EXPECT_EQ(Diversi(prima, 0, 0), 0);
-        }
-}
-
-TEST_F(PuntatoreProva, PiuEMenoSonoPassiDellaRotella) {
-    for (const auto &[piu, meno] : {std::pair{kPiu, kMeno}, {kPiuCifre, kMenoCifre}}) {
-        const double prima = d.ScaleWidth;
-        EXPECT_TRUE(Tasto(piu));
-        EXPECT_NEAR(d.ScaleWidth, prima * 0.8, 1e-6 * prima);
-        EXPECT_TRUE(Tasto(meno));
-        EXPECT_NEAR(d.ScaleWidth, prima * 0.96, 1e-6 * prima);
-        Menu("Ottimizza");
-    }
-    EXPECT_FALSE(Tasto('A')) << "not a key of the view";
-}
-
-// The last steps in are refused; the keys then move what is shown.
-TEST_F(PuntatoreProva, AlMassimoIngrandimentoLeFrecceSpostanoAncora) {
-    for (int n = 0; n < 60; ++n) Tasto(kPiu);
-    const double sinistra = d.ScaleLeft, larghezza = d.ScaleWidth;
-    EXPECT_TRUE(Tasto(kDestra));
-    EXPECT_NEAR(d.ScaleLeft - sinistra, larghezza / 10, larghezza / 500);
-}
-
-TEST_F(PuntatoreProva, UnoSpostamentoADueClicResisteAgliAltriTasti) {
+// The shape of the pointer tells what the next click does.
+TEST_F(PuntatoreProva, LaFormaDelPuntatoreDiceIlGesto) {
+    const auto forma = [&] { return d.MousePointer(); };
     Menu("Aggiungi");
+    EXPECT_EQ(forma(), Puntatore::Predefinito);
+    Clic(50, 50); // nothing there
+    EXPECT_EQ(forma(), Puntatore::Croce);
+    Clic(90, 90);
+    EXPECT_EQ(forma(), Puntatore::Predefinito) << "the window is closed";
+    Menu("Finestra");
+    EXPECT_EQ(forma(), Puntatore::Croce);
     Menu("Sposta");
-    Clic(9, 9);
-    ClicDestro(8, 8);
-    PremiCentrale(8, 8);
-    EXPECT_EQ(Gesto(), "SpostaInCorso ModoSposta");
-    EXPECT_EQ(Elastici(), "linea");
+    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
+    Clic(50, 50);
+    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
+    PremiCentrale(X(300), Y(200)); // a drag leaves it as it is
+    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
     RilasciaCentrale();
-    Clic(20, 20);
-    EXPECT_EQ(Gesto(), "");
-    EXPECT_EQ(Elastici(), "");
-    EXPECT_EQ(SottoFunzione(), "Selezione diretta");
-}
-
-TEST_F(PuntatoreProva, RimuoviTuttoLasciaApertaLaFinestra) {
-    Menu("Aggiungi");
-    Clic(-5, -5);
-    Menu("RimTutto");
-    EXPECT_EQ(Gesto(), "PrimoAngolo FinestraAutomatica");
-    Clic(210, 210);
-    EXPECT_EQ(Lista(), "1,1-10");
-    EXPECT_EQ(SottoFunzione(), "Selezione diretta");
-}
-
-TEST_F(PuntatoreProva, SenzaFunzioneUnClicNonPrendeNulla) {
-    Clic(0, 0);
-    EXPECT_EQ(Lista(), "");
-    EXPECT_EQ(Gesto(), "");
-}
-
-TEST_F(PuntatoreProva, LeCoordinateSonoQuelleDelNodoSottoIlPuntatore) {
-    Muovi(100, 0);
-    EXPECT_EQ(Coordinate(), "100, 0, 0 [N2]");
-    Muovi(200.7F, 200);
-    EXPECT_EQ(Coordinate(), "200, -1, 200 [N9]") << "whole numbers, downwards";
-    Muovi(50, 50);
-    EXPECT_EQ(Coordinate(), "");
-    Muovi(100, 0);
-    Menu("VisCoord");
-    EXPECT_EQ(Coordinate(), "");
-    EXPECT_FALSE(f.FrameCoord.Visible);
-    Muovi(100, 0);
-    EXPECT_EQ(Coordinate(), "");
-    Menu("VisCoord");
-    EXPECT_TRUE(f.FrameCoord.Visible);
+    Clic(60, 60);
+    EXPECT_EQ(forma(), Puntatore::Croce) << "the window is awaited again";
+    Esc();
+    EXPECT_EQ(forma(), Puntatore::Predefinito);
+    Menu("ZoomIn");
+    EXPECT_EQ(forma(), Puntatore::Croce);
+    Clic(10, 10);
+    Clic(90, 90);
+    EXPECT_EQ(forma(), Puntatore::Predefinito);
 }
 
 } // namespace telva::prove
