@@ -32,12 +32,17 @@ struct Foglio : LavoroProva {
         nodi.push_back({.punto = posto, .nome = 0});
         return posto;
     }
-    void NodoVisibile(double x, double z, int colore) {
+    int NodoVisibile(double x, double z, int colore) {
         const int posto = Punto(x, z);
         nodi.back() = {.punto = posto, .nome = ++nomi, .colore = colore};
+        return posto;
     }
     void Linea(double x1, double z1, double x2, double z2, int colore, int tipo = 0) {
-        const int i = Punto(x1, z1), j = Punto(x2, z2);
+        const int i = Punto(x1, z1);
+        LineaDa(i, x2, z2, colore, tipo);
+    }
+    void LineaDa(int i, double x, double z, int colore, int tipo = 0) {
+        const int j = Punto(x, z);
         aste.push_back({.i = i, .j = j, .nome = ++nomi, .colore = colore, .tipo = tipo});
     }
     void Raggi(double x, double z, double lungo, int colore) {
@@ -54,7 +59,11 @@ struct Foglio : LavoroProva {
         gusci.push_back({.nodi = {a, b, c, e}, .nome = ++nomi, .colore = colore, .tratto = tratto});
     }
     void Triangolo(double x, double z, double lato, int tratto, int colore) {
-        const int a = Punto(x, z), b = Punto(x + lato, z), c = Punto(x + lato / 3, z + lato);
+        TriangoloDa(Punto(x, z), lato, tratto, colore);
+    }
+    void TriangoloDa(int a, double lato, int tratto, int colore) {
+        const double x = punti[a][0], z = punti[a][2];
+        const int b = Punto(x + lato, z), c = Punto(x + lato / 3, z + lato);
         gusci.push_back(
             {.nodi = {a, b, c, -1}, .nome = ++nomi, .colore = colore, .tratto = tratto});
     }
@@ -163,7 +172,10 @@ TEST_F(Immagini, TipiDiLinea) {
         f.Linea(270, z + 30, 360, z + 5, 4, tipo);
     }
     ApriFoglio(f, 370, 310);
-    Confronta("tipi_linea");
+    Superficie pila = Dipingi();
+    Opzioni[kOpzPennaNonSel] = 2.0; // a wide pen has no dashes
+    Impila(pila, Dipingi());
+    ConfrontaImmagine(pila, "tipi_linea");
 }
 
 TEST_F(Immagini, Penne) {
@@ -181,6 +193,21 @@ TEST_F(Immagini, Penne) {
     Opzioni[kOpzPennaNonSel] = 2.0;
     Opzioni[kOpzPennaSel] = 5.0;
     Confronta("penne");
+}
+
+// What is selected lies over the others of its kind, but bars stay below shells.
+TEST_F(Immagini, Evidenza) {
+    Foglio f;
+    f.Linea(10, 10, 90, 90, 1);
+    f.Linea(10, 90, 90, 10, 1);
+    f.Linea(100, 50, 230, 50, 1);
+    f.Quadrilatero(120, 10, 80, 7, 3);
+    f.Quadrilatero(140, 5, 80, 7, 3);
+    const int nodo = f.NodoVisibile(250, 50, 4);
+    f.NodoVisibile(250, 50, 4);
+    ApriFoglio(f, 270, 100);
+    SelAsta[0] = SelAsta[2] = SelGuscio[0] = SelNodo[nodo] = 1;
+    Confronta("evidenza");
 }
 
 TEST_F(Immagini, ColoriDegliElementi) {
@@ -296,6 +323,37 @@ TEST_F(Immagini, EtichetteEAssiAl200) {
     Confronta("etichette_assi_200");
 }
 
+// Bars in every direction and one seen from its end, each with its continuous element; nodes with
+// more and more bars, and one at the corner of a shell; labels over a dense hatch.
+TEST_F(Immagini, PostiDelleEtichette) {
+    Foglio f;
+    for (int k = 0; k < 9; ++k) {
+        const double angolo = k * std::numbers::pi / 4, lungo = k < 8 ? 55 : 0;
+        const double x = 70 + 130 * (k % 5), z = 70 + 130 * (k / 5);
+        f.Linea(x, z, x + lungo * std::cos(angolo), z + lungo * std::sin(angolo), 5);
+        f.elementi.push_back({k + 1, "Elemento", {f.nomi}});
+    }
+    for (int k = 0; k < 5; ++k) {
+        const int nodo = f.NodoVisibile(50 + 115 * k, 300, 4);
+        const double x = f.punti[nodo][0];
+        if (k > 0) f.LineaDa(nodo, x + 35, 335, 9);
+        if (k > 1) f.LineaDa(nodo, x + 35, 265, 9);
+        if (k > 2) f.LineaDa(nodo, x - 35, 335, 9);
+        if (k > 3) f.LineaDa(nodo, x - 35, 265, 9);
+    }
+    f.TriangoloDa(f.NodoVisibile(570, 260, 4), 80, 7, 3);
+    f.Quadrilatero(670, 260, 80, 7, 3);
+    ApriFoglio(f, 770, 360);
+    SelElCont[1] = 1; // its bar is drawn as selected
+    for (const int genere : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
+        Opzioni[genere] = 1.0;
+    for (int parte : {2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
+    Opzioni[kOpzBaseTesto] = 6.0;
+    Opzioni[kOpzAltezzaTesto] = 8.0;
+    Opzioni[kOpzDistanzaTesto] = 2.0;
+    Confronta("etichette_posti");
+}
+
 // So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke.
 TEST_F(Immagini, EtichetteGrandi) {
     ApriTelaio();
@@ -320,6 +378,7 @@ TEST_F(Immagini, Elastici) {
     d.LineSposta.X2 = 180;
     d.LineSposta.Y2 = 110;
     d.Shape.Visible = d.LineSposta.Visible = true;
+    d.Anteprima = Sagoma{.linee = {{10, 60, 190, 75}}, .cerchi = {{160, 30, 10}}};
     Superficie composta;
     d.ComponiElastici(composta, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()});
     ConfrontaImmagine(composta, "elastici");

@@ -67,25 +67,6 @@ TEST_F(Tabelle, OltreIlLimiteSiAvvisaESiLeggonoLePrime) {
     EXPECT_EQ(NomeElCont[1999], "a, b");
 }
 
-TEST_F(Tabelle, IlMaterialeDiUnaSchedaCheNonCEZero) {
-    Scrivi("spessori", "2\n1 6 0 2 0\n1 4 0 2 0\n");
-    Scrivi("sezioni_", "1\n"
-                       "0 0 5 0 0 0 0 0 0 0 0 0 0 0 0\n");
-    LeggiSpessori();
-    LeggiSezioni();
-    struct Caso {
-        int scheda, spessore, sezione;
-    };
-    for (const Caso &c : {Caso{.scheda = -1, .spessore = 0, .sezione = 0},
-                          {.scheda = 0, .spessore = 0, .sezione = 0},
-                          {.scheda = 1, .spessore = 6, .sezione = 5},
-                          {.scheda = 2, .spessore = 4, .sezione = 0},
-                          {.scheda = 3, .spessore = 0, .sezione = 0}}) {
-        EXPECT_EQ(MaterialeSpessore(c.scheda), c.spessore) << "thickness card " << c.scheda;
-        EXPECT_EQ(MaterialeSezione(c.scheda), c.sezione) << "section card " << c.scheda;
-    }
-}
-
 TEST_F(Tabelle, UnValoreErratoRestaComEra) {
     Scrivi("spessori", "2\n1 6 0 2.5 0\n1 4 0 2 0\n");
     LeggiSpessori();
@@ -98,16 +79,10 @@ TEST_F(Tabelle, UnValoreErratoRestaComEra) {
 }
 
 TEST_F(Tabelle, IlConteggioSiArrotondaENonScendeSottoZero) {
-    struct Caso {
-        const char *conteggio;
-        int letti;
-    };
-    for (const Caso &c : {Caso{.conteggio = "1.5", .letti = 2}, // halves to the even one
-                          {.conteggio = "2.5", .letti = 2},
-                          {.conteggio = "-3", .letti = 0}}) {
-        Scrivi("spessori", std::string(c.conteggio) + "\n1 6 0 2 0\n1 4 0 2 0\n1 4 0 2 0\n");
+    for (const auto &[conteggio, letti] : {std::pair{"1.5", 2}, {"2.5", 2}, {"-3", 0}}) {
+        Scrivi("spessori", std::string(conteggio) + "\n1 6 0 2 0\n1 4 0 2 0\n1 4 0 2 0\n");
         LeggiSpessori();
-        EXPECT_EQ(NumSpessori, c.letti) << c.conteggio;
+        EXPECT_EQ(NumSpessori, letti) << conteggio;
     }
 }
 
@@ -130,18 +105,16 @@ TEST_F(Tabelle, UnElementoContinuoErratoSiSpiegaConRigaEMotivo) {
         int riga;
         const char *motivo;
     };
-    for (const Caso &c :
-         {Caso{.file = "", .riga = 1, .motivo = "numero intero errato"},
-          {.file = "x", .riga = 1, .motivo = "numero intero errato"},
-          {.file = "1\nx 0 a\n0\n", .riga = 2, .motivo = "numero intero errato"},
-          {.file = "1\n1 0 a\n1\n40000", .riga = 4, .motivo = "numero intero errato"},
-          {.file = "1\n1 0 a\n301",
-          .riga = 3,
-          .motivo = "troppe aste nell'elemento continuo: 301 (al massimo 300)"},
-          {.file = "1\n1 0", .riga = 3, .motivo = "il file finisce prima delle voci annunciate"},
-          {.file = "1\n1 0 a\n2\n5\n",
-          .riga = 5,
-          .motivo = "il file finisce prima delle voci annunciate"}}) {
+    const char *const errato = "numero intero errato",
+                      *const troppe = "troppe aste nell'elemento continuo: 301 (al massimo 300)",
+                      *const corto = "il file finisce prima delle voci annunciate";
+    for (const Caso &c : {Caso{.file = "", .riga = 1, .motivo = errato},
+                          {.file = "x", .riga = 1, .motivo = errato},
+                          {.file = "1\nx 0 a\n0\n", .riga = 2, .motivo = errato},
+                          {.file = "1\n1 0 a\n1\n40000", .riga = 4, .motivo = errato},
+                          {.file = "1\n1 0 a\n301", .riga = 3, .motivo = troppe},
+                          {.file = "1\n1 0", .riga = 3, .motivo = corto},
+                          {.file = "1\n1 0 a\n2\n5\n", .riga = 5, .motivo = corto}}) {
         messaggi.clear();
         Scrivi("el_conti.tmp", c.file);
         EXPECT_FALSE(Esegui([] { LeggiElCont(); })) << '"' << c.file << '"';

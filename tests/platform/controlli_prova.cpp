@@ -33,17 +33,13 @@ TEST(Controlli, PostoVisibilitaEAbilitazioneSonoAncheDelGenitore) {
     etichetta.Posiziona(10, 20, 30, 40);
     EXPECT_EQ(etichetta.LeftAssoluto(), 110);
     EXPECT_EQ(etichetta.TopAssoluto(), 220);
-    EXPECT_EQ(etichetta.Width, 30);
-    EXPECT_EQ(etichetta.Height, 40);
-    EXPECT_TRUE(etichetta.VisibileDavvero());
-    EXPECT_TRUE(etichetta.AbilitatoDavvero());
-    cornice.Visible = cornice.Enabled = false;
-    EXPECT_FALSE(etichetta.VisibileDavvero());
-    EXPECT_FALSE(etichetta.AbilitatoDavvero());
-    cornice.Visible = cornice.Enabled = true;
-    etichetta.Visible = etichetta.Enabled = false;
-    EXPECT_FALSE(etichetta.VisibileDavvero());
-    EXPECT_FALSE(etichetta.AbilitatoDavvero());
+    for (const bool dellaCornice : {true, false})
+        for (const bool sua : {true, false}) {
+            cornice.Visible = cornice.Enabled = dellaCornice;
+            etichetta.Visible = etichetta.Enabled = sua;
+            EXPECT_EQ(etichetta.VisibileDavvero(), dellaCornice && sua);
+            EXPECT_EQ(etichetta.AbilitatoDavvero(), dellaCornice && sua);
+        }
 }
 
 TEST(Controlli, IlPariSenteSoloICambiamenti) {
@@ -61,33 +57,6 @@ TEST(Controlli, IlPariSenteSoloICambiamenti) {
     EXPECT_EQ(modulo.fuoco, &casella);
 }
 
-TEST(Controlli, UnOpzioneSceltaTogliLeAltreDellaSuaCornice) {
-    Modulo modulo{"m"};
-    Cornice cornice{&modulo, "cornice"};
-    Schiera<BottoneOpzione, 3> dentro{&modulo, "dentro", &cornice};
-    BottoneOpzione fuori{&modulo, "fuori"};
-    int scelte = 0;
-    dentro[1].Click = [&] { ++scelte; };
-    fuori.Value = dentro[0].Value = true;
-    dentro[1].Seleziona();
-    EXPECT_FALSE(dentro[0].Value);
-    EXPECT_TRUE(dentro[1].Value);
-    EXPECT_TRUE(fuori.Value) << "of another frame";
-    EXPECT_EQ(scelte, 1);
-    EXPECT_EQ(dentro[2].NomeControllo(), "dentro(2)");
-}
-
-TEST(Controlli, UnaSpuntaPremutaCambiaPoiAvvisa) {
-    Modulo modulo{"m"};
-    CasellaSpunta spunta{&modulo, "spunta"};
-    bool vista = false;
-    spunta.Click = [&] { vista = spunta.Value; };
-    spunta.Premi();
-    EXPECT_TRUE(vista) << "the tick had changed";
-    spunta.Premi();
-    EXPECT_FALSE(spunta.Value);
-}
-
 TEST(Controlli, LaRotellaRaccoglieGliScattiInteri) {
     struct Passo {
         int delta, scatti;
@@ -101,29 +70,6 @@ TEST(Controlli, LaRotellaRaccoglieGliScattiInteri) {
                            {.delta = -1, .scatti = -1},
                            {.delta = -360, .scatti = -3}})
         EXPECT_EQ(rotella.Aggiungi(p.delta), p.scatti) << "delta " << p.delta;
-}
-
-TEST(Controlli, UnaVoceDiMenuNasceAbilitataESenzaSpunta) {
-    Modulo modulo{"m"};
-    VoceMenu voce{&modulo, "voce"};
-    EXPECT_FALSE(voce.Checked);
-    EXPECT_TRUE(voce.Enabled);
-    EXPECT_EQ(modulo.voci, std::vector<VoceMenu *>{&voce});
-    EXPECT_TRUE(modulo.controlli.empty()) << "it has no place in the window";
-}
-
-TEST(Controlli, UnaFinestraChiusaLoEUnaVoltaSola) {
-    Modulo modulo{"m"};
-    int chiusure = 0;
-    modulo.Unload = [&] { ++chiusure; };
-    modulo.Chiudi();
-    EXPECT_EQ(chiusure, 0) << "not shown yet";
-    modulo.Mostra();
-    EXPECT_TRUE(modulo.Mostrata());
-    modulo.Chiudi();
-    modulo.Chiudi();
-    EXPECT_EQ(chiusure, 1);
-    EXPECT_FALSE(modulo.Mostrata());
 }
 
 } // namespace telva::prove

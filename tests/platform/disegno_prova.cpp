@@ -59,59 +59,26 @@ TEST_F(RiquadroProva, UnaPosizioneLontanissimaSiFermaAlLimite) {
     }
 }
 
-TEST_F(RiquadroProva, UnaLineaAccendeIPixelDellaSuaPenna) {
+TEST_F(RiquadroProva, DiUnaLineaSmisurataSiVedeCioCheCadeNelRiquadro) {
     struct Caso {
         const char *che;
         double x1, y1, x2, y2;
-        int penna = 1;
-        Tratteggio tratto{};
         std::ptrdiff_t accesi;
+        int penna = 1;
     };
-    for (const Caso &c :
-         {Caso{.che = "a point", .x1 = 0, .y1 = 0, .x2 = 0, .y2 = 0, .accesi = 1},
-          {.che = "pen 0 counts as 1", .x1 = 0, .y1 = 0, .x2 = 8, .y2 = 0, .penna = 0, .accesi = 5},
-          {.che = "every second pixel",
-          .x1 = 0,
-          .y1 = 0,
-          .x2 = 38,
-          .y2 = 0,
-          .tratto = {1, 2},
-          .accesi = 10},
-          {.che = "level, from beyond", .x1 = -1e15, .y1 = 0, .x2 = 1e15, .y2 = 0, .accesi = 100},
-          {.che = "upright and wide, from beyond",
-          .x1 = 4,
-          .y1 = 1e15,
-          .x2 = 4,
-          .y2 = -1e15,
-          .penna = 4,
-          .accesi = 4 * 50},
-          {.che = "from (-10,-10) to (30,30)",
-          .x1 = -1e12,
-          .y1 = -1e12,
-          .x2 = 1e12,
-          .y2 = 1e12,
-          .accesi = 21},
-          {.che = "beyond the left edge",
-          .x1 = -1e12,
-          .y1 = -1e12,
-          .x2 = -1e12,
-          .y2 = 1e12,
-          .accesi = 0},
-          {.che = "beyond the upper edge",
-          .x1 = -1e12,
-          .y1 = 1e11,
-          .x2 = 1e12,
-          .y2 = 1e11,
-          .accesi = 0},
-          {.che = "one end is no number",
-          .x1 = 0,
-          .y1 = 0,
-          .x2 = std::nan(""),
-          .y2 = 0,
-          .accesi = 0}}) {
+    const double nan = std::nan("");
+    const Caso casi[] = {
+        {.che = "pen 0 is 1", .x1 = 0, .y1 = 0, .x2 = 8, .y2 = 0, .accesi = 5, .penna = 0},
+        {.che = "level", .x1 = -1e15, .y1 = 0, .x2 = 1e15, .y2 = 0, .accesi = 100},
+        {.che = "wide", .x1 = 4, .y1 = 1e15, .x2 = 4, .y2 = -1e15, .accesi = 4 * 50, .penna = 4},
+        {.che = "slanting", .x1 = -1e12, .y1 = -1e12, .x2 = 1e12, .y2 = 1e12, .accesi = 21},
+        {.che = "to the left", .x1 = -1e12, .y1 = -1e12, .x2 = -1e12, .y2 = 1e12, .accesi = 0},
+        {.che = "above", .x1 = -1e12, .y1 = 1e11, .x2 = 1e12, .y2 = 1e11, .accesi = 0},
+        {.che = "no number", .x1 = 0, .y1 = 0, .x2 = nan, .y2 = 0, .accesi = 0}};
+    for (const Caso &c : casi) {
         d.Cls();
         d.DrawWidth = c.penna;
-        d.Line(c.x1, c.y1, c.x2, c.y2, kRosso, c.tratto);
+        d.Line(c.x1, c.y1, c.x2, c.y2, kRosso);
         EXPECT_EQ(Accesi(), c.accesi) << c.che;
     }
 }
@@ -140,106 +107,10 @@ TEST_F(RiquadroProva, UnaLineaDaLontanissimoPassaDovePasserebbe) {
     }
 }
 
-TEST_F(RiquadroProva, UnCerchioHaIlRaggioNelleUnitaDelDisegno) {
-    d.Circle(50, 0, 20, kRosso);
-    const Superficie &s = d.Immagine();
-    EXPECT_EQ(s.Leggi(20, 15), kRossoPixel) << "left end";
-    EXPECT_EQ(s.Leggi(40, 15), kRossoPixel) << "right end";
-    EXPECT_EQ(s.Leggi(30, 5), kRossoPixel) << "top";
-    EXPECT_EQ(s.Leggi(30, 15), 0u) << "centre";
-    EXPECT_EQ(s.Leggi(41, 15), 0u) << "beyond";
-}
-
 TEST_F(RiquadroProva, UnCerchioLontanissimoNonSiVede) {
     d.Circle(1e300, 0, 20, kRosso);
     d.Circle(0, std::nan(""), 20, kRosso);
     EXPECT_EQ(Accesi(), 0);
-}
-
-// Glyphs of a wide pen or far from their place are drawn line by line.
-TEST_F(RiquadroProva, ITrattiDiUnaLetteraConOgniPenna) {
-    Tratti lettera;
-    lettera.Aggiungi(0, 0, 8, -10);
-    lettera.Aggiungi(8, -10, 3, 4);
-    for (const int penna : {1, 3}) {
-        d.Cls();
-        d.DrawWidth = penna;
-        d.LineeTratti(lettera, 50, 0, kRosso); // pixel (30, 15)
-        const Superficie tracciata = d.Immagine();
-        d.Cls();
-        d.Line(50, 0, 66, 20, kRosso);
-        d.Line(66, 20, 56, -8, kRosso);
-        EXPECT_TRUE(std::equal(tracciata.Riga(0), tracciata.Riga(50), d.Immagine().Riga(0)))
-            << "pen " << penna;
-    }
-}
-
-TEST_F(RiquadroProva, IlFondoHaIlSuoColoreELaMisuraDelRiquadro) {
-    d.BackColor = 0x102030;
-    d.Width = 600;
-    d.Cls();
-    EXPECT_EQ(d.Immagine().Larghezza(), 40);
-    EXPECT_EQ(d.Immagine().Altezza(), 50);
-    EXPECT_EQ(d.Immagine().Leggi(39, 49), 0x302010u);
-    EXPECT_EQ(d.UnitaPerPixel(), 5) << "the same units on fewer pixels";
-}
-
-struct ElasticiVisti : RiquadroProva {
-    ElasticiVisti() {
-        d.Shape.Left = 20; // pixels (15,5) to (65,25)
-        d.Shape.Top = 20;
-        d.Shape.Width = 100;
-        d.Shape.Height = 40;
-        d.LineSposta.X1 = 0; // pixels (5,40) to (20,40)
-        d.LineSposta.Y1 = -50;
-        d.LineSposta.X2 = 30;
-        d.LineSposta.Y2 = -50;
-    }
-    // True when the rubber bands cover the pixel.
-    bool Coperto(Pixel p) {
-        Superficie composta;
-        d.ComponiElastici(composta, {0, 0, 100, 50});
-        return composta.Leggi(p.x, p.y) != d.Immagine().Leggi(p.x, p.y);
-    }
-};
-
-TEST_F(ElasticiVisti, SiVedonoSoloDoveSono) {
-    struct Caso {
-        const char *dove;
-        Pixel p;
-        bool rettangolo, segmento;
-    };
-    for (const Caso &c :
-         {Caso{.dove = "upper left corner", .p = {15, 5}, .rettangolo = true, .segmento = false},
-          {.dove = "upper right corner", .p = {65, 5}, .rettangolo = true, .segmento = false},
-          {.dove = "lower right corner", .p = {65, 25}, .rettangolo = true, .segmento = false},
-          {.dove = "lower left corner", .p = {15, 25}, .rettangolo = true, .segmento = false},
-          {.dove = "middle of the right side",
-          .p = {65, 15},
-          .rettangolo = true,
-          .segmento = false},
-          {.dove = "middle of the rectangle",
-          .p = {40, 15},
-          .rettangolo = false,
-          .segmento = false},
-          {.dove = "first end", .p = {5, 40}, .rettangolo = false, .segmento = true},
-          {.dove = "second end", .p = {20, 40}, .rettangolo = false, .segmento = true},
-          {.dove = "beyond the segment", .p = {26, 40}, .rettangolo = false, .segmento = false}}) {
-        d.Shape.Visible = true;
-        d.LineSposta.Visible = false;
-        EXPECT_EQ(Coperto(c.p), c.rettangolo) << c.dove << " of the rectangle's picture";
-        d.Shape.Visible = false;
-        d.LineSposta.Visible = true;
-        EXPECT_EQ(Coperto(c.p), c.segmento) << c.dove << " of the segment's picture";
-    }
-}
-
-TEST_F(ElasticiVisti, NonRestanoNelDisegno) {
-    const Superficie prima = d.Immagine();
-    d.Shape.Visible = d.LineSposta.Visible = true;
-    Superficie composta;
-    d.ComponiElastici(composta, {0, 0, 100, 50});
-    EXPECT_TRUE(std::equal(prima.Riga(0), prima.Riga(50), d.Immagine().Riga(0)));
 }
 
 } // namespace telva::prove

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace telva::prove {
 namespace {
+
+using Elenco = std::vector<std::string>;
 
 FileTesto Aperto(const std::string &byte) {
     FileTesto file;
@@ -15,36 +15,28 @@ FileTesto Aperto(const std::string &byte) {
     return file;
 }
 
-std::vector<std::string> Righe(const std::string &byte) {
+Elenco Righe(const std::string &byte) {
     FileTesto file = Aperto(byte);
-    std::vector<std::string> righe;
+    Elenco righe;
     for (std::string riga; file.LeggiRigaTesto(riga);) righe.push_back(riga);
     return righe;
 }
 
-std::vector<std::string> Testi(const std::string &byte) {
+Elenco Testi(const std::string &byte) {
     FileTesto file = Aperto(byte);
-    std::vector<std::string> testi;
+    Elenco testi;
     for (std::string testo; file.LeggiTesto(testo) == Lettura::Riuscita;) testi.push_back(testo);
     return testi;
 }
 
-// A number read, or what was wrong with it, and the line it stood on.
-struct Numero {
-    std::string valore;
-    int riga;
-    friend bool operator==(const Numero &, const Numero &) = default;
-};
-
-void PrintTo(const Numero &n, std::ostream *dove) { *dove << n.valore << " at line " << n.riga; }
-
-std::vector<Numero> Numeri(const std::string &byte) {
+// Numbers as they are read, each with the line it stands on: "1 @2", "malformato @3".
+Elenco Numeri(const std::string &byte) {
     FileTesto file = Aperto(byte);
-    std::vector<Numero> numeri;
+    Elenco numeri;
     double valore = 0;
     for (Lettura esito; (esito = file.LeggiNumero(valore)) != Lettura::FineFile;)
-        numeri.push_back(
-            {esito == Lettura::Riuscita ? TestoNumero(valore) : "malformato", file.Riga()});
+        numeri.push_back((esito == Lettura::Riuscita ? TestoNumero(valore) : "malformato") + " @" +
+                         std::to_string(file.Riga()));
     return numeri;
 }
 
@@ -63,31 +55,41 @@ const std::string kMarcaUtf8 = "\xEF\xBB\xBF";
 
 } // namespace
 
-using Elenco = std::vector<std::string>;
-
 TEST(FileTesto, UnNumeroFinisceAVirgolaBiancoORiga) {
     EXPECT_EQ(Numeri(" 1 , -2.5\t3\r\n \r\n4,,5"),
-              (std::vector<Numero>{{"1", 1}, {"-2.5", 1}, {"3", 1}, {"4", 3}, {"0", 3}, {"5", 3}}));
+              (Elenco{"1 @1", "-2.5 @1", "3 @1", "4 @3", "0 @3", "5 @3"}));
 }
 
 TEST(FileTesto, UnNumeroMalformatoSiConsumaESiProsegue) {
-    for (const char *storto : {"1x", "-", "nan", "-inf", "1e999", "1;2"})
-        EXPECT_EQ(Numeri(std::string(storto) + " 7"),
-                  (std::vector<Numero>{{"malformato", 1}, {"7", 1}}))
-            << storto;
+    for (const char *storto : {"1x", "-", "nan", "-inf", "1e999", "1;2"}) {
+        EXPECT_EQ(Numeri(std::string(storto) + " 7"), (Elenco{"malformato @1", "7 @1"})) << storto;
+        FileTesto file = Aperto(storto);
+        double valore = 5;
+        file.LeggiNumero(valore);
+        EXPECT_EQ(valore, 5) << "the value before " << storto;
+    }
 }
 
-TEST(FileTesto, DopoUnNumeroSiLeggeIlRestoDellaRiga) {
-    const struct {
-        std::string byte, resto;
-    } casi[] = {{"1 \r\nb", "b"}, {"1, b", " b"}, {"1,\nb", ""}, {"1\rb", "b"}};
-    for (const auto &caso : casi) {
-        FileTesto file = Aperto(caso.byte);
+TEST(FileTesto, DopoUnNumeroSiLeggeOSiSaltaIlRestoDellaRiga) {
+    struct Caso {
+        const char *byte, *resto;
+    };
+    for (const Caso &c : {Caso{.byte = "1 \r\nb", .resto = "b"},
+                          {.byte = "1, b\nb", .resto = " b"},
+                          {.byte = "1,\nb", .resto = ""},
+                          {.byte = "1 2 3\nb", .resto = "2 3"},
+                          {.byte = "1\rb", .resto = "b"}}) {
+        FileTesto file = Aperto(c.byte);
         double numero = 0;
-        std::string resto;
-        EXPECT_EQ(file.LeggiNumero(numero), Lettura::Riuscita) << caso.byte;
-        EXPECT_TRUE(file.LeggiRigaTesto(resto)) << caso.byte;
-        EXPECT_EQ(resto, caso.resto) << caso.byte;
+        std::string resto, dopo;
+        EXPECT_EQ(file.LeggiNumero(numero), Lettura::Riuscita) << c.byte;
+        EXPECT_TRUE(file.LeggiRigaTesto(resto)) << c.byte;
+        EXPECT_EQ(resto, c.resto) << c.byte;
+        file = Aperto(c.byte);
+        file.LeggiNumero(numero);
+        file.FinisciRiga();
+        EXPECT_TRUE(file.LeggiRigaTesto(dopo)) << c.byte;
+        EXPECT_EQ(dopo, "b") << c.byte;
     }
 }
 
@@ -113,14 +115,13 @@ TEST(FileTesto, CrLfEDueInsiemeChiudonoCiascunoUnaRiga) {
     EXPECT_EQ(Righe("a\r"), Elenco{"a"});
     EXPECT_EQ(Testi("a\rb\r\"c\rd\"\re"), (Elenco{"a", "b", "c\rd", "e"}));
     EXPECT_EQ(Numeri("1\r2,3\r\r4\r\n\"\r\n\r\n\"5"),
-              (std::vector<Numero>{
-                  {"1", 1}, {"2", 2}, {"3", 2}, {"4", 4}, {"malformato", 5}, {"malformato", 7}}));
+              (Elenco{"1 @1", "2 @2", "3 @2", "4 @4", "malformato @5", "malformato @7"}));
 }
 
 TEST(FileTesto, IlByte1AChiudeIlFile) {
     EXPECT_EQ(Righe("uno\r\ndue\x1Atre\r\nquattro"), (Elenco{"uno", "due"}));
     EXPECT_EQ(Righe("uno\r\n\x1A"), Elenco{"uno"});
-    EXPECT_EQ(Numeri("1,2\x1A,3"), (std::vector<Numero>{{"1", 1}, {"2", 1}}));
+    EXPECT_EQ(Numeri("1,2\x1A,3"), (Elenco{"1 @1", "2 @1"}));
     EXPECT_EQ(Testi("\"a\x1A\" b"), Elenco{"a"});
     EXPECT_EQ(Righe(kMarcaUtf8 + "uno\x1A due"), Elenco{"uno"});
     EXPECT_EQ(Righe(Utf16(u"uno\u001A due", false)), Elenco{"uno"});
@@ -149,8 +150,7 @@ TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
     };
     for (const auto &caso : casi) EXPECT_EQ(Righe(caso.byte), caso.righe) << caso.come;
     EXPECT_EQ(Testi(kMarcaUtf8 + "\"Ω, x\", è"), (Elenco{"Ω, x", "è"}));
-    EXPECT_EQ(Numeri(Utf16(u"1,2.5\r\n3", true)),
-              (std::vector<Numero>{{"1", 1}, {"2.5", 1}, {"3", 2}}));
+    EXPECT_EQ(Numeri(Utf16(u"1,2.5\r\n3", true)), (Elenco{"1 @1", "2.5 @1", "3 @2"}));
 }
 
 TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {
@@ -175,27 +175,6 @@ TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {
         double letto = -1;
         EXPECT_EQ(file.LeggiNumero(letto), Lettura::Riuscita) << n.testo;
         EXPECT_EQ(letto, n.valore) << n.testo;
-    }
-}
-
-TEST(FileTesto, UnNumeroMancatoLasciaQuelloDiPrima) {
-    FileTesto file = Aperto("x");
-    double valore = 5;
-    EXPECT_EQ(file.LeggiNumero(valore), Lettura::Malformata);
-    EXPECT_EQ(valore, 5);
-    EXPECT_EQ(file.LeggiNumero(valore), Lettura::FineFile);
-    EXPECT_EQ(valore, 5);
-}
-
-TEST(FileTesto, FinireLaRigaNonMangiaLaSeguente) {
-    for (const char *byte : {"1 2 3\nb", "1\nb", "1\r\nb", "1,\nb", "1 \nb"}) {
-        FileTesto file = Aperto(byte);
-        double numero = 0;
-        std::string riga;
-        file.LeggiNumero(numero);
-        file.FinisciRiga();
-        file.LeggiRigaTesto(riga);
-        EXPECT_EQ(riga, "b") << byte;
     }
 }
 

@@ -1,71 +1,37 @@
-// What need not be drawn twice: wide lines that stand there already, and pictures between two
-// events that come together.
+// Wide lines that stand there already are not drawn twice.
 #include "platform/disegno.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace telva::prove {
 namespace {
 
-TEST(Trattenute, DiVarieImmaginiUnaSola) {
-    Modulo modulo{"prova"};
-    RiquadroDisegno d{&modulo, "Disegno"};
-    int immagini = 0;
-    d.Ridisegna = [&] { ++immagini; };
-    d.Trattieni();
-    EXPECT_TRUE(d.Rimandata());
-    d.Trattieni(); // nested
-    EXPECT_TRUE(d.Rimandata());
-    d.Rilascia();
-    EXPECT_EQ(immagini, 0) << "still held by the first";
-    d.Rilascia();
-    EXPECT_EQ(immagini, 1);
-    EXPECT_FALSE(d.Rimandata()) << "nothing is held any more";
-    d.Trattieni();
-    d.Rilascia();
-    EXPECT_EQ(immagini, 1) << "none was asked for";
-}
-
 // Equal wide lines in one colour are drawn once: whatever comes between has to make them again.
 TEST(Ripetute, UnaLineaLargaRestaSopraCioCheEVenutoPrima) {
-    struct Caso {
-        const char *nome;
-        void (*inMezzo)(Superficie &s);
-    };
     constexpr std::uint32_t kLinea = 7, kAltro = 9;
-    constexpr Pixel a{10, 10}, b{30, 20}, mezzo{20, 15};
-    for (const Caso &c :
-         {Caso{.nome = "nothing", .inMezzo = [](Superficie &) {}},
-          {.nome = "the background", .inMezzo = [](Superficie &s) { s.Riempi(0); }},
-          {.nome = "a thin line",
-          .inMezzo =
-               [](Superficie &s) {
-                   s.Linea({0, 15}, {39, 15}, kAltro);
-               }},
-          {.nome = "a dashed line",
-          .inMezzo =
-               [](Superficie &s) {
-                   s.LineaTratteggiata({20, 0}, {20, 29}, kAltro, {1, 1});
-               }},
-          {.nome = "a wide line",
-          .inMezzo =
-               [](Superficie &s) {
-                   s.LineaLarga({20, 0}, {20, 29}, 5, kAltro);
-               }},
-          {.nome = "a circle", .inMezzo = [](Superficie &s) { s.Cerchio(mezzo, 0, 9, kAltro); }},
-          {.nome = "another surface", .inMezzo = [](Superficie &s) {
-               Superficie vuota;
-               vuota.Ridimensiona(40, 30);
-               vuota.Riempi(0);
-               s.CopiaZona(vuota, {0, 0, 40, 30});
-           }}}) {
-        Superficie s;
-        s.Ridimensiona(40, 30);
+    constexpr Pixel a{10, 10}, b{30, 20}, mezzo{20, 15}, sopra{20, 0}, sotto{20, 29};
+    constexpr ZonaPixel tutto{0, 0, 40, 30};
+    constexpr Tratteggio continuo{1, 1};
+    Superficie s, vuota;
+    for (Superficie *superficie : {&s, &vuota}) {
+        superficie->Ridimensiona(40, 30);
+        superficie->Riempi(0);
+    }
+    const std::pair<const char *, std::function<void()>> inMezzo[] = {
+        {"nothing", [] {}},
+        {"the background", [&] { s.Riempi(0); }},
+        {"a thin line", [&] { s.Linea(sopra, sotto, kAltro); }},
+        {"a dashed line", [&] { s.LineaTratteggiata(sopra, sotto, kAltro, continuo); }},
+        {"a wide line", [&] { s.LineaLarga(sopra, sotto, 5, kAltro); }},
+        {"a circle", [&] { s.Cerchio(mezzo, 0, 9, kAltro); }},
+        {"another surface", [&] { s.CopiaZona(vuota, tutto); }}};
+    for (const auto &[che, disegna] : inMezzo) {
         s.Riempi(0);
         s.LineaLarga(a, b, 4, kLinea);
-        c.inMezzo(s);
+        disegna();
         s.LineaLarga(b, a, 4, kLinea); // from the other end, as the neighbour's side
-        EXPECT_EQ(s.Leggi(mezzo.x, mezzo.y), kLinea) << "after " << c.nome;
+        EXPECT_EQ(s.Leggi(mezzo.x, mezzo.y), kLinea) << "after " << che;
     }
 }
 

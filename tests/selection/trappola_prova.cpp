@@ -1,4 +1,4 @@
-// Direct pick, at one drawing unit a pixel with an aperture of 5.
+// Direct pick to the very edge, at one drawing unit a pixel with an aperture of 5.
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
 #include "selection/selezione.h"
@@ -46,16 +46,13 @@ struct TrappolaProva : Banco {
         FormTelva.OptElem[tipo].Seleziona();
         return SelezioneDiretta(dove.x, dove.y);
     }
-    struct Clic {
-        Luogo dove;
-        int preso; // its name, 0 for none
-    };
-    void Controlla(int tipo, const std::vector<Clic> &clic) {
-        for (const auto &[dove, preso] : clic) {
+    // A click at each of these places takes `nome`, 0 for nothing; none does without an aperture.
+    void Prende(int tipo, int nome, const std::vector<Luogo> &luoghi) {
+        for (const Luogo &l : luoghi) {
             OpzInt[1] = 5;
-            EXPECT_EQ(Preso(tipo, dove), preso) << "at " << dove.x << ", " << dove.y;
+            EXPECT_EQ(Preso(tipo, l), nome) << "at " << l.x << ", " << l.y;
             OpzInt[1] = 0;
-            EXPECT_EQ(Preso(tipo, dove), 0) << "without an aperture";
+            EXPECT_EQ(Preso(tipo, l), 0) << "without an aperture";
         }
     }
 };
@@ -75,23 +72,15 @@ TEST_F(TrappolaProva, DiUnNodoContaLaDistanzaEPoiLOrdine) {
     AttNodo[6] = 0;  // 7 is not shown
     ColNodo[7] = 0;  // 8 has no colour
     NomeNodo[8] = 0; // 9 is absent
-    Controlla(kNodiTipo, {{.dove = {100, 20}, .preso = 1},
-                          {.dove = {100, 40}, .preso = 4},
-                          {.dove = {100, 60}, .preso = 0},
-                          {.dove = {100, 80}, .preso = 6},
-                          {.dove = {100, 100}, .preso = 10},
-                          {.dove = {100, 120}, .preso = 11},
-                          {.dove = {100, 140}, .preso = 13},
-                          {.dove = {100, 160}, .preso = 16},
-                          {.dove = {100, 180}, .preso = 18}});
-}
-
-TEST_F(TrappolaProva, ConcorronoSoloIPrimiCinquanta) {
-    for (int nome = 1; nome <= 49; ++nome) Nodo({103, 200}, nome);
-    Nodo({102, 200}, 50);
-    Nodo({101, 200}, 51);
-    ApriAlPixel();
-    EXPECT_EQ(Preso(kNodiTipo, {100, 200}), 50) << "51 is nearer, but comes too late";
+    Prende(kNodiTipo, 1, {{100, 20}});
+    Prende(kNodiTipo, 4, {{100, 40}});
+    Prende(kNodiTipo, 0, {{100, 60}});
+    Prende(kNodiTipo, 6, {{100, 80}});
+    Prende(kNodiTipo, 10, {{100, 100}});
+    Prende(kNodiTipo, 11, {{100, 120}});
+    Prende(kNodiTipo, 13, {{100, 140}});
+    Prende(kNodiTipo, 16, {{100, 160}});
+    Prende(kNodiTipo, 18, {{100, 180}});
 }
 
 TEST_F(TrappolaProva, UnAstaSiPrendeLungoLaSuaLineaEUnPoOltre) {
@@ -100,31 +89,11 @@ TEST_F(TrappolaProva, UnAstaSiPrendeLungoLaSuaLineaEUnPoOltre) {
     Asta({50, 20}, {50.0099, 20}); // seen from its end: a length below 0.01 is none
     Asta({50, 6}, {50.0101, 6});
     ApriAlPixel();
-    Controlla(kAsteTipo, {{.dove = {115, 504.9}, .preso = 1},
-                          {.dove = {115, 505}, .preso = 0},
-                          {.dove = {134.9, 500}, .preso = 1},
-                          {.dove = {135, 500}, .preso = 0},
-                          {.dove = {95.1, 503}, .preso = 1},
-                          {.dove = {95, 500}, .preso = 0},
-                          {.dove = {434.9, 534.9}, .preso = 2},
-                          {.dove = {435, 535}, .preso = 0},
-                          {.dove = {418, 512}, .preso = 2},
-                          {.dove = {419, 511}, .preso = 0},
-                          {.dove = {50, 20}, .preso = 0},
-                          {.dove = {50, 6}, .preso = 4}});
-}
-
-TEST_F(TrappolaProva, DiUnElementoContinuoContaLUltimaAstaToccata) {
-    Asta({700, 0}, {700, 40});
-    Asta({701, 0}, {701, 40});
-    Asta({702, 0}, {702, 40});
-    Asta({100, 500}, {130, 500}); // of no element
-    for (const int asta : {1, 2, 3})
-        lavoro.elementi.push_back({.numero = asta * 10, .nome = "", .aste = {asta}});
-    ApriAlPixel();
-    AttAsta[2] = 0;
-    EXPECT_EQ(Preso(kAsteTipo, {700, 20}), 1);
-    Controlla(kElContTipo, {{.dove = {700, 20}, .preso = 20}, {.dove = {115, 500}, .preso = 0}});
+    Prende(kAsteTipo, 1, {{115, 504.9}, {134.9, 500}, {95.1, 503}});
+    Prende(kAsteTipo, 0, {{115, 505}, {135, 500}, {95, 500}});
+    Prende(kAsteTipo, 2, {{434.9, 534.9}, {418, 512}});
+    Prende(kAsteTipo, 0, {{435, 535}, {419, 511}, {50, 20}});
+    Prende(kAsteTipo, 4, {{50, 6}});
 }
 
 TEST_F(TrappolaProva, UnGuscioSiPrendeDaDentro) {
@@ -134,38 +103,12 @@ TEST_F(TrappolaProva, UnGuscioSiPrendeDaDentro) {
     Guscio({200, 0}, {240, 0}, {240, 40}, {}, Quarto::Nessuno); // over the second
     Guscio({300, 0}, {340, 0}, {340, 40}, {}, Quarto::Zero);    // picked as a triangle
     ApriAlPixel();
-    Controlla(kGusciTipo, {{.dove = {40, 20}, .preso = 1},
-                           {.dove = {20, 20}, .preso = 1},
-                           {.dove = {60, 40}, .preso = 1},
-                           {.dove = {60.001, 20}, .preso = 0},
-                           {.dove = {40, 40.001}, .preso = 0},
-                           {.dove = {10, 40}, .preso = 0},
-                           {.dove = {40, 4e-5}, .preso = 1}, // an edge this flat is level
-                           {.dove = {70, 4e-5}, .preso = 0},
-                           {.dove = {10, 4e-5}, .preso = 0},
-                           {.dove = {230, 10}, .preso = 2},
-                           {.dove = {220, 20}, .preso = 2},
-                           {.dove = {210, 30}, .preso = 0},
-                           {.dove = {330, 10}, .preso = 4},
-                           {.dove = {310, 30}, .preso = 0}});
-    EXPECT_EQ(Preso(kParetiTipo, {40, 20}), 0);
-}
-
-TEST_F(TrappolaProva, SiPrendeCioCheLaFunzioneCambia) {
-    Nodo({103, 20}, 1);
-    Nodo({97, 20}, 2);
-    Nodo({103, 40}, 3);
-    Nodo({101, 40}, 4);
-    ApriAlPixel();
-    EXPECT_EQ(Preso(kNodiTipo, {100, 20}), 1);
-    SelNodo[0] = 1;
-    EXPECT_EQ(Preso(kNodiTipo, {100, 20}), 2) << "what is left to add";
-    SelNodo[1] = 1;
-    EXPECT_EQ(Preso(kNodiTipo, {100, 20}), 1) << "nothing is left: the nearest";
-    SelNodo[0] = 0;
-    CodFunAttiva = kRimuovi;
-    EXPECT_EQ(Preso(kNodiTipo, {100, 20}), 2) << "what can be removed";
-    EXPECT_EQ(Preso(kNodiTipo, {100, 40}), 4) << "the nearest when nothing can";
+    // An edge as flat as the first one of shell 1 is level.
+    Prende(kGusciTipo, 1, {{40, 20}, {20, 20}, {60, 40}, {40, 4e-5}});
+    Prende(kGusciTipo, 0, {{60.001, 20}, {40, 40.001}, {10, 40}, {70, 4e-5}, {10, 4e-5}});
+    Prende(kGusciTipo, 2, {{230, 10}, {220, 20}});
+    Prende(kGusciTipo, 0, {{210, 30}, {310, 30}});
+    Prende(kGusciTipo, 4, {{330, 10}});
 }
 
 } // namespace telva::prove

@@ -5,6 +5,7 @@
 #include "view/colori.h"
 #include "view/salva_dis_cond.h"
 #include <algorithm>
+#include <array>
 
 namespace telva::prove {
 
@@ -15,25 +16,15 @@ struct SalvaDis : Banco {
     }
 };
 
-TEST_F(SalvaDis, UnSegmentoSottoUnDecimillesimoNonSiRegistra) {
-    struct Caso {
-        double x1, y1, x2, y2;
-        bool registrato;
-    };
-    for (const Caso &c : {Caso{.x1 = 0, .y1 = 0, .x2 = 1, .y2 = 0, .registrato = true},
-                          {.x1 = 5, .y1 = 5, .x2 = 5.00009, .y2 = 5.00009, .registrato = false},
-                          {.x1 = 5, .y1 = 5, .x2 = 5.00011, .y2 = 5, .registrato = true},
-                          {.x1 = 5, .y1 = 5, .x2 = 5, .y2 = 4.99989, .registrato = true}}) {
-        AzzeraDisegno();
-        DisLinea(c.x1, c.y1, c.x2, c.y2);
-        EXPECT_EQ(NumElemDis, c.registrato ? 1 : 0) << "to (" << c.x2 << "," << c.y2 << ")";
-    }
-}
-
-TEST_F(SalvaDis, IPuntiViciniSonoLoStesso) {
+TEST_F(SalvaDis, PuntiPiuViciniDiUnDecimillesimoSonoLoStesso) {
+    DisLinea(5, 5, 5.00009, 5.00009);
+    EXPECT_EQ(NumElemDis, 0) << "nothing to record";
+    DisLinea(5, 5, 5.00011, 5);
+    DisLinea(5, 5, 5, 4.99989);
+    EXPECT_EQ(NumElemDis, 2);
+    AzzeraDisegno();
     DisLinea(0, 0, 1, 0);
     DisLinea(0.00009, 0, 1, 0.00009);
-    EXPECT_EQ(NumElemDis, 2);
     EXPECT_EQ(NumCoordDis, 2) << "the ends are shared";
     EXPECT_EQ(ElemDisIni[1], ElemDisIni[0]);
     EXPECT_EQ(ElemDisFin[1], ElemDisFin[0]);
@@ -55,18 +46,10 @@ TEST_F(SalvaDis, UnSegmentoHaColoreTipoEScostamentoCorrenti) {
 }
 
 TEST_F(SalvaDis, UnPuntoSiCercaFraGliUltimiTrentuno) {
-    struct Caso {
-        int dopo; // points added after the one looked for
-        bool ritrovato;
-    };
-    for (const Caso &c : {Caso{.dopo = 29, .ritrovato = true},
-                          {.dopo = 30, .ritrovato = true},
-                          {.dopo = 31, .ritrovato = false},
-                          {.dopo = 40, .ritrovato = false}}) {
-        AzzeraDisegno();
-        for (int n = 0; n <= c.dopo; ++n) AggiungiCoordinata(n, 0);
-        EXPECT_EQ(AggiungiCoordinata(0, 0), c.ritrovato ? 0 : c.dopo + 1) << c.dopo << " after it";
-    }
+    for (int n = 0; n <= 30; ++n) AggiungiCoordinata(n, 0);
+    EXPECT_EQ(AggiungiCoordinata(0, 0), 0) << "the first of 31";
+    AggiungiCoordinata(31, 0);
+    EXPECT_EQ(AggiungiCoordinata(0, 0), 32) << "no longer found";
 }
 
 TEST_F(SalvaDis, LaTabellaDelleCoordinatePienaSiAvvisaERifiuta) {
@@ -185,51 +168,73 @@ struct LettereProva : Banco {
         }
         return d.Immagine();
     }
-    static void Uguali(const Superficie &vista, const Superficie &attesa, const std::string &che) {
-        int diversi = 0, accesi = 0;
-        for (int y = 0; y < attesa.Altezza(); ++y)
-            for (int x = 0; x < attesa.Larghezza(); ++x) {
-                diversi += vista.Leggi(x, y) != attesa.Leggi(x, y);
-                accesi += attesa.Leggi(x, y) != 0;
-            }
-        EXPECT_EQ(diversi, 0) << "pixels: " << che;
-        EXPECT_GT(accesi, 9) << "something to see: " << che;
+    void StampateComeTracciate(const Scrittura &s, const char *che) {
+        const Superficie vista = Disegnata(s), attesa = Tracciata(s);
+        const std::uint32_t *inizio = attesa.Riga(0), *fine = attesa.Riga(attesa.Altezza());
+        EXPECT_TRUE(std::equal(inizio, fine, vista.Riga(0))) << s.testo << ", " << che;
+        EXPECT_GT(fine - inizio - std::count(inizio, fine, 0U), 9) << s.testo << ", " << che;
     }
 };
 
 TEST_F(LettereProva, LeLettereTimbrateSonoQuelleTracciate) {
-    for (const Scrittura &s : {
-             Scrittura{.testo = "A8g", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7},
-             {.testo = "A8g", .x = 20.25, .y = 30.5, .angolo = 0, .base = 9.25, .altezza = 13.7},
-             {.testo = "Wq\u00E0", .x = 60, .y = 40, .angolo = 90, .base = 12, .altezza = 17.3},
-             {.testo = "M", .x = 60.75, .y = 40.25, .angolo = 37, .base = 23.3, .altezza = 31.1},
-             {.testo = "M", .x = -6, .y = -4, .angolo = 0, .base = 23.3, .altezza = 31.1},
-             {.testo = "M", .x = 290, .y = 190, .angolo = 0, .base = 23.3, .altezza = 31.1},
-             {.testo = "R2", .x = 20.1, .y = 30.3, .angolo = 0, .base = 110.3, .altezza = 90.7},
-         })
-        Uguali(Disegnata(s), Tracciata(s),
-               std::string(s.testo) + ", height " + std::to_string(s.altezza));
-}
-
-TEST_F(LettereProva, UnAltraMisuraOUnAltraScalaRifaILoroPixel) {
-    const Scrittura piccola{
-        .testo = "A", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7};
-    Scrittura larga = piccola, alta = piccola, girata = piccola;
+    const Scrittura base{.testo = "A8g", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7};
+    Scrittura spostata = base, larga = base, alta = base;
+    spostata.x = 20.25, spostata.y = 30.5, spostata.base = 9.25;
+    larga.testo = alta.testo = "A";
     larga.base = 14.3;
     alta.altezza = 21.1;
-    girata.angolo = 90;
-    for (const Scrittura &s : {piccola, larga, alta, girata, piccola})
-        Uguali(Disegnata(s), Tracciata(s), "one size after the other");
+    for (const Scrittura &s : {base, spostata, larga, alta, base})
+        StampateComeTracciate(s, "one size after the other");
+    for (const Scrittura &s :
+         {Scrittura{.testo = "Wq", .x = 60, .y = 40, .angolo = 90, .base = 12, .altezza = 17.3},
+          {.testo = "M", .x = 60.75, .y = 40.25, .angolo = 37, .base = 23.3, .altezza = 31.1},
+          {.testo = "M", .x = -6, .y = -4, .angolo = 0, .base = 23.3, .altezza = 31.1},
+          {.testo = "M", .x = 290, .y = 190, .angolo = 0, .base = 23.3, .altezza = 31.1},
+          {.testo = "R2", .x = 20.1, .y = 30.3, .angolo = 0, .base = 110.3, .altezza = 90.7}})
+        StampateComeTracciate(s, "turned, partly outside, or large");
+    StampateComeTracciate(base, "small again");
     d.Scale(0, 100, 150, 0);
-    Uguali(Disegnata(piccola), Tracciata(piccola), "two pixels a unit");
-}
-
-TEST_F(LettereProva, UnFontRilettoRifaILoroPixel) {
-    const Scrittura s{.testo = "A", .x = 20, .y = 30, .angolo = 0, .base = 19, .altezza = 23.7};
-    Disegnata(s);
+    StampateComeTracciate(base, "two pixels a unit");
     Scrivi("progra/font.001", "0\r\nA00309999\r\n");
     LeggiFont();
-    Uguali(Disegnata(s), Tracciata(s), "another font");
+    StampateComeTracciate(base, "another font");
+}
+
+// The lit pixels of a digit that begins at a fraction of a pixel.
+struct CifrePiccole : LettereProva {
+    static constexpr int kLato = 14;
+    using Forma = std::array<std::array<bool, kLato>, kLato>;
+
+    Forma Scritta(char cifra, int fase) {
+        const double x = 3 + fase % 4 / 4.0, y = 189 + fase / 4 / 4.0;
+        const std::string testo(1, cifra);
+        const Superficie s = Disegnata(
+            {.testo = testo.c_str(), .x = x, .y = y, .angolo = 0, .base = 6, .altezza = 8});
+        Forma forma;
+        for (int py = 0; py < kLato; ++py)
+            for (int px = 0; px < kLato; ++px) forma[py][px] = s.Leggi(px, py) != 0;
+        return forma;
+    }
+    // How many pixels tell them apart, when one lies over the other as well as it can.
+    static int Differenze(const Forma &a, const Forma &b) {
+        int meno = kLato * kLato;
+        for (int oy = -1; oy <= 1; ++oy)
+            for (int ox = -1; ox <= 1; ++ox) {
+                int conto = 0;
+                for (int y = 1; y + 1 < kLato; ++y)
+                    for (int x = 1; x + 1 < kLato; ++x) conto += a[y][x] != b[y + oy][x + ox];
+                meno = std::min(meno, conto);
+            }
+        return meno;
+    }
+};
+
+TEST_F(CifrePiccole, ZeroSeiEOttoSiDistinguonoAOttoPixel) {
+    for (const auto &[una, altra] : {std::pair{'0', '6'}, {'0', '8'}, {'6', '8'}})
+        for (int fase = 0; fase < 16; ++fase)
+            for (int altraFase = 0; altraFase < 16; ++altraFase)
+                EXPECT_GE(Differenze(Scritta(una, fase), Scritta(altra, altraFase)), 2)
+                    << una << " and " << altra;
 }
 
 } // namespace telva::prove
