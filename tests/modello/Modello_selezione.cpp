@@ -27,18 +27,37 @@ const std::set<std::string> kAbilitate[] = {
      "Tutto"},
     {kVociSelezioni.begin(), kVociSelezioni.end()}};
 
-// The display attributes: the kinds that have them, and the code that stands for all of them.
-struct FamigliaAttributo {
+// The menus of display attributes: the kinds that have them, the code of their first item, each
+// one more for the next, and that of the last, which stands for all.
+struct Attributi {
+    const char *menu;
     std::set<int> tipi;
-    int tutti;
+    int primo, tutti;
+    std::vector<std::string> voci;
 };
-const std::map<std::string, FamigliaAttributo> kAttributi = {
-    {"Colore",
-     {{Modello::Nodi, Modello::Aste, Modello::Gusci, Modello::Continui, Modello::Pareti},
-      kOgniColore}},
-    {"TipoPunto", {{Modello::Nodi}, 8}},
-    {"TipoLinea", {{Modello::Aste, Modello::Continui}, 5}},
-    {"TipoTratt", {{Modello::Gusci, Modello::Pareti}, 9}}};
+const Attributi kAttributi[] = {
+    {.menu = "Colore",
+     .tipi = {Modello::Nodi, Modello::Aste, Modello::Gusci, Modello::Continui, Modello::Pareti},
+     .primo = 1,
+     .tutti = kOgniColore,
+     .voci = {"Bianco", "Blu", "Rosso", "Verde", "Giallo", "VerdeScuro", "Magenta", "Azzurro",
+              "Arancione", "TuttiCol"}},
+    {.menu = "TipoPunto",
+     .tipi = {Modello::Nodi},
+     .primo = 0,
+     .tutti = 8,
+     .voci = {"TipoPt1", "TipoPt2", "TipoPt3", "TipoPt4", "TuttiPt"}},
+    {.menu = "TipoLinea",
+     .tipi = {Modello::Aste, Modello::Continui},
+     .primo = 0,
+     .tutti = 5,
+     .voci = {"TipoLn1", "TipoLn2", "TipoLn3", "TipoLn4", "TipoLn5", "TuttiLn"}},
+    {.menu = "TipoTratt",
+     .tipi = {Modello::Gusci, Modello::Pareti},
+     .primo = 1,
+     .tutti = 9,
+     .voci = {"TipoTr1", "TipoTr2", "TipoTr3", "TipoTr4", "TipoTr5", "TipoTr6", "TipoTr7",
+              "TipoTr8", "TuttiTr"}}};
 
 struct Proprieta {
     Sotto sotto;
@@ -55,24 +74,6 @@ const Proprieta kProprieta[] = {
     {.sotto = Sotto::Vincolo, .voce = "SchVincolo", .titolo = "vincolo"}};
 
 const char *const kITipi[] = {"i nodi", "le aste", "i gusci", "gli elementi continui", "le pareti"};
-
-// An item of the menus of attributes.
-struct VoceAttributo {
-    const char *nome;
-    const char *menu;
-    int codice;
-};
-const VoceAttributo kVociAttributi[] = {
-    {"Bianco", "Colore", 1},     {"Blu", "Colore", 2},        {"Rosso", "Colore", 3},
-    {"Verde", "Colore", 4},      {"Giallo", "Colore", 5},     {"VerdeScuro", "Colore", 6},
-    {"Magenta", "Colore", 7},    {"Azzurro", "Colore", 8},    {"Arancione", "Colore", 9},
-    {"TuttiCol", "Colore", 10},  {"TipoPt1", "TipoPunto", 0}, {"TipoPt2", "TipoPunto", 1},
-    {"TipoPt3", "TipoPunto", 2}, {"TipoPt4", "TipoPunto", 3}, {"TuttiPt", "TipoPunto", 8},
-    {"TipoLn1", "TipoLinea", 0}, {"TipoLn2", "TipoLinea", 1}, {"TipoLn3", "TipoLinea", 2},
-    {"TipoLn4", "TipoLinea", 3}, {"TipoLn5", "TipoLinea", 4}, {"TuttiLn", "TipoLinea", 5},
-    {"TipoTr1", "TipoTratt", 1}, {"TipoTr2", "TipoTratt", 2}, {"TipoTr3", "TipoTratt", 3},
-    {"TipoTr4", "TipoTratt", 4}, {"TipoTr5", "TipoTratt", 5}, {"TipoTr6", "TipoTratt", 6},
-    {"TipoTr7", "TipoTratt", 7}, {"TipoTr8", "TipoTratt", 8}, {"TuttiTr", "TipoTratt", 9}};
 
 // Numbers of a list; what is wrong with it is said in `troppi` and `fuori`.
 struct ElencoLetto {
@@ -180,7 +181,7 @@ void Modello::Inverti() {
 // --- attributes and lists of properties
 
 void Modello::Attributo(const std::string &menu, int codice) {
-    const FamigliaAttributo &famiglia = kAttributi.at(menu);
+    const Attributi &famiglia = *std::ranges::find(kAttributi, menu, &Attributi::menu);
     AzzeraInput();
     if (famiglia.tipi.contains(tipo)) {
         const int vero = tipo;
@@ -274,10 +275,12 @@ void Modello::VoceSelezioni(const std::string &menu, int codice) {
 }
 
 void Modello::Menu(const std::string &voce) {
-    const auto *attributo = std::ranges::find(kVociAttributi, voce, &VoceAttributo::nome);
-    if (attributo != std::end(kVociAttributi))
-        return VoceSelezioni(attributo->menu, attributo->codice);
-    if (kAttributi.contains(voce)) return; // only opens its own items
+    for (const auto &[menu, tipi, primo, tutti, voci] : kAttributi) {
+        if (voce == menu) return; // only opens its own items
+        if (voce == voci.back()) return VoceSelezioni(menu, tutti);
+        const auto posto = std::ranges::find(voci, voce) - voci.begin();
+        if (posto < std::ssize(voci)) return VoceSelezioni(menu, primo + static_cast<int>(posto));
+    }
     if (std::ranges::count(kVociSelezioni, voce)) return VoceSelezioni(voce, 0);
     salta = (voce == "Interrompi" && funzione == Niente) || voce == "Trappola" || // not this way
             voce == "Salva" || voce == "Esci";

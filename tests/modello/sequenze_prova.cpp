@@ -20,7 +20,6 @@ namespace {
 
 using Passi = std::vector<PassoCasuale>;
 
-constexpr int kEsc = 27;
 const PassoCasuale kPiccola = [](auto &chi) { chi.Ridimensiona(5550, 7120); };
 
 // What is not as the rules say, a line each.

@@ -7,8 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
+#include <charconv>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -159,16 +158,8 @@ void Banco::Passo(const std::string &testo, const std::function<void()> &evento)
 }
 
 std::string Banco::Letterale(double v) {
-    char testo[32] = "";
-    for (int cifre = 6; cifre <= 17 && std::strtod(testo, nullptr) != v; ++cifre)
-        std::snprintf(testo, sizeof testo, "%.*g", cifre, v);
-    const double singola = static_cast<float>(v); // which then is short, with an f
-    if (singola != v || std::string(testo).size() < 12) return testo;
-    for (int cifre = 6; cifre <= 9; ++cifre) {
-        std::snprintf(testo, sizeof testo, "%.*g", cifre, v);
-        if (static_cast<double>(std::strtof(testo, nullptr)) == v) break;
-    }
-    return std::string(testo) + "f";
+    char testo[32];
+    return {testo, std::to_chars(std::begin(testo), std::end(testo), v).ptr};
 }
 
 void Banco::DimenticaPassi() { passi.clear(); }

@@ -8,19 +8,12 @@ struct FormTelvaProva : Utente {
     ModuloTelva &f = FormTelva;
     FormTelvaProva() { Apri(Telaio()); }
 
-    struct Posto {
-        std::string nome;
-        double left, top, width, height;
-        bool operator==(const Posto &) const = default;
-        friend void PrintTo(const Posto &p, std::ostream *os) {
-            *os << p.nome << " at " << p.left << "," << p.top << " size " << p.width << "x"
-                << p.height;
-        }
-    };
-    std::vector<Posto> Posti() const {
-        std::vector<Posto> posti;
+    std::string Posti() const {
+        std::string posti;
         for (const Controllo *c : f.controlli)
-            posti.push_back({c->NomeControllo(), c->Left, c->Top, c->Width, c->Height});
+            posti +=
+                Scritto(c->NomeControllo().c_str(), c->Left(), c->Top(), c->Width(), c->Height()) +
+                "\n";
         return posti;
     }
 };

@@ -7,7 +7,6 @@
 
 namespace telva::prove {
 
-constexpr int kEsc = 27, kInvio = 13;
 constexpr const char *kOpzioniSalvate = "INFORMAZIONE: Opzioni salvate";
 
 // --- pick aperture

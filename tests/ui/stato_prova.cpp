@@ -183,32 +183,41 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
     struct Caso {
         int tipo;
         float x, y;
-        const char *atteso;
+        const char *detto;
+        std::size_t linee = 0, cerchi = 0; // of the outline
     };
     const Caso casi[] = {
-        {.tipo = kNodiTipo, .x = 0, .y = 0, .atteso = "clic: nodo 1"},
-        {.tipo = kNodiTipo, .x = 100, .y = 100, .atteso = "clic: nodo 5, vincolo 1"},
-        {.tipo = kNodiTipo, .x = 50, .y = 50, .atteso = "clic: apre una finestra"},
-        {.tipo = kAsteTipo, .x = 50, .y = 0, .atteso = "clic: asta 1, sezione 1, materiale 1"},
+        {.tipo = kNodiTipo, .x = 0, .y = 0, .detto = "nodo 1", .cerchi = 1},
+        {.tipo = kNodiTipo, .x = 100, .y = 100, .detto = "nodo 5, vincolo 1", .cerchi = 1},
+        {.tipo = kNodiTipo, .x = 50, .y = 50, .detto = "apre una finestra"},
+        {.tipo = kAsteTipo, .x = 50, .y = 0, .detto = "asta 1, sezione 1, materiale 1", .linee = 1},
         {.tipo = kGusciTipo,
          .x = 150,
          .y = 50,
-         .atteso = "clic: guscio 2, spessore 1, materiale 3"},
+         .detto = "guscio 2, spessore 1, materiale 3",
+         .linee = 4},
         {.tipo = kElContTipo,
          .x = 50,
          .y = 0,
-         .atteso = "clic: elemento continuo 10 - Trave bassa"},
-        {.tipo = kParetiTipo, .x = 50, .y = 0, .atteso = "clic: apre una finestra"},
+         .detto = "elemento continuo 10 - Trave bassa",
+         .linee = 2},
+        {.tipo = kParetiTipo, .x = 50, .y = 0, .detto = "apre una finestra"},
     };
-    for (const Caso &caso : casi) {
-        Tipo(caso.tipo);
-        Muovi(caso.x, caso.y);
-        EXPECT_EQ(Poi(), caso.atteso) << "kind " << caso.tipo << " at " << caso.x << ", " << caso.y;
+    for (const auto &[tipo, x, y, detto, linee, cerchi] : casi) {
+        SCOPED_TRACE(detto);
+        Tipo(tipo);
+        Muovi(x, y);
+        EXPECT_EQ(Poi(), std::string("clic: ") + detto);
+        EXPECT_EQ(d.Anteprima().linee.size(), linee);
+        EXPECT_EQ(d.Anteprima().cerchi.size(), cerchi);
     }
-    Tipo(kNodiTipo);
-    Muovi(0, 0);
+    Tipo(kAsteTipo);
+    Muovi(50, 0);
+    const Sagoma::Linea asta{0, 0, 100, 0};
+    EXPECT_EQ(d.Anteprima().linee.at(0), asta);
     Distrai();
     EXPECT_EQ(Poi(), "") << "a key has the word";
+    EXPECT_TRUE(d.Anteprima().Vuota());
     Muovi(0, 0);
     Esci();
     EXPECT_EQ(Poi(), "") << "the pointer has left";
@@ -226,49 +235,38 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
 
 TEST_F(StatoProva, LEtichettaSiNascondeSenzaPosto) {
     ApriCon(kGusciTipo);
-    struct Caso {
-        double larghezza;
-        bool coordinate, attesa;
+    const auto visibile = [&](double larghezza) {
+        Ridimensiona(larghezza, 11400);
+        return f.LabStato.Visible();
     };
-    const Caso casi[] = {
-        {.larghezza = 15000, .coordinate = true, .attesa = true},
-        {.larghezza = 5550, .coordinate = true, .attesa = false},
-        {.larghezza = 5550, .coordinate = false, .attesa = true}, // their room is free
-        {.larghezza = 6400, .coordinate = true, .attesa = false},
-        {.larghezza = 6800, .coordinate = true, .attesa = true},
-    };
-    for (const Caso &caso : casi) {
-        Ridimensiona(caso.larghezza, 11400);
-        if (f.VisCoord.Checked != caso.coordinate) Menu("VisCoord");
-        EXPECT_EQ(f.LabStato.Visible(), caso.attesa) << caso.larghezza << " twips";
-    }
+    EXPECT_TRUE(visibile(15000));
+    EXPECT_TRUE(visibile(6800));
+    EXPECT_FALSE(visibile(6400));
+    EXPECT_FALSE(visibile(5550));
+    Menu("VisCoord");
+    EXPECT_TRUE(visibile(5550)) << "the room of the coordinates is free";
     Tipo(kAsteTipo);
     EXPECT_EQ(f.LabStato.Evidenza(), "richiesti: gusci");
     EXPECT_EQ(f.LabStato.Caption(), "richiesti: gusci; nessuna asta selezionata\r\n"
                                     "Ctrl+A aggiunge, Ctrl+T rimuove");
 }
 
-struct PredaProva : StatoProva {
-    std::vector<int> Selezionati(int tipo) {
-        const Elementi &e = ElementiDi(tipo);
-        std::vector<int> flag;
-        for (int i = 0; i < e.numero; ++i) flag.push_back(e.selezionati[i]);
-        return flag;
-    }
-};
-
-TEST_F(PredaProva, CioCheSiVedePrimaECioCheSiPrende) {
+TEST_F(StatoProva, CioCheSiVedePrimaECioCheSiPrende) {
     LavoroProva lavoro = Telaio();
     lavoro.nodi.push_back({0, 5}); // a second node of that name
     lavoro.elementi.push_back({30, "Senza aste", {}});
     Apri(lavoro);
+    const auto selezionati = [](int tipo) {
+        const Elementi &e = ElementiDi(tipo);
+        return std::vector<int>(e.selezionati, e.selezionati + e.numero);
+    };
     std::mt19937 sorte(7);
     const auto posto = [&] {
         const auto fra = std::uniform_int_distribution(-40, 240)(sorte);
         return static_cast<float>(fra) / (sorte() % 2 ? 1.0f : 5.0f);
     };
     for (int giro = 0; giro < 400; ++giro) {
-        const int tipo = giro % 5;
+        const int tipo = giro % kTipiElemento;
         const bool aggiunge = giro / 5 % 3 != 0;
         Menu(aggiunge ? "Aggiungi" : "Rimuovi");
         Tipo(tipo);
@@ -276,19 +274,17 @@ TEST_F(PredaProva, CioCheSiVedePrimaECioCheSiPrende) {
         Muovi(x, y);
         const EffettoClic effetto = ClicSulDisegno();
         const ElementiPresi preda = Preda();
-        std::vector<int> attesi = tipo == kParetiTipo ? std::vector<int>() : Selezionati(tipo);
+        std::vector<int> attesi = selezionati(tipo);
         for (const int i : preda.elementi) attesi[static_cast<std::size_t>(i)] = aggiunge ? 1 : 0;
         Clic(x, y);
-        if (tipo != kParetiTipo) {
-            EXPECT_EQ(Selezionati(tipo), attesi) << x << ", " << y;
-        }
+        EXPECT_EQ(selezionati(tipo), attesi) << x << ", " << y;
         EXPECT_EQ(effetto, PrimoAngolo == 1 ? EffettoClic::ApreFinestra : EffettoClic::Elemento)
             << "kind " << tipo << " at " << x << ", " << y;
         EXPECT_EQ(preda.elementi.empty(), effetto != EffettoClic::Elemento);
     }
 }
 
-TEST_F(PredaProva, ValeAncheQuandoLaVistaSiMuoveSottoIlPuntatore) {
+TEST_F(StatoProva, ValeAncheQuandoLaVistaSiMuoveSottoIlPuntatore) {
     Apri(Telaio());
     Menu("Aggiungi");
     Tipo(kNodiTipo);
@@ -317,36 +313,6 @@ TEST_F(StatoProva, UnNomeSmisuratoSiTaglia) {
     Muovi(50, 0);
     EXPECT_LT(Poi().size(), 200u);
     EXPECT_TRUE(Poi().starts_with("clic: elemento continuo 10 - xxx"));
-}
-
-TEST_F(PredaProva, LaSagomaEQuellaDellElemento) {
-    Apri(Telaio());
-    Menu("Aggiungi");
-    struct Caso {
-        int tipo;
-        float x, y;
-        std::size_t linee, cerchi;
-    };
-    const Caso casi[] = {
-        {.tipo = kNodiTipo, .x = 0, .y = 0, .linee = 0, .cerchi = 1},
-        {.tipo = kAsteTipo, .x = 50, .y = 0, .linee = 1, .cerchi = 0},
-        {.tipo = kGusciTipo, .x = 50, .y = 50, .linee = 4, .cerchi = 0},
-        {.tipo = kElContTipo, .x = 50, .y = 0, .linee = 2, .cerchi = 0}, // both of its bars
-        {.tipo = kAsteTipo, .x = 50, .y = 50, .linee = 0, .cerchi = 0},
-    };
-    for (const Caso &caso : casi) {
-        Tipo(caso.tipo);
-        Muovi(caso.x, caso.y);
-        EXPECT_EQ(d.Anteprima().linee.size(), caso.linee) << "kind " << caso.tipo;
-        EXPECT_EQ(d.Anteprima().cerchi.size(), caso.cerchi) << "kind " << caso.tipo;
-    }
-    Tipo(kAsteTipo);
-    Muovi(50, 0);
-    const Sagoma::Linea attesa{0, 0, 100, 0};
-    ASSERT_EQ(d.Anteprima().linee.size(), 1u);
-    EXPECT_EQ(d.Anteprima().linee[0], attesa);
-    Distrai();
-    EXPECT_TRUE(d.Anteprima().Vuota()) << "gone with a key, a menu, another window";
 }
 
 } // namespace telva::prove
