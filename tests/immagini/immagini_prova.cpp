@@ -103,6 +103,11 @@ struct Immagini : Banco {
         FormTelva.Angolo[1].Text = b;
         FormTelva.Angolo[2].Text = c;
     }
+    static void MisuraTesti(double base, double altezza) {
+        Opzioni[kOpzBaseTesto] = base;
+        Opzioni[kOpzAltezzaTesto] = altezza;
+        Opzioni[kOpzDistanzaTesto] = 2.0;
+    }
     const Superficie &Dipingi() {
         CalcolaAttivi();
         DisegnaStruttura();
@@ -135,9 +140,7 @@ struct Immagini : Banco {
         FormTelva.VisAssi.Checked = false;
         Misura(520, 520);
         Adatta();
-        Opzioni[kOpzBaseTesto] = 4.0;
-        Opzioni[kOpzAltezzaTesto] = 5.0;
-        Opzioni[kOpzDistanzaTesto] = 2.0;
+        MisuraTesti(4, 5);
         Opzioni[kOpzTestiElCont] = 0.0;
     }
 };
@@ -262,14 +265,10 @@ TEST_F(Immagini, TernaDegliAssi) {
     Apri(Telaio());
     FormTelva.NodiAtt.Value = FormTelva.AsteAtt.Value = FormTelva.GusciAtt.Value = false;
     Misura(130, 110);
-    struct Vista {
-        const char *a, *b, *c;
-    };
+    const char *const viste[][3] = {{"0", "0", "0"}, {"90", "0", "0"}, {"20", "-40", "110"}};
     Superficie pila;
-    for (const Vista &v : {Vista{.a = "0", .b = "0", .c = "0"},
-                           {.a = "90", .b = "0", .c = "0"},
-                           {.a = "20", .b = "-40", .c = "110"}}) {
-        Angoli(v.a, v.b, v.c);
+    for (const auto &[a, b, c] : viste) {
+        Angoli(a, b, c);
         ASSERT_TRUE(ProiettaNodi());
         Impila(pila, Dipingi());
     }
@@ -278,19 +277,15 @@ TEST_F(Immagini, TernaDegliAssi) {
 
 TEST_F(Immagini, Etichette) {
     ApriTelaio();
-    struct Genere {
-        const char *nome;
-        int opzione;
-    };
-    constexpr Genere kGeneri[] = {{.nome = "etichette_nodi", .opzione = kOpzTestiNodi},
-                                  {.nome = "etichette_aste", .opzione = kOpzTestiAste},
-                                  {.nome = "etichette_gusci", .opzione = kOpzTestiGusci},
-                                  {.nome = "etichette_continui", .opzione = kOpzTestiElCont}};
+    const std::pair<const char *, int> generi[] = {{"etichette_nodi", kOpzTestiNodi},
+                                                   {"etichette_aste", kOpzTestiAste},
+                                                   {"etichette_gusci", kOpzTestiGusci},
+                                                   {"etichette_continui", kOpzTestiElCont}};
     for (int parte : {2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
-    for (const Genere &g : kGeneri) {
-        Opzioni[g.opzione] = 1.0;
-        Confronta(g.nome);
-        Opzioni[g.opzione] = 0.0;
+    for (const auto &[nome, genere] : generi) {
+        Opzioni[genere] = 1.0;
+        Confronta(nome);
+        Opzioni[genere] = 0.0;
     }
 }
 
@@ -317,8 +312,7 @@ TEST_F(Immagini, EtichetteEAssiAl200) {
     FormTelva.VisAssi.Checked = true;
     Opzioni[kOpzTestiAste] = 1.0;
     for (int parte : {1, 2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
-    Opzioni[kOpzBaseTesto] = 9.0;
-    Opzioni[kOpzAltezzaTesto] = 11.0;
+    MisuraTesti(9, 11);
     Adatta();
     Confronta("etichette_assi_200");
 }
@@ -348,9 +342,7 @@ TEST_F(Immagini, PostiDelleEtichette) {
     for (const int genere : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
         Opzioni[genere] = 1.0;
     for (int parte : {2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
-    Opzioni[kOpzBaseTesto] = 6.0;
-    Opzioni[kOpzAltezzaTesto] = 8.0;
-    Opzioni[kOpzDistanzaTesto] = 2.0;
+    MisuraTesti(6, 8);
     Confronta("etichette_posti");
 }
 

@@ -14,24 +14,14 @@ struct OpzioniProva : Banco {
 
 TEST_F(OpzioniProva, SenzaFileValgonoLePredefinite) {
     LeggiOpzioni();
-    struct Caso {
-        int voce;
-        double atteso;
-    };
-    for (const Caso &c : {Caso{.voce = kOpzNascondiSottili, .atteso = 1},
-                          {.voce = kOpzSpessoreMinimo, .atteso = 1},
-                          {.voce = kOpzPennaNonSel, .atteso = 1},
-                          {.voce = kOpzPennaSel, .atteso = 4},
-                          {.voce = kOpzColoreSel, .atteso = 1},
-                          {.voce = kOpzRaggioNodo, .atteso = 5},
-                          {.voce = kOpzTestiNodi, .atteso = 0},
-                          {.voce = kOpzTestiAste, .atteso = 0},
-                          {.voce = kOpzTestiGusci, .atteso = 0},
-                          {.voce = kOpzBaseTesto, .atteso = 5},
-                          {.voce = kOpzAltezzaTesto, .atteso = 5},
-                          {.voce = kOpzColoreTesto, .atteso = 1},
-                          {.voce = kOpzDistanzaTesto, .atteso = 5}})
-        EXPECT_EQ(Opzioni[c.voce], telva::Valore{c.atteso}) << c.voce;
+    for (const int voce :
+         {kOpzNascondiSottili, kOpzSpessoreMinimo, kOpzPennaNonSel, kOpzColoreSel, kOpzColoreTesto})
+        EXPECT_EQ(Opzioni[voce], telva::Valore{1.0}) << voce;
+    for (const int voce : {kOpzRaggioNodo, kOpzBaseTesto, kOpzAltezzaTesto, kOpzDistanzaTesto})
+        EXPECT_EQ(Opzioni[voce], telva::Valore{5.0}) << voce;
+    for (const int voce : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci})
+        EXPECT_EQ(Opzioni[voce], telva::Valore{0.0}) << voce;
+    EXPECT_EQ(Opzioni[kOpzPennaSel], telva::Valore{4.0});
     for (int voce = kOpzPartiNodi; voce <= kOpzNomeElCont; ++voce)
         EXPECT_EQ(Opzioni[voce], telva::Valore{1.0}) << "part " << voce << " of the labels";
     for (const int voce : {4, 26, 27, 28, 29}) EXPECT_EQ(Opzioni[voce], telva::Valore{}) << voce;

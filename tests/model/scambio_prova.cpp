@@ -51,18 +51,6 @@ TEST_F(Scambio, LIngressoSiLeggeFinDoveArriva) {
     }
 }
 
-TEST_F(Scambio, SenzaIngressoSiCominciaDaiNodiConNulla) {
-    FormTelva.OptElem[2].Seleziona();
-    FormTelva.StringaSel.Caption = "7";
-    TitoloIn = "di prima";
-    std::string lista = "prima";
-    LeggiIngresso(lista);
-    EXPECT_EQ(TitoloIn, "");
-    EXPECT_EQ(lista, "prima");
-    EXPECT_EQ(FormTelva.TipoElemento(), 0);
-    EXPECT_EQ(FormTelva.StringaSel.Caption(), "");
-}
-
 TEST_F(Scambio, UnUscitaCheNonSiPuoScrivereSiDiceELasciaLaVecchia) {
     Scrivi("TelvaOut.txt", "vecchia\r\n");
     DiscoGuasto disco;

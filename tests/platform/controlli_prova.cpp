@@ -25,23 +25,6 @@ TEST(Controlli, ITwipDiventanoPixelInteri) {
     EXPECT_EQ(ATwip(144, 144), 1440);
 }
 
-TEST(Controlli, PostoVisibilitaEAbilitazioneSonoAncheDelGenitore) {
-    Modulo modulo{"m"};
-    Cornice cornice{&modulo, "cornice"};
-    Etichetta etichetta{&modulo, "etichetta", &cornice};
-    cornice.Posiziona(100, 200, 50, 60);
-    etichetta.Posiziona(10, 20, 30, 40);
-    EXPECT_EQ(etichetta.LeftAssoluto(), 110);
-    EXPECT_EQ(etichetta.TopAssoluto(), 220);
-    for (const bool dellaCornice : {true, false})
-        for (const bool sua : {true, false}) {
-            cornice.Visible = cornice.Enabled = dellaCornice;
-            etichetta.Visible = etichetta.Enabled = sua;
-            EXPECT_EQ(etichetta.VisibileDavvero(), dellaCornice && sua);
-            EXPECT_EQ(etichetta.AbilitatoDavvero(), dellaCornice && sua);
-        }
-}
-
 TEST(Controlli, IlPariSenteSoloICambiamenti) {
     Modulo modulo{"m"};
     CasellaTesto casella{&modulo, "casella"};

@@ -28,8 +28,6 @@ struct RiquadroProva : ::testing::Test {
 } // namespace
 
 TEST_F(RiquadroProva, LaScalaPortaLeUnitaNeiPixelEIndietro) {
-    EXPECT_EQ(d.LarghezzaPixel(), 100);
-    EXPECT_EQ(d.AltezzaPixel(), 50);
     EXPECT_EQ(d.UnitaPerPixel(), 2);
     EXPECT_EQ(d.XPixel(13), 11.5);
     EXPECT_EQ(d.YPixel(13), 8.5);

@@ -112,7 +112,6 @@ TEST(FileTesto, UnValoreHaIlSuoTipo) {
 
 TEST(FileTesto, CrLfEDueInsiemeChiudonoCiascunoUnaRiga) {
     EXPECT_EQ(Righe("a\rb\nc\r\nd\r\r e\n\nf"), (Elenco{"a", "b", "c", "d", "", " e", "", "f"}));
-    EXPECT_EQ(Righe("a\r"), Elenco{"a"});
     EXPECT_EQ(Testi("a\rb\r\"c\rd\"\re"), (Elenco{"a", "b", "c\rd", "e"}));
     EXPECT_EQ(Numeri("1\r2,3\r\r4\r\n\"\r\n\r\n\"5"),
               (Elenco{"1 @1", "2 @2", "3 @2", "4 @4", "malformato @5", "malformato @7"}));

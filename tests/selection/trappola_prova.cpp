@@ -83,6 +83,18 @@ TEST_F(TrappolaProva, DiUnNodoContaLaDistanzaEPoiLOrdine) {
     Prende(kNodiTipo, 18, {{100, 180}});
 }
 
+TEST_F(TrappolaProva, LaTrappolaCresceConLaFinestra) {
+    Nodo({100, 20}, 1);
+    ApriAlPixel();
+    for (const double dpi : {96.0, 144.0, 192.0}) { // as many units: more pixels
+        FormTelva.dpi = dpi;
+        FormTelva.Disegno.Cls();
+        Prende(kNodiTipo, 1, {{104.9, 20}});
+        Prende(kNodiTipo, 0, {{105.1, 20}});
+    }
+    FormTelva.dpi = 96;
+}
+
 TEST_F(TrappolaProva, UnAstaSiPrendeLungoLaSuaLineaEUnPoOltre) {
     Asta({100, 500}, {130, 500});
     Asta({400, 500}, {430, 530});

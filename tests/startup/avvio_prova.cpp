@@ -16,7 +16,6 @@ TEST_F(AvvioProva, LaFinestraSiApreConTitoloETrappola) {
     EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
     EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (8)...");
     EXPECT_EQ(FormTelva.MousePointer(), Puntatore::Predefinito);
-    EXPECT_EQ(Funzione(), "");
 }
 
 TEST_F(AvvioProva, IFileCheMancanoSiDiconoInOrdineESiProsegue) {

@@ -5,7 +5,7 @@
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
-#include "view/proiezione.h"
+#include "view/tratti.h"
 #include "view/visibile.h"
 
 #include <algorithm>
@@ -22,6 +22,7 @@ struct FunzDisegno : Banco {
         FormTelva.VisAssi.Checked = false;
         Opzioni[kOpzTestiElCont] = 0.0;
     }
+    ~FunzDisegno() override { FormTelva.dpi = 96; }
     const Superficie &Dipingi() {
         CalcolaAttivi();
         DisegnaStruttura();
@@ -32,27 +33,49 @@ struct FunzDisegno : Banco {
         const std::uint32_t *inizio = s.Riga(0), *fine = s.Riga(s.Altezza());
         return fine - inizio - std::count(inizio, fine, 0U);
     }
-    // Lit pixels of the column through this place, from 40 units below to 40 above.
+    // Lit pixels of the column through this place, from 15 units below to 15 above.
     int Spessore(double x, double y) {
         const Superficie &s = Dipingi();
         int accesi = 0;
-        for (int riga = int(d.YPixel(y + 40)); riga < d.YPixel(y - 40); ++riga)
+        for (int riga = int(d.YPixel(y + 15)); riga < d.YPixel(y - 15); ++riga)
             accesi += s.Leggi(int(d.XPixel(x)), riga) != 0;
         return accesi;
     }
 };
 
-TEST_F(FunzDisegno, LaPennaEUnNumeroInteroDaUno) {
+TEST_F(FunzDisegno, LaPennaEUnNumeroInteroDaUnoECresceConLaFinestra) {
     struct Caso {
-        double opzione;
+        double dpi, opzione;
         int larga;
     };
-    for (const Caso &c : {Caso{.opzione = -3, .larga = 1},
-                          {.opzione = 0, .larga = 1},
-                          {.opzione = 2.5, .larga = 2}, // halves to the even one
-                          {.opzione = 3.5, .larga = 4}}) {
+    for (const Caso &c : {Caso{.dpi = 96, .opzione = -3, .larga = 1},
+                          {.dpi = 96, .opzione = 2.5, .larga = 2}, // halves to the even one
+                          {.dpi = 96, .opzione = 3.5, .larga = 4},
+                          {.dpi = 120, .opzione = 1, .larga = 1},
+                          {.dpi = 144, .opzione = 1, .larga = 2},
+                          {.dpi = 192, .opzione = 0, .larga = 2},
+                          {.dpi = 192, .opzione = 4, .larga = 8}}) {
+        FormTelva.dpi = c.dpi;
         Opzioni[kOpzPennaNonSel] = c.opzione;
-        EXPECT_EQ(Spessore(50, 0), c.larga) << c.opzione;
+        EXPECT_EQ(Spessore(50, 0), c.larga) << c.opzione << " at " << c.dpi << " DPI";
+    }
+}
+
+TEST_F(FunzDisegno, ITrattiDiUnaLineaCresconoConLaFinestra) {
+    struct Caso {
+        int tipo;
+        double scala;
+        const char *tratti; // one period
+    };
+    for (const Caso &c : {Caso{.tipo = 1, .scala = 1, .tratti = "#########....."},
+                          {.tipo = 2, .scala = 1.5, .tratti = "###......"},
+                          {.tipo = 3, .scala = 1, .tratti = "#########.....##...."},
+                          {.tipo = 4, .scala = 1, .tratti = "#########.....##....##...."},
+                          {.tipo = 2, .scala = 3, .tratti = "######............"}}) {
+        const Tratteggio t = TrattoLinea(c.tipo, c.scala);
+        std::string visti;
+        for (int n = 0; n < t.periodo; ++n) visti += t.bit[static_cast<std::size_t>(n)] ? '#' : '.';
+        EXPECT_EQ(visti, c.tratti) << "line type " << c.tipo << " at scale " << c.scala;
     }
 }
 
@@ -67,12 +90,6 @@ TEST_F(FunzDisegno, LaTernaNonSiSpostaCoiTagliDellaVista) {
     EXPECT_TRUE(std::equal(prima.Riga(0), prima.Riga(prima.Altezza()), dopo.Riga(0)));
     OpzInt[2] = 0;
     EXPECT_EQ(Accesi(), 0) << "without lengths";
-}
-
-TEST_F(FunzDisegno, SenzaProiezioneIlRiquadroEVuoto) {
-    EXPECT_GT(Accesi(), 0);
-    AzzeraProiezione();
-    EXPECT_EQ(Accesi(), 0);
 }
 
 } // namespace telva::prove
