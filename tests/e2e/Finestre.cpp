@@ -5,7 +5,6 @@
 #include <set>
 
 namespace telva::prove {
-
 namespace {
 
 struct Controllo {
@@ -59,11 +58,6 @@ bool MostraIlTesto(const Controllo &c) {
            c.nome != "LabStato"; // where it is too long it has an ellipsis and a tip
 }
 
-// Frames without border only group; a swatch stands on the frame that marks it.
-bool SenzaPostoProprio(const Controllo &c) {
-    return c.classe == "TelvaCornice" || c.nome.starts_with("LabelBordCol");
-}
-
 bool Contiene(const RECT &fuori, const RECT &dentro) {
     RECT comune{};
     IntersectRect(&comune, &fuori, &dentro);
@@ -78,18 +72,20 @@ bool SiCoprono(const Controllo &a, const Controllo &b) {
            !(b.Cornice() && Contiene(b.posto, a.posto));
 }
 
-std::vector<Controllo> Visti(const Programma &p, HWND cima) {
-    auto controlli = Controlli(p, cima);
-    std::erase_if(controlli, [](const Controllo &c) {
-        return !IsWindowVisible(c.maniglia) || SenzaPostoProprio(c);
-    });
-    return controlli;
+// On such a screen windows are laid out smaller, their texts too, which cannot be measured then.
+bool SchermoPiccolo(HWND cima) {
+    return AreaDiLavoro().bottom * 1440 < kAltezzaMinima * static_cast<LONG>(GetDpiForWindow(cima));
 }
 
 } // namespace
 
-std::string FuoriPosto(const Programma &p, HWND cima) {
-    const auto controlli = Visti(p, cima);
+std::string Difetti(const Programma &p, HWND cima) {
+    auto controlli = Controlli(p, cima);
+    // Frames without border only group; a swatch stands on the frame that marks it.
+    std::erase_if(controlli, [](const Controllo &c) {
+        return !IsWindowVisible(c.maniglia) || c.classe == "TelvaCornice" ||
+               c.nome.starts_with("LabelBordCol");
+    });
     if (controlli.empty()) return "no controls";
     RECT interna{};
     GetClientRect(cima, &interna);
@@ -98,17 +94,11 @@ std::string FuoriPosto(const Programma &p, HWND cima) {
         if (c.classe == "Edit" && IsWindowEnabled(c.maniglia) && Letto(p, c).empty())
             difetti += c.nome + " nameless; ";
         if (!Contiene(interna, c.posto)) difetti += c.nome + " out; ";
+        if (!SchermoPiccolo(cima) && MostraIlTesto(c) && Tagliato(c)) difetti += c.nome + " cut; ";
     }
     for (auto a = controlli.begin(); a != controlli.end(); ++a)
         for (auto b = a + 1; b != controlli.end(); ++b)
             if (SiCoprono(*a, *b)) difetti += a->nome + " on " + b->nome + "; ";
-    return difetti;
-}
-
-std::string Difetti(const Programma &p, HWND cima) {
-    std::string difetti = FuoriPosto(p, cima);
-    for (const Controllo &c : Visti(p, cima))
-        if (MostraIlTesto(c) && Tagliato(c)) difetti += c.nome + " cut; ";
     return difetti;
 }
 
@@ -133,7 +123,7 @@ void VerificaControlli(const Programma &p, HWND cima, std::span<const ControlloA
         visti.insert(c.nome);
         const auto atteso = std::find_if(attesi.begin(), attesi.end(),
                                          [&](const auto &a) { return a.nome == c.nome; });
-        Annota("look at " + c.nome);
+        Passo("look at " + c.nome);
         VERIFICA(atteso != attesi.end());
         if (atteso == attesi.end()) continue;
         const auto suggerimento = suggerimenti.find(c.maniglia);
@@ -144,7 +134,7 @@ void VerificaControlli(const Programma &p, HWND cima, std::span<const ControlloA
         UGUALE(c.classe == "Edit" ? Letto(p, c) : "", atteso->letto);
     }
     for (const auto &atteso : attesi) {
-        Annota("look for " + atteso.nome);
+        Passo("look for " + atteso.nome);
         VERIFICA(visti.contains(atteso.nome));
     }
 }

@@ -6,11 +6,11 @@
 
 namespace telva::prove {
 
-// The visible controls of a window that leave it, meet a sibling or have no name for a reader, by
-// name; empty when all is well.
-std::string FuoriPosto(const Programma &p, HWND cima);
-// The same and those that cut their text. Not for a window that a small screen has laid out
-// smaller: the texts are measured at the system's size.
+// Smallest outer height of the main window, in twips (1440 to the inch).
+inline constexpr LONG kAltezzaMinima = 7120;
+
+// The visible controls of a window that leave it, meet a sibling, cut their text or have no name
+// for a reader, by name; empty when all is well.
 std::string Difetti(const Programma &p, HWND cima);
 
 RECT AreaDiLavoro();

@@ -1,11 +1,25 @@
 #pragma once
-// Installations and files that stand in the way.
+// Installations and jobs, files that stand in the way, and what the program leaves behind.
 #include "Prove.h"
 
 namespace telva::prove {
 
-// The same with options and a font of its own, on the same jobs.
+// The same with a font of its own and no file of options, on the same jobs.
 Ambiente Copia(Ambiente amb);
+
+// Makes a small job whose every property is known: nodes 1 to 4 and 20, bars 7, 8, 9, 12, 14,
+// shells 31 to 38, continuous elements 101 to 103; coordinates are whole, so that all lie inside
+// the rounded coordinate intervals.
+std::filesystem::path LavoroPiccolo(const Ambiente &amb, const std::string &codice = "prova1");
+
+// Ends the program by Ctrl+E.
+void Esci(Programma &p);
+
+// What the program wrote for its caller; "(no file)" when nothing.
+std::string Scritto(const std::filesystem::path &lavoro);
+
+// The job holds nothing but whole files with the names they had.
+void VerificaNessunResto(const std::filesystem::path &lavoro);
 
 // What may keep a file from being opened: it is gone, a folder, in another program's hands, or may
 // only be read; last, in the hands of one that shares it.
@@ -15,10 +29,9 @@ enum class Ostacolo { Manca, Cartella, Chiuso, SolaLettura, Letto };
 class Impedito {
   public:
     Impedito(std::filesystem::path file, Ostacolo ostacolo);
-    ~Impedito() { Libera(); }
+    ~Impedito();
     Impedito(const Impedito &) = delete;
     Impedito &operator=(const Impedito &) = delete;
-    void Libera();
 
   private:
     std::filesystem::path file_;

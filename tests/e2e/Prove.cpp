@@ -6,25 +6,23 @@
 #include <shellapi.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <deque>
 #include <map>
 
 namespace telva::prove {
-
 namespace {
 
-using Scenari = std::map<std::string, void (*)(const Ambiente &)>;
+using Corpo = void (*)(const Ambiente &);
 
-Scenari &Elenco() {
-    static Scenari elenco;
+std::map<std::string, Corpo> &Elenco() {
+    static std::map<std::string, Corpo> elenco;
     return elenco;
 }
 
 int controlli = 0, errori = 0;
 std::deque<std::string> passi; // the last ones
-constexpr std::size_t passiMostrati = 8;
+constexpr std::size_t passiMostrati = 12;
 
 void Errore(const std::string &testo) {
     ++errori;
@@ -34,7 +32,7 @@ void Errore(const std::string &testo) {
     if (!fatto.empty()) std::printf("           after: %s\n", fatto.c_str());
 }
 
-bool Esegui(const std::string &nome, void (*corpo)(const Ambiente &), const Ambiente &amb) {
+bool Esegui(const std::string &nome, Corpo corpo, const Ambiente &amb) {
     controlli = errori = 0;
     passi.clear();
     alFallimento = [&] {
@@ -72,7 +70,7 @@ int EseguiTutti(const Ambiente &amb, const std::string &solo) {
         }
     if (eseguiti == 0) {
         std::printf("no scenario of '%s'; there are:\n", solo.c_str());
-        for (const auto &[nome, corpo] : Elenco()) std::printf("  %s\n", nome.c_str());
+        for (const auto &voce : Elenco()) std::printf("  %s\n", voce.first.c_str());
     }
     std::printf("%d scenarios, %d failed\n", eseguiti, falliti);
     return eseguiti == 0 ? 1 : std::min(falliti, 100);
@@ -80,14 +78,7 @@ int EseguiTutti(const Ambiente &amb, const std::string &solo) {
 
 } // namespace
 
-Registra::Registra(const std::string &nome, void (*corpo)(const Ambiente &)) {
-    Elenco()[nome] = corpo;
-}
-
-void Annota(const std::string &passo) {
-    passi.push_back(passo);
-    if (passi.size() > passiMostrati) passi.pop_front();
-}
+Registra::Registra(const std::string &nome, Corpo corpo) { Elenco()[nome] = corpo; }
 
 void Verifica(bool esito, const std::string &testo, const char *file, int riga) {
     ++controlli;
@@ -97,19 +88,12 @@ void Verifica(bool esito, const std::string &testo, const char *file, int riga) 
            testo);
 }
 
-std::string Visibile(const std::string &testo) {
-    std::string r = "'";
-    for (char c : testo) r += c == '\r' ? "\\r" : c == '\n' ? "\\n" : std::string(1, c);
-    return r + "'";
-}
-
 std::filesystem::path Ambiente::Lavori() const {
-    auto riga = LeggiByte(dati / "impostazioni" / "dirlav").value_or("");
-    riga = riga.substr(0, riga.find_first_of(",\r\n"));
-    std::erase(riga, '"');
-    std::transform(riga.begin(), riga.end(), riga.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return riga.ends_with('\\') ? riga : riga + '\\';
+    std::wstring riga = Largo(LeggiByte(dati / "impostazioni" / "dirlav").value_or(""));
+    riga = riga.substr(0, riga.find_first_of(L",\r\n"));
+    std::erase(riga, L'"');
+    CharLowerBuffW(riga.data(), static_cast<DWORD>(riga.size()));
+    return riga.ends_with(L'\\') ? riga : riga + L'\\';
 }
 
 std::wstring Ambiente::Argomento(const std::string &altro) const {
@@ -122,28 +106,19 @@ int main() {
     using namespace telva::prove;
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     SetConsoleOutputCP(CP_UTF8);
-    Ambiente amb;
-    std::wstring solo;
     int n = 0;
     wchar_t **argomenti = CommandLineToArgvW(GetCommandLineW(), &n);
-    for (int i = 1; i < n; ++i) {
-        const std::wstring nome = argomenti[i];
-        const std::wstring valore = i + 1 < n ? argomenti[++i] : L"";
-        if (nome == L"--telva")
-            amb.telva = valore;
-        else if (nome == L"--dati")
-            amb.dati = valore;
-        else if (nome == L"--foto")
-            amb.foto = valore;
-        else if (nome == L"--solo")
-            solo = valore;
-        else
-            amb.telva.clear(), i = n;
-    }
+    std::map<std::wstring, std::wstring> valori;
+    for (int i = 1; i + 1 < n; i += 2) valori[argomenti[i]] = argomenti[i + 1];
+    const Ambiente amb{valori[L"--telva"], valori[L"--dati"], valori[L"--foto"]};
     if (amb.telva.empty() || amb.dati.empty()) {
         std::printf("prove_e2e --telva EXE --dati DIR [--solo NAMES] [--foto DIR]\n");
         return 101;
     }
     if (!amb.foto.empty()) std::filesystem::create_directories(amb.foto);
-    return EseguiTutti(amb, Utf8(solo));
+    alPasso = [](const std::string &passo) {
+        passi.push_back(passo);
+        if (passi.size() > passiMostrati) passi.pop_front();
+    };
+    return EseguiTutti(amb, Utf8(valori[L"--solo"]));
 }

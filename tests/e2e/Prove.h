@@ -24,20 +24,15 @@ struct Registra {
     Registra(const std::string &nome, void (*corpo)(const Ambiente &));
 };
 
-// Remembers what is being done, so that a failure can tell the steps before it.
-void Annota(const std::string &passo);
-
 // Counts a check and reports it when it failed.
 void Verifica(bool esito, const std::string &testo, const char *file, int riga);
 
-// Between quotes, with CR and LF written out.
-std::string Visibile(const std::string &testo);
-
+// As text, between quotes.
 template <class T>
 std::string Mostra(const T &valore) {
     std::ostringstream s;
-    s << std::boolalpha << valore;
-    return Visibile(s.str());
+    s << "'" << std::boolalpha << valore << "'";
+    return s.str();
 }
 
 template <class A, class B>

@@ -1,26 +1,77 @@
 #include "Sessione.h"
 
-#include "VociMenu.h"
-
+#include <algorithm>
 #include <utility>
 
 namespace telva::prove {
-
 namespace {
 
-// Places of the tool-bar buttons, separators counted, by the tips they show.
-const std::map<std::string, int> kBottoni{{"Aggiorna ed esci", 0},
-                                          {"Esci", 1},
-                                          {"Ottimizza", 3},
-                                          {"Zoom", 4},
-                                          {"Sposta", 5},
-                                          {"Ridisegna", 6},
-                                          {"Aggiungi selezione", 8},
-                                          {"Rimuovi selezione", 9},
-                                          {"Rimuovi tutto", 10},
-                                          {"Inverti selezione", 11},
-                                          {"Interrompi", 12},
-                                          {"Attiva o disattiva la barra laterale", 14}};
+struct MenuAperto {
+    std::string didascalia;
+    std::vector<std::string> voci;
+};
+
+// The menus of the bar and those that open out of them.
+const MenuAperto kMenu[] = {
+    {"&File", {"&Aggiorna ed Esci", "&Esci"}},
+    {"&Visualizza", {"&Ottimizza", "&Zoom", "&Sposta", "&Ridisegna"}},
+    {"&Operazioni",
+     {"&Aggiungi", "&Rimuovi", "Ri&muovi tutto", "In&verti selezione", "&Interrompi"}},
+    {"&Selezioni",
+     {"&Finestra", "&Colore", "Tipo &punto", "Tipo &linea", "Tipo &tratteggio", "&Materiale",
+      "Sezione", "Spessore", "Orientamento", "Svincolo", "Vincolo", "N&ome elemento", "T&utto"}},
+    {"&Colore",
+     {"Bianco", "Blu", "Rosso", "Verde", "Giallo", "Verde scuro", "Magenta", "Azzurro", "Arancione",
+      "Tutti"}},
+    {"Tipo &tratteggio", {"1", "2", "3", "4", "5", "6", "7", "8", "Tutti"}},
+    {"Op&zioni",
+     {"&Visualizza Coordinate", "Visualizza &Assi", "&Barra laterale", "Barra delle &icone",
+      "&Trappola...", "O&pzioni..."}}};
+
+std::string SenzaSegno(std::string didascalia) {
+    std::erase(didascalia, '&');
+    return didascalia;
+}
+
+std::string Lettera(const std::string &didascalia) {
+    const auto segno = didascalia.find('&');
+    return segno == std::string::npos ? "" : didascalia.substr(segno + 1, 1);
+}
+
+const MenuAperto &Cerca(const std::string &menu) {
+    const auto trovato = std::ranges::find(
+        kMenu, menu, [](const MenuAperto &m) { return SenzaSegno(m.didascalia); });
+    if (trovato == std::end(kMenu)) Fallisci("no menu '" + menu + "' in the table of the tests");
+    return *trovato;
+}
+
+// A menu opens with its first item chosen.
+std::string Raggiungi(const std::string &menu, const std::string &nome) {
+    std::string tasti;
+    for (const std::string &voce : Cerca(menu).voci) {
+        if (SenzaSegno(voce) == nome)
+            return Lettera(voce).empty() ? tasti + "Invio" : Lettera(voce);
+        tasti += "Giu ";
+    }
+    Fallisci("no item '" + nome + "' in menu '" + menu + "' of the tests");
+}
+
+// The tool-bar buttons by the tips they show, separators between them.
+const std::string kBottoni[] = {"Aggiorna ed esci",
+                                "Esci",
+                                "",
+                                "Ottimizza",
+                                "Zoom",
+                                "Sposta",
+                                "Ridisegna",
+                                "",
+                                "Aggiungi selezione",
+                                "Rimuovi selezione",
+                                "Rimuovi tutto",
+                                "Inverti selezione",
+                                "Interrompi",
+                                "",
+                                "Attiva o disattiva la barra laterale"};
 
 const std::map<int, std::uint32_t> kColoriDeiNodi{
     {1, 0xFFFFFF}, {2, 0x0000C0}, {3, 0xFF0000}, {4, 0x00FF00}, {20, 0xFF00FF}};
@@ -31,35 +82,20 @@ bool Vicini(const POINT &a, const POINT &b) {
     return std::abs(a.x - b.x) <= 2 && std::abs(a.y - b.y) <= 2;
 }
 
-HWND ControlloColFuoco(HWND finestra) {
-    GUITHREADINFO filo{};
-    filo.cbSize = sizeof filo;
-    GetGUIThreadInfo(GetWindowThreadProcessId(finestra, nullptr), &filo);
-    return filo.hwndFocus;
-}
-
 POINT PostoDelBottone(const Programma &p, const std::string &suggerimento) {
-    return p.CentroBottone(p.Controllo("Toolbar1"), kBottoni.at(suggerimento));
+    const auto indice = std::ranges::find(kBottoni, suggerimento) - kBottoni;
+    return p.CentroBottone(p.Controllo("Toolbar1"), static_cast<int>(indice));
 }
 
-std::string NomeDi(Genere genere) {
-    return "OptElem(" + std::to_string(static_cast<int>(genere)) + ")";
+// Makes the job; the argument that opens it.
+std::wstring Prepara(const Ambiente &amb, Genere genere, const std::string &selezione) {
+    ScriviIngresso(LavoroPiccolo(amb), "Prova", selezione, static_cast<int>(genere));
+    return amb.Argomento("LAVORO=prova1|");
 }
 
 } // namespace
 
-std::string Luogo::Testo() const {
-    auto testo = "node " + std::to_string(primo);
-    if (modo == Modo::Mezzo)
-        testo = "the middle of nodes " + std::to_string(primo) + " and " + std::to_string(secondo);
-    if (modo == Modo::Incrocio)
-        testo = "below " + testo + " at the height of node " + std::to_string(secondo);
-    if (destra || giu) testo += " by " + std::to_string(destra) + "," + std::to_string(giu);
-    return testo;
-}
-
 void ChiudiRiquadro(Programma &p, const RiquadroAtteso &atteso) {
-    Annota("close the box '" + atteso.testo + "'");
     const auto visto = p.ChiudiRiquadro();
     UGUALE(visto.titolo, atteso.titolo);
     UGUALE(visto.testo, atteso.testo);
@@ -67,101 +103,59 @@ void ChiudiRiquadro(Programma &p, const RiquadroAtteso &atteso) {
 }
 
 Sessione::Sessione(const Ambiente &amb, Genere genere, const std::string &selezione)
-    : lavoro(LavoroPiccolo(amb)),
-      p((ScriviIngresso(lavoro, "Prova", selezione, static_cast<int>(genere)), amb.telva),
-        amb.Argomento("LAVORO=prova1|")),
-      finestra(p.Principale()), disegno(p.Controllo("Disegno")) {
-    Annota("start on the small job");
-    p.Dimensiona(finestra, GetSystemMetrics(SM_CXSCREEN) * 11 / 16,
-                 GetSystemMetrics(SM_CYSCREEN) * 4 / 5);
+    : Programma(amb.telva, Prepara(amb, genere, selezione)), lavoro(amb.Lavori() / "prova1"),
+      finestra(Principale()), disegno(Controllo("Disegno")) {
+    Dimensiona(finestra, GetSystemMetrics(SM_CXSCREEN) * 11 / 16,
+               GetSystemMetrics(SM_CYSCREEN) * 4 / 5);
     // The nodes are looked for in the new picture: painted at once, and on the screen by the second
     // time that the program has nothing left to do.
     RedrawWindow(disegno, nullptr, nullptr, RDW_UPDATENOW);
-    p.Smaltisci(finestra);
-    p.Smaltisci(finestra);
+    Smaltisci(finestra);
+    Smaltisci(finestra);
     RECT r{};
     GetClientRect(disegno, &r);
-    p.Aspetta("the picture at its new size", [&] {
-        return p.Pixel(disegno, {r.right - 3, r.bottom - 3}) == 0 &&
-               p.Pixel(p.Controllo("FrameSel"), {180, 40}) != 0;
+    Aspetta("the picture at its new size", [&] {
+        return Pixel(disegno, {r.right - 3, r.bottom - 3}) == 0 &&
+               Pixel(Controllo("FrameSel"), {180, 40}) != 0;
     });
-    for (const auto &[nome, colore] : kColoriDeiNodi)
-        p.Aspetta("node " + std::to_string(nome), [&, quale = nome] {
-            const auto punto = DoveStaNodo(quale);
-            if (punto) nodi_[quale] = *punto;
-            return punto.has_value();
-        });
+    for (const auto &nodo : kColoriDeiNodi) {
+        Aspetta("node " + std::to_string(nodo.first), [&] { return SiVede(nodo.first); });
+        nodi_[nodo.first] = *DoveStaNodo(nodo.first);
+    }
 }
 
-void Sessione::PremiUno(const std::string &tasti) {
-    Annota("press " + tasti);
-    p.Premi(tasti);
-}
-
-void Sessione::Digita(const std::string &testo) {
-    Annota("type '" + testo + "'");
-    p.Digita(testo);
-}
-
-void Sessione::Menu(const std::string &menu, const std::string &voce, const std::string &sotto) {
-    Annota("menu " + menu + " > " + voce + (sotto.empty() ? "" : " > " + sotto));
-    const auto tasti = TastiDi(menu, voce, sotto);
-    p.Menu(tasti.apri, tasti.voce);
-}
-
-void Sessione::MenuConTasti(const std::string &apri, const std::string &tasti) {
-    Annota("menu of " + apri + ", keys " + tasti);
-    p.Menu(apri, tasti);
+void Sessione::Scegli(const std::string &menu, const std::string &voce, const std::string &sotto) {
+    const std::string tasti = Raggiungi(menu, voce);
+    Menu("Alt+" + Lettera(Cerca(menu).didascalia),
+         sotto.empty() ? tasti : tasti + " " + Raggiungi(voce, sotto));
 }
 
 void Sessione::PremiBottone(const std::string &suggerimento) {
-    Annota("tool-bar button " + suggerimento);
-    p.Clic(p.Controllo("Toolbar1"), PostoDelBottone(p, suggerimento));
+    Clic(Controllo("Toolbar1"), PostoDelBottone(*this, suggerimento));
 }
 
-void Sessione::Scegli(Genere genere) { Clic(NomeDi(genere)); }
-
-void Sessione::Clic(const Luogo &luogo, Bottone bottone, int volte) {
-    Annota((volte == 2 ? "double click at " : "click at ") + luogo.Testo());
-    p.Clic(disegno, Punto(luogo), bottone, volte);
+void Sessione::Scegli(Genere genere) {
+    Clic("OptElem(" + std::to_string(static_cast<int>(genere)) + ")");
 }
 
-void Sessione::Clic(const std::string &controllo) {
-    Annota("click " + controllo);
-    p.Clic(controllo);
+HWND Sessione::ApriTrappola() {
+    Scegli("Opzioni", "Trappola...");
+    return Dialogo("Opzioni");
 }
 
-void Sessione::Punta(const Luogo &luogo) {
-    Annota("point at " + luogo.Testo());
-    p.Punta(disegno, Punto(luogo));
-}
-
-void Sessione::PuntaInDisparte() { p.Punta(disegno, {5, 5}); }
-
-void Sessione::TrascinaColMedio(const Luogo &da, const Luogo &a,
-                                const std::function<void()> &inMezzo) {
-    Annota("drag with the middle button from " + da.Testo() + " to " + a.Testo());
-    p.Trascina(disegno, Punto(da), Punto(a), Bottone::Medio, inMezzo);
-}
-
-void Sessione::Rotella(int scatti) {
-    Annota("turn the wheel by " + std::to_string(scatti));
-    p.Rotella(disegno, Punto(Vuoto()), scatti);
-}
-
-void Sessione::Dimensiona(int larghezza, int altezza) {
-    Annota("size " + std::to_string(larghezza) + "x" + std::to_string(altezza));
-    p.Dimensiona(finestra, larghezza, altezza);
+HWND Sessione::ApriOpzioni() {
+    Scegli("Opzioni", "Opzioni...");
+    return Dialogo("Opzioni di rappresentazione");
 }
 
 void Sessione::VaiA(const std::string &controllo) {
-    Annota("go to " + controllo + " by Tab");
-    for (int passi = 0; passi < 60 && !p.HaFuoco(controllo); ++passi) {
-        HWND prima = ControlloColFuoco(finestra);
-        p.Premi("Tab");
-        p.Aspetta("Tab to move the focus", [&] { return ControlloColFuoco(finestra) != prima; });
+    for (int passi = 0; passi < 60 && !HaFuoco(controllo); ++passi) {
+        HWND prima = Fuoco();
+        Premi("Tab");
+        Aspetta("Tab to move the focus", [&] { return Fuoco() != prima; });
     }
-    VERIFICA(p.HaFuoco(controllo));
+    Passo("now at " + controllo);
+    VERIFICA(HaFuoco(controllo));
 }
 
 void Sessione::Spazio(const std::string &controllo) {
@@ -171,21 +165,20 @@ void Sessione::Spazio(const std::string &controllo) {
 
 void Sessione::Riscrivi(const std::string &casella, const std::string &testo) {
     if (casella != "Risposta") VaiA(casella); // the answer box takes the focus by itself
-    Annota("write '" + testo + "' in " + casella);
-    p.Aspetta("the focus on " + casella, [&] { return p.HaFuoco(casella); });
-    for (const char *tasti : {"Fine", "Shift+Inizio", "Canc"}) p.Premi(tasti);
-    DIVENTA(p, p.Testo(casella), "");
-    p.Scrivi(casella, testo);
+    Aspetta("the focus on " + casella, [&] { return HaFuoco(casella); });
+    for (const char *tasti : {"Fine", "Shift+Inizio", "Canc"}) Premi(tasti);
+    TestoDiventa(casella, "");
+    Scrivi(casella, testo);
 }
 
-void Sessione::Rispondi(const std::string &testo) {
-    Riscrivi("Risposta", testo);
+void Sessione::Invia(const std::string &casella, const std::string &testo) {
+    Riscrivi(casella, testo);
     Premi("Invio");
 }
 
 void Sessione::TestoDiventa(const std::string &controllo, const std::string &atteso) {
     Diventa(
-        p, [&] { return p.Testo(controllo); }, atteso, controllo.c_str());
+        *this, [&] { return Testo(controllo); }, atteso, controllo.c_str());
 }
 
 void Sessione::NienteInCorso() {
@@ -193,70 +186,45 @@ void Sessione::NienteInCorso() {
     SottoFunzioneDiventa("");
 }
 
-void Sessione::Abilitato(const std::string &controllo, bool atteso) {
-    Diventa(
-        p, [&] { return p.Abilitato(controllo); }, atteso, (controllo + " enabled").c_str());
-}
-
-void Sessione::Visibile(const std::string &controllo, bool atteso) {
-    Diventa(
-        p, [&] { return p.Visibile(controllo); }, atteso, (controllo + " visible").c_str());
-}
-
-void Sessione::Spuntato(const std::string &controllo, bool atteso) {
-    Diventa(
-        p, [&] { return p.Spuntato(controllo); }, atteso, (controllo + " ticked").c_str());
-}
-
-void Sessione::SiVede(int nodo, bool atteso) {
-    Diventa(
-        p, [&] { return DoveStaNodo(nodo).has_value(); }, atteso,
-        ("node " + std::to_string(nodo) + " seen").c_str());
-}
-
 void Sessione::NodoStaIn(int nome, const Luogo &luogo) {
     const POINT atteso = Punto(luogo);
     POINT visto{};
-    p.Aspetta(
-        "node " + std::to_string(nome) + " at " + Testo(atteso),
+    Aspetta(
+        "node " + std::to_string(nome) + " at " + prove::Testo(atteso),
         [&] {
             return Vicini(visto = DoveStaNodo(nome).value_or(POINT{-1, -1}), atteso);
         },
-        [&] { return Testo(visto); });
-    VERIFICA(Vicini(visto, atteso));
+        [&] { return prove::Testo(visto); });
+    VERIFICA(true);
 }
 
 void Sessione::BottoneSuggerisce(const std::string &bottone, const std::string &atteso) {
-    Annota("rest on the tool-bar button " + bottone);
     PuntaInDisparte();
-    DIVENTA(p, p.Suggerimento(), "");
-    p.Punta(p.Controllo("Toolbar1"), PostoDelBottone(p, bottone));
-    DIVENTA(p, p.Suggerimento(), atteso);
+    DIVENTA(*this, Suggerimento(), "");
+    Punta(Controllo("Toolbar1"), PostoDelBottone(*this, bottone));
+    DIVENTA(*this, Suggerimento(), atteso);
 }
-
-void Sessione::ChiudiRiquadro(const RiquadroAtteso &atteso) { prove::ChiudiRiquadro(p, atteso); }
 
 std::vector<std::uint32_t> Sessione::Vista() const {
     RECT zona{};
-    GetWindowRect(p.Controllo(fotoDi_), &zona);
+    GetWindowRect(Controllo(fotoDi_), &zona);
     return Schermo(&zona).pixel;
 }
 
 // What was drawn reaches the screen a little later, so the picture has to rest for a while.
 void Sessione::Fotografa(const std::string &controllo) {
-    Annota("picture of " + controllo);
     constexpr ULONGLONG fermaMs = 100;
     ULONGLONG da = 0;
     fotoDi_ = controllo;
-    p.Aspetta("a picture at rest", [&] {
+    Aspetta("a picture at rest", [&] {
         if (auto ora = Vista(); da == 0 || ora != std::exchange(foto_, ora)) da = GetTickCount64();
         return GetTickCount64() - da >= fermaMs;
     });
 }
 
 void Sessione::Confronta(bool uguale) const {
-    p.Aspetta(fotoDi_ + (uguale ? " as in" : " other than") + " the picture taken",
-              [&] { return (Vista() == foto_) == uguale; });
+    Aspetta(fotoDi_ + (uguale ? " as in" : " other than") + " the picture taken",
+            [&] { return (Vista() == foto_) == uguale; });
     VERIFICA(true);
 }
 
@@ -277,16 +245,8 @@ std::optional<POINT> Sessione::DoveStaNodo(int nome) const {
 }
 
 POINT Sessione::Punto(const Luogo &luogo) const {
-    const POINT a = nodi_.at(luogo.primo), b = nodi_.at(luogo.secondo);
-    const POINT base = luogo.modo == Luogo::Modo::Mezzo ? POINT{(a.x + b.x) / 2, (a.y + b.y) / 2}
-                                                        : POINT{a.x, b.y};
-    return {base.x + luogo.destra, base.y + luogo.giu};
-}
-
-HWND Sessione::AttendiDialogo(const std::string &titolo) { return p.Dialogo(titolo); }
-
-void Sessione::AttendiFinestra() const {
-    p.Aspetta("the main window to be enabled", [&] { return IsWindowEnabled(finestra); });
+    const POINT a = nodi_.at(luogo.nodo), b = nodi_.at(luogo.altro);
+    return {(a.x + b.x) / 2 + luogo.destra, (a.y + b.y) / 2 + luogo.giu};
 }
 
 } // namespace telva::prove

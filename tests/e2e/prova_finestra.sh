@@ -10,7 +10,7 @@ shift 3
 solo=''
 [ "${1:-}" != --solo ] || solo=$2
 qui=$(dirname "$0")
-sensibili='barre_*,dialoghi_*,dialogo_*,didascalie_*,finestra_*,mouse_*,posto_*'
+sensibili='barre_*,dialoghi_*,dialogo_*,didascalie_*,finestr*,mouse_*,posto_*'
 
 prova() { # DPI or nothing, screen, scenarios or nothing for all
     local dpi=$1 schermo=$2 scelti=${solo:-$3}
@@ -29,5 +29,5 @@ prova '' 1600x1000 '' || esito=1
 prova 144 1600x1000 '' || esito=1
 prova 192 1600x1000 "$sensibili" || esito=1
 prova '' 3840x2160 "$sensibili" || esito=1
-prova 144 800x600 'schermo_piccolo,posto_fuori*,posto_smisurato' || esito=1
+prova 144 800x600 'finestre_intere,finestra_alla_nascita,posto_impossibile' || esito=1
 exit $esito

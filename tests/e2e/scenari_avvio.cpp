@@ -1,6 +1,11 @@
-// Starts that go wrong, files that cannot be read or written, and the boxes that say so.
-#include "Installazione.h"
+// Starts and ends as a caller sees them, files that cannot be read or written, and the boxes that
+// say so; several programs on one job.
 #include "Sessione.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <memory>
 
 using namespace telva::prove;
 namespace fs = std::filesystem;
@@ -13,155 +18,93 @@ std::string Minuscolo(const fs::path &percorso) {
     return Utf8(testo);
 }
 
-const RiquadroAtteso kStrutturaErrata{
-    .titolo = "Problema", .testo = "Errore nella lettura della struttura", .icona = "errore"};
-
-RiquadroAtteso Illeggibile(const fs::path &file) {
-    return {.titolo = "Problema",
-            .testo = " Impossibile leggere il file " + Utf8(file.wstring()),
-            .icona = "errore"};
-}
-
-// Starts on the small job, closes the boxes and leaves a program that has gone on (else it has
-// ended by itself); nothing may have been written.
-void AvviaConRiquadri(const Ambiente &amb, const fs::path &lavoro,
-                      const std::vector<RiquadroAtteso> &riquadri, bool prosegue = true) {
-    Programma p(amb.telva, amb.Argomento("LAVORO=prova1|"));
-    for (const auto &atteso : riquadri) ChiudiRiquadro(p, atteso);
-    if (prosegue) {
-        p.Principale();
-        p.Premi("Ctrl+E");
-    }
-    UGUALE(p.AttendiFine(), prosegue ? 0U : 1U);
-    VERIFICA(!LeggiByte(lavoro / "TelvaOut.txt"));
-}
-
-// Nothing but whole files with the names they had.
-void VerificaNessunResto(const fs::path &lavoro) {
-    for (const auto &voce : fs::directory_iterator(lavoro))
-        VERIFICA(voce.path().wstring().find(L".~") == std::wstring::npos);
+RiquadroAtteso Errore(const std::string &testo) {
+    return {.titolo = "Problema", .testo = testo, .icona = "errore"};
 }
 
 } // namespace
 
+// Without |LAVORO= the job is that of the settings file.
+SCENARIO(avvio_con_ogni_lavoro) {
+    const auto impostato =
+        LeggiByte(amb.dati / "impostazioni" / "lavoro").value_or("").substr(0, 6);
+    const auto lavoro = amb.Lavori() / impostato, altro = LavoroPiccolo(amb, "Prova2");
+    ScriviIngresso(lavoro, "Primo", "", 2);
+    ScriviIngresso(altro, "  Città di prova ", " 8,12 ", 1);
+    const struct {
+        fs::path lavoro;
+        std::string argomento, titolo, genere, lista;
+    } avvii[] = {
+        {.lavoro = lavoro, .argomento = "", .titolo = "Primo", .genere = "OptElem(2)", .lista = ""},
+        {.lavoro = altro,
+         .argomento = "lavoro=Prova2|resto",
+         .titolo = "Città di prova",
+         .genere = "OptElem(1)",
+         .lista = "8,12"}};
+    for (const auto &a : avvii) {
+        Programma p(amb.telva, amb.Argomento(a.argomento));
+        UGUALE(p.Testo(p.Principale()), a.titolo + " - " + Utf8(a.lavoro.wstring()));
+        VERIFICA(p.Spuntato(a.genere));
+        UGUALE(p.Testo("StringaSel"), a.lista);
+        p.Premi("Ctrl+G");
+        UGUALE(p.AttendiFine(), 0U);
+        UGUALE(Scritto(a.lavoro), (a.lista.empty() ? " " : a.lista) + "\r\n");
+    }
+}
+
 SCENARIO(avvio_sbagliato) {
     const auto radice = fs::temp_directory_path() / "telva_avvio";
-    const std::string dir = Minuscolo(radice);
-    const std::string argomento = "|diroot=" + Utf8(radice.wstring()) + "|";
-    const RiquadroAtteso mancaArgomento{.titolo = "ERRORE",
-                                        .testo = "Avvio del programma: argomento non presente",
-                                        .icona = "errore"};
-    const RiquadroAtteso mancaDirlav{.titolo = "ERRORE",
-                                     .testo = "Errore: file " + dir +
-                                              "\\impostazioni\\dirlav errato o mancante",
-                                     .icona = "avviso"};
-    const RiquadroAtteso mancaLavoro{.titolo = "ERRORE",
-                                     .testo = "Errore: file " + dir +
-                                              "\\impostazioni\\lavoro errato o mancante",
-                                     .icona = "avviso"};
-    const RiquadroAtteso nonLavori{
-        .titolo = "ERRORE",
-        .testo = "Errore: il direttorio dei lavori deve terminare con < \\lavori >",
-        .icona = "avviso"};
     const struct {
-        std::string argomento, dirlav, lavoro; // without contents there is no such file
+        std::string argomento;
         RiquadroAtteso riquadro;
-    } casi[] = {
-        {.argomento = "", .dirlav = "", .lavoro = "", .riquadro = mancaArgomento},
-        {.argomento = "   ", .dirlav = "", .lavoro = "", .riquadro = mancaArgomento},
-        {.argomento = "|altro=1|", .dirlav = "", .lavoro = "", .riquadro = mancaArgomento},
-        {.argomento = argomento, .dirlav = "", .lavoro = "dimo01\n", .riquadro = mancaDirlav},
-        {.argomento = argomento,
-         .dirlav = "c:\\lav\n",
-         .lavoro = "dimo01\n",
-         .riquadro = mancaDirlav},
-        {.argomento = argomento,
-         .dirlav = "c:\\x\\lavoro\\\n",
-         .lavoro = "dimo01\n",
-         .riquadro = nonLavori},
-        {.argomento = argomento,
-         .dirlav = "c:\\x\\lavori\n",
-         .lavoro = "",
-         .riquadro = mancaLavoro},
-        {.argomento = argomento,
-         .dirlav = "c:\\x\\lavori\\\n",
-         .lavoro = "ab12c\n",
-         .riquadro = mancaLavoro},
-    };
+    } casi[] = {{.argomento = "   ",
+                 .riquadro = {.titolo = "ERRORE",
+                              .testo = "Avvio del programma: argomento non presente",
+                              .icona = "errore"}},
+                {.argomento = "|diroot=" + Utf8(radice.wstring()) + "|",
+                 .riquadro = {.titolo = "ERRORE",
+                              .testo = "Errore: file " + Minuscolo(radice) +
+                                       "\\impostazioni\\dirlav errato o mancante",
+                              .icona = "avviso"}}};
+    fs::remove_all(radice);
     for (const auto &caso : casi) {
-        Annota("start with '" + caso.argomento + "', dirlav '" + caso.dirlav + "', lavoro '" +
-               caso.lavoro + "'");
-        fs::remove_all(radice);
-        if (!caso.dirlav.empty()) ScriviFile(radice / "impostazioni" / "dirlav", caso.dirlav);
-        if (!caso.lavoro.empty()) ScriviFile(radice / "impostazioni" / "lavoro", caso.lavoro);
         Programma p(amb.telva, Largo(caso.argomento));
         ChiudiRiquadro(p, caso.riquadro);
         UGUALE(p.AttendiFine(), 1U); // a crash has another code
     }
-    fs::remove_all(radice);
 }
 
 SCENARIO(avvio_con_file_impediti) {
     const Ambiente mio = Copia(amb);
     const auto lavoro = LavoroPiccolo(mio);
+    ScriviIngresso(lavoro, "Prova", "", 0);
     const auto font = mio.dati / "progra" / "font.001";
     const struct {
         fs::path file;
-        RiquadroAtteso assente, chiuso; // gone or a folder, and held open by another program
+        Ostacolo ostacolo;
+        RiquadroAtteso riquadro;
     } casi[] = {
-        {.file = lavoro / "spessori",
-         .assente = Illeggibile(lavoro / "spessori"),
-         .chiuso = Illeggibile(lavoro / "spessori")},
-        {.file = lavoro / "sezioni_",
-         .assente = Illeggibile(lavoro / "sezioni_"),
-         .chiuso = Illeggibile(lavoro / "sezioni_")},
-        {.file = lavoro / "el_conti.tmp",
-         .assente = Illeggibile(lavoro / "el_conti.tmp"),
-         .chiuso = Illeggibile(lavoro / "el_conti.tmp")},
-        {.file = lavoro / "STRUTTUR.STR", .assente = kStrutturaErrata, .chiuso = kStrutturaErrata},
-        {.file = font,
-         .assente = {.titolo = "Problema",
-                     .testo = "File " + Minuscolo(font) + " inesistente!",
-                     .icona = "errore"},
-         .chiuso = {.titolo = "Problema",
-                    .testo = "Errore in lettura del file " + Minuscolo(font) + " !",
-                    .icona = "errore"}}};
-    for (const auto &caso : casi)
-        for (const auto ostacolo : {Ostacolo::Manca, Ostacolo::Cartella, Ostacolo::Chiuso}) {
-            Annota(Utf8(caso.file.wstring()) + " with obstacle " +
-                   std::to_string(static_cast<int>(ostacolo)));
-            ScriviIngresso(LavoroPiccolo(mio), "Prova", "", 0);
-            const fs::path salvo = caso.file.wstring() + L".salvo";
-            fs::copy_file(caso.file, salvo);
-            {
-                const Impedito impedito(caso.file, ostacolo);
-                AvviaConRiquadri(mio, lavoro,
-                                 {ostacolo == Ostacolo::Chiuso ? caso.chiuso : caso.assente});
-            }
-            fs::rename(salvo, caso.file);
+        {lavoro / "STRUTTUR.STR", Ostacolo::Chiuso, Errore("Errore nella lettura della struttura")},
+        {lavoro / "spessori", Ostacolo::Chiuso,
+         Errore(" Impossibile leggere il file " + Utf8((lavoro / "spessori").wstring()))},
+        {font, Ostacolo::Cartella, Errore("File " + Minuscolo(font) + " inesistente!")},
+        {font, Ostacolo::Chiuso, Errore("Errore in lettura del file " + Minuscolo(font) + " !")}};
+    for (const auto &caso : casi) {
+        Passo("put an obstacle in the way of " + Utf8(caso.file.wstring()));
+        const std::string salvo = LeggiByte(caso.file).value_or("");
+        {
+            const Impedito impedito(caso.file, caso.ostacolo);
+            Programma p(mio.telva, mio.Argomento("LAVORO=prova1|"));
+            ChiudiRiquadro(p, caso.riquadro);
+            p.Principale(); // it goes on
+            Esci(p);
+            UGUALE(Scritto(lavoro), "(no file)");
         }
-}
-
-SCENARIO(avvio_con_struttura_errata) {
-    const auto lavoro = LavoroPiccolo(amb);
-    const RiquadroAtteso nomeGrande{.titolo = "ERRORE IN STRUTTUR.STR",
-                                    .testo = "Nome nodo maggiore di 32000.",
-                                    .icona = "avviso"};
-    const RiquadroAtteso vecchia{
-        .titolo = "Attenzione",
-        .testo = "Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
-        .icona = "errore"};
-    ScriviIngresso(lavoro, "Prova", "", 0);
-    ScriviFile(lavoro / "STRUTTUR.STR", "Release\n1\n0,0,0\n1\n0 0 1\n32001 0\n");
-    AvviaConRiquadri(amb, lavoro, {nomeGrande, kStrutturaErrata});
-    ScriviFile(lavoro / "STRUTTUR.STR", "Versione 3.8\n");
-    AvviaConRiquadri(amb, lavoro, {vecchia}, false);
+        std::ofstream(caso.file, std::ios::binary) << salvo;
+    }
 }
 
 SCENARIO(uscita_impedita) {
-    const RiquadroAtteso nonScritto{.titolo = "Problema",
-                                    .testo = " Non è possibile scrivere il file di uscita ",
-                                    .icona = "errore"};
     const struct {
         Ostacolo ostacolo;
         bool rifiutata;
@@ -177,11 +120,37 @@ SCENARIO(uscita_impedita) {
         ScriviFile(file, "8\n");
         {
             const Impedito impedito(file, caso.ostacolo);
-            s.Menu("File", "Aggiorna ed Esci");
-            if (caso.rifiutata) s.ChiudiRiquadro(nonScritto);
-            UGUALE(s.p.AttendiFine(), 0U);
+            s.Scegli("File", "Aggiorna ed Esci");
+            if (caso.rifiutata)
+                ChiudiRiquadro(s, Errore(" Non è possibile scrivere il file di uscita "));
+            UGUALE(s.AttendiFine(), 0U);
         }
-        UGUALE(LeggiByte(file).value_or("(no file)"), caso.file);
+        UGUALE(Scritto(s.lavoro), caso.file);
         VerificaNessunResto(s.lavoro);
+    }
+}
+
+// Three programs on one job that end at once: each answer is written whole, one of them stays.
+SCENARIO(tre_programmi_insieme) {
+    constexpr UINT kAggiornaEdEsci = 1001;
+    const std::array<std::string, 3> liste = {"8", "9,14", "7,7-9"};
+    const auto lavoro = LavoroPiccolo(amb);
+    for (int giro = 0; giro < 5; ++giro) {
+        std::vector<std::unique_ptr<Programma>> programmi;
+        for (const std::string &lista : liste) {
+            ScriviIngresso(lavoro, "Insieme", lista, 1);
+            programmi.push_back(
+                std::make_unique<Programma>(amb.telva, amb.Argomento("LAVORO=prova1|")));
+            programmi.back()->Principale();
+            UGUALE(programmi.back()->Testo("StringaSel"), lista);
+        }
+        for (const auto &p : programmi)
+            PostMessageW(GetAncestor(p->Controllo("Disegno"), GA_ROOT), WM_COMMAND, kAggiornaEdEsci,
+                         0);
+        for (const auto &p : programmi) UGUALE(p->AttendiFine(), 0U);
+        const std::string rimasta = Scritto(lavoro);
+        VERIFICA(std::count(liste.begin(), liste.end(), rimasta.substr(0, rimasta.find('\r'))) ==
+                 1);
+        VerificaNessunResto(lavoro);
     }
 }

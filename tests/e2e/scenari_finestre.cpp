@@ -1,4 +1,5 @@
-// How the windows are laid out: sizes, states of the main window, what its bars leave behind.
+// How the windows are laid out: sizes, states of the main window, what its bars leave behind; where
+// they stand, in a later start too; texts of any length that they have to show.
 #include "Finestre.h"
 #include "Sessione.h"
 
@@ -8,43 +9,28 @@ using namespace telva::prove;
 
 namespace {
 
-struct Misura {
-    LONG larghezza, altezza;
-};
+constexpr SIZE kAllaNascita{.cx = 15000, .cy = 11400}; // twips: 1440 to the inch
+constexpr SIZE kMinima{.cx = 5550, .cy = kAltezzaMinima};
 
-Misura MisuraDi(HWND finestra) {
-    RECT r{};
-    GetWindowRect(finestra, &r);
+SIZE MisuraDi(HWND finestra) {
+    const RECT r = Rettangolo(finestra);
     return {r.right - r.left, r.bottom - r.top};
 }
 
-// A size in twips (1440 to the inch) as pixels, but never larger than the screen.
-Misura InPixel(HWND finestra, Misura twip) {
+// In pixels, but never larger than the screen.
+void MisuraDiventa(const Programma &p, HWND finestra, SIZE twip) {
     const auto dpi = static_cast<LONG>(GetDpiForWindow(finestra));
-    const RECT area = AreaDiLavoro();
-    return {std::min((twip.larghezza * dpi + 1439) / 1440, area.right),
-            std::min((twip.altezza * dpi + 1439) / 1440, area.bottom)};
+    const auto attesa = [dpi](LONG lato, LONG schermo) {
+        return std::min((lato * dpi + 1439) / 1440, schermo);
+    };
+    DIVENTA(p, MisuraDi(finestra).cx, attesa(twip.cx, AreaDiLavoro().right));
+    DIVENTA(p, MisuraDi(finestra).cy, attesa(twip.cy, AreaDiLavoro().bottom));
 }
 
-constexpr Misura kAllaNascita{.larghezza = 15000, .altezza = 11400};
-const struct {
-    const char *voce, *tasti, *titolo, *chiude;
-} kDialoghi[] = {
-    {.voce = "Trappola...", .tasti = "t", .titolo = "Opzioni", .chiude = "Command1"},
-    {.voce = "Opzioni...",
-     .tasti = "p",
-     .titolo = "Opzioni di rappresentazione",
-     .chiude = "Chiudi"},
-};
-constexpr Misura kMinima{.larghezza = 5550, .altezza = 7120};
-
-void Comanda(Sessione &s, WPARAM comando) {
-    PostMessageW(s.finestra, WM_SYSCOMMAND, comando, 0);
-    s.p.Aspetta("the window's new state", [&] {
-        return (comando == SC_MINIMIZE) == (IsIconic(s.finestra) != 0) &&
-               (comando == SC_MAXIMIZE) == (IsZoomed(s.finestra) != 0);
-    });
-    if (comando != SC_MINIMIZE) s.p.Principale();
+std::string Posto(HWND finestra) {
+    const RECT r = Rettangolo(finestra);
+    return std::to_string(r.left) + "," + std::to_string(r.top) + " to " + std::to_string(r.right) +
+           "," + std::to_string(r.bottom);
 }
 
 } // namespace
@@ -52,99 +38,158 @@ void Comanda(Sessione &s, WPARAM comando) {
 SCENARIO(finestra_alla_nascita) {
     Programma p(amb.telva, amb.Argomento());
     const HWND finestra = p.Principale();
-    const Misura vista = MisuraDi(finestra), attesa = InPixel(finestra, kAllaNascita);
-    UGUALE(vista.larghezza, attesa.larghezza);
-    UGUALE(vista.altezza, attesa.altezza);
+    MisuraDiventa(p, finestra, kAllaNascita);
     UGUALE(Difetti(p, finestra), "");
 }
 
 SCENARIO(finestra_minima) {
     Sessione s(amb, Genere::Aste, "7-14");
     s.PuntaInDisparte();
-    s.Dimensiona(100, 100);
-    const Misura attesa = InPixel(s.finestra, kMinima);
-    DIVENTA(s.p, MisuraDi(s.finestra).larghezza, attesa.larghezza);
-    DIVENTA(s.p, MisuraDi(s.finestra).altezza, attesa.altezza);
+    s.Dimensiona(s.finestra, 100, 100);
+    MisuraDiventa(s, s.finestra, kMinima);
     s.Premi("Ctrl+A");
     // The longest title of a function and the longest question.
     for (const char *voce : {"Orientamento", "Nome elemento"}) {
-        s.Menu("Selezioni", voce);
+        s.Scegli("Selezioni", voce);
         s.Riscrivi("Risposta", "1");
-        UGUALE(Difetti(s.p, s.finestra), "");
+        UGUALE(Difetti(s, s.finestra), "");
     }
 }
 
-// A dialog of a window in the corner of the screen is still seen whole.
-SCENARIO(dialoghi_nell_angolo) {
-    Sessione s(amb);
-    const RECT area = AreaDiLavoro();
-    const Misura m = MisuraDi(s.finestra);
-    SetWindowPos(s.finestra, nullptr, area.right - m.larghezza, area.bottom - m.altezza, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER);
-    for (const auto &caso : kDialoghi) {
-        s.Menu("Opzioni", caso.voce);
-        const HWND dialogo = s.AttendiDialogo(caso.titolo);
-        VERIFICA(SiVedeIntera(dialogo));
-        UGUALE(Difetti(s.p, dialogo), "");
-        s.Premi("Esc");
-        s.AttendiFinestra();
-    }
-}
-
-// Where the window may not become as small as the screen is, it is laid out smaller, and so are the
-// dialogs: nothing is out of reach, at the first start and at every later one.
-SCENARIO(schermo_piccolo) {
-    LavoroPiccolo(amb);
-    for (const bool ricorda : {false, true}) {
-        Programma p(amb.telva, amb.Argomento("LAVORO=prova1"), ricorda);
-        const HWND finestra = p.Principale();
-        for (const Misura &m : {MisuraDi(finestra), Misura{.larghezza = 100, .altezza = 100}}) {
-            p.Dimensiona(finestra, m.larghezza, m.altezza);
-            DIVENTA(p, SiVedeIntera(finestra), true);
-            UGUALE(FuoriPosto(p, finestra), "");
-        }
-        for (const auto &caso : kDialoghi) {
-            p.Menu("Alt+Z", caso.tasti);
-            const HWND dialogo = p.Dialogo(caso.titolo);
+// Dialogs of a window in the corner of the screen are still seen whole; so is a window, in its next
+// start too, whose smallest size would be larger than the screen.
+SCENARIO(finestre_intere) {
+    {
+        Sessione s(amb);
+        const RECT area = AreaDiLavoro();
+        const SIZE m = MisuraDi(s.finestra);
+        SetWindowPos(s.finestra, nullptr, area.right - m.cx, area.bottom - m.cy, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER);
+        for (const std::string chiude : {"Command1", "Chiudi"}) {
+            const HWND dialogo = chiude == "Chiudi" ? s.ApriOpzioni() : s.ApriTrappola();
             VERIFICA(SiVedeIntera(dialogo));
-            UGUALE(FuoriPosto(p, dialogo), "");
-            p.Clic(caso.chiude);
-            p.Principale();
+            UGUALE(Difetti(s, dialogo), "");
+            s.Clic(chiude);
+            s.Principale();
         }
-        p.Dimensiona(finestra, AreaDiLavoro().right, AreaDiLavoro().bottom);
-        p.Premi("Ctrl+E");
-        UGUALE(p.AttendiFine(), 0U);
+        Esci(s);
     }
+    Programma p(amb.telva, amb.Argomento(), true);
+    const HWND finestra = p.Principale();
+    VERIFICA(SiVedeIntera(finestra));
+    p.Dimensiona(finestra, 100, 100);
+    VERIFICA(SiVedeIntera(finestra));
+    UGUALE(Difetti(p, finestra), "");
 }
 
 SCENARIO(finestra_ridotta_e_massima) {
     Sessione s(amb);
     s.PuntaInDisparte();
     s.Fotografa("FrameSel");
-    Comanda(s, SC_MINIMIZE);
-    Comanda(s, SC_RESTORE);
-    Comanda(s, SC_MAXIMIZE);
-    UGUALE(Difetti(s.p, s.finestra), "");
-    Comanda(s, SC_RESTORE);
-    s.PuntaInDisparte();
-    s.FotoUguale();
-    UGUALE(Difetti(s.p, s.finestra), "");
-}
-
-// The bars, taken away and brought back, leave nothing behind.
-SCENARIO(barre_tolte_e_rimesse) {
-    Sessione s(amb);
-    s.PuntaInDisparte();
-    s.Fotografa("FrameSel");
-    for (const char *barra :
-         {"Barra laterale", "Barra delle icone", "Barra laterale", "Barra delle icone"}) {
-        s.Menu("Opzioni", barra);
-        s.Premi("Ctrl+Z");
-        s.SottoFunzioneDiventa("Zoom");
-        s.Premi("Esc");
-        s.SottoFunzioneDiventa("");
-        UGUALE(Difetti(s.p, s.finestra), "");
+    for (const int stato : {SW_MAXIMIZE, SW_MINIMIZE, SW_RESTORE, SW_SHOWNORMAL}) {
+        ShowWindow(s.finestra, stato);
+        if (stato == SW_MINIMIZE) continue;
+        s.Principale();
+        DIVENTA(s, Difetti(s, s.finestra), "");
     }
     s.PuntaInDisparte();
     s.FotoUguale();
+}
+
+// The bars, taken away and brought back, leave nothing behind; a text that moves is painted whole
+// again.
+SCENARIO(barre_tolte_e_rimesse) {
+    Sessione s(amb);
+    s.Premi("Ctrl+A");
+    s.ChiediNomi();
+    s.SottoFunzioneDiventa("Seleziona per nome elemento");
+    s.PuntaInDisparte();
+    s.Fotografa("Domanda");
+    for (const bool mostra : {false, true}) {
+        s.Scegli("Opzioni", "Barra delle icone");
+        DIVENTA(s, s.Visibile("Toolbar1"), mostra);
+        s.FotoUguale();
+        UGUALE(Difetti(s, s.finestra), "");
+    }
+    s.Fotografa("FrameSel");
+    for (const bool mostra : {false, true}) {
+        s.PremiBottone("Attiva o disattiva la barra laterale");
+        DIVENTA(s, s.Visibile("OptElem(4)"), mostra);
+        s.BottoneSuggerisce("Attiva o disattiva la barra laterale",
+                            mostra ? "Toglie la barra laterale" : "Aggiunge la barra laterale");
+        UGUALE(Difetti(s, s.finestra), "");
+    }
+    s.PuntaInDisparte();
+    s.FotoUguale();
+}
+
+// Every run begins where the one before ended.
+SCENARIO(posto_ricordato) {
+    std::string scelto;
+    {
+        Programma p(amb.telva, amb.Argomento());
+        const HWND finestra = p.Principale();
+        p.Dimensiona(finestra, 930, 720);
+        SetWindowPos(finestra, nullptr, 61, 47, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        scelto = Posto(finestra);
+        Esci(p);
+    }
+    {
+        Programma p(amb.telva, amb.Argomento(), true);
+        const HWND finestra = p.Principale();
+        UGUALE(Posto(finestra), scelto);
+        { // two at once can both be seen
+            Programma altra(amb.telva, amb.Argomento(), true);
+            VERIFICA(Rettangolo(altra.Principale()).left > Rettangolo(finestra).left);
+            Esci(altra);
+        }
+        ShowWindow(finestra, SW_MAXIMIZE);
+        Esci(p);
+    }
+    {
+        Programma p(amb.telva, amb.Argomento(), true);
+        const HWND finestra = p.Principale();
+        VERIFICA(IsZoomed(finestra));
+        ShowWindow(finestra, SW_RESTORE);
+        UGUALE(Posto(finestra), scelto);
+        SetWindowPos(finestra, nullptr, 63, 49, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        scelto = Posto(finestra);
+        // Log-off ends the process without closing its window: the system kills it.
+        VERIFICA(SendMessageW(finestra, WM_QUERYENDSESSION, 0, 0) != 0);
+        SendMessageW(finestra, WM_ENDSESSION, TRUE, 0);
+    }
+    Programma p(amb.telva, amb.Argomento(), true);
+    UGUALE(Posto(p.Principale()), scelto);
+    Esci(p);
+}
+
+// A place on no monitor, or one out of a broken registry, costs neither memory nor a window that
+// cannot be seen.
+SCENARIO(posto_impossibile) {
+    const struct {
+        LONG sinistra, sopra, larghezza, altezza, massima; // pixels, then twips
+    } posti[] = {{30000, -20000, 9000, 8000, 0},
+                 {-900000, 900000, 150000, 150000, 0}}; // a picture of 400 MB
+    for (const auto &posto : posti) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, &posto,
+                        sizeof posto);
+        Programma p(amb.telva, amb.Argomento(), true);
+        VERIFICA(SiVedeIntera(p.Principale()));
+        VERIFICA(p.LeggiRisorse().piccoByte < 250U << 20);
+        Esci(p);
+    }
+}
+
+SCENARIO(testo_smisurato) {
+    ScriviIngresso(LavoroPiccolo(amb), std::string(4000000, 'T'), "2", 0);
+    Programma p(amb.telva, amb.Argomento("LAVORO=prova1"));
+    const std::string titolo = p.Testo(p.Principale());
+    VERIFICA(titolo.size() > 10 && titolo.size() < 1000);
+    p.Clic("Angolo(0)");
+    const std::wstring testo(1000000, L'x');
+    SendMessageW(p.Controllo("Angolo(0)"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(testo.c_str()));
+    p.Premi("Invio");
+    VERIFICA(SiVedeIntera(p.AttendiRiquadro().finestra));
+    p.ChiudiRiquadro();
+    Esci(p);
 }

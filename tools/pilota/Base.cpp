@@ -5,6 +5,11 @@
 namespace telva::prove {
 
 std::function<void()> alFallimento;
+std::function<void(const std::string &)> alPasso;
+
+void Passo(const std::string &testo) {
+    if (alPasso) alPasso(testo);
+}
 
 void Fallisci(const std::string &testo) {
     if (alFallimento) alFallimento();

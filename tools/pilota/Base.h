@@ -18,6 +18,11 @@ struct Fallito : std::runtime_error {
 // Called just before a Fallito is thrown, while the windows still stand (for a screenshot).
 extern std::function<void()> alFallimento;
 
+// Told each step as it begins, so that a failure can name the steps before it.
+extern std::function<void(const std::string &)> alPasso;
+
+void Passo(const std::string &testo);
+
 [[noreturn]] void Fallisci(const std::string &testo);
 
 } // namespace telva::prove

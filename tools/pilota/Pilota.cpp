@@ -137,10 +137,6 @@ DWORD ContaGdi(HANDLE processo) {
         std::count_if(voci.begin(), voci.end(), [](const Voce &v) { return v.tipo != 0; }));
 }
 
-} // namespace
-
-namespace {
-
 constexpr int kAvviiInPiu = 5;
 
 } // namespace
@@ -297,6 +293,7 @@ Riquadro Programma::AttendiRiquadro() {
 
 Riquadro Programma::ChiudiRiquadro(const std::string &tasto) {
     Riquadro r = AttendiRiquadro();
+    Passo("close the box '" + r.testo + "'");
     Premi(tasto);
     Aspetta("the box '" + r.testo + "' to close",
             [&] { return Finito() || !IsWindowVisible(r.finestra); });
@@ -337,17 +334,11 @@ bool Programma::Spuntato(const std::string &nome) const {
     return Chiedi(Controllo(nome), BM_GETCHECK) == BST_CHECKED;
 }
 
+HWND Programma::Fuoco() const { return Filo(GetForegroundWindow()).hwndFocus; }
+
 bool Programma::HaFuoco(const std::string &nome) const {
     HWND f = Controllo(nome);
     return Filo(f).hwndFocus == f;
-}
-
-RECT Programma::Posizione(const std::string &nome) const {
-    HWND f = Controllo(nome);
-    RECT r{};
-    GetWindowRect(f, &r);
-    MapWindowPoints(nullptr, GetAncestor(f, GA_ROOT), reinterpret_cast<POINT *>(&r), 2);
-    return r;
 }
 
 POINT Programma::Centro(HWND controllo) {
@@ -421,11 +412,13 @@ Risorse Programma::LeggiRisorse() const {
 }
 
 void Programma::Premi(const std::string &tasti) {
+    Passo("press " + tasti);
     Stabile();
     Manda(Accordo(tasti));
 }
 
 void Programma::Digita(const std::string &testo) {
+    Passo("type '" + testo + "'");
     Stabile();
     Manda(Battute(testo));
 }
@@ -440,6 +433,7 @@ void Programma::Scrivi(const std::string &nome, const std::string &testo) {
 
 void Programma::Menu(const std::string &apri, const std::string &tasti) {
     Premi(apri);
+    Passo("in that menu " + tasti);
     Aspetta("the menu of " + apri, [&] { return !Cime(L"#32768").empty(); });
     std::istringstream parti(tasti);
     for (std::string tasto; parti >> tasto;) Manda(Accordo(tasto));
@@ -473,6 +467,8 @@ void Programma::Muovi(HWND cima, POINT schermo) const {
 }
 
 POINT Programma::Punta(HWND finestra, POINT dove) {
+    Passo("point at " + NomeControllo(finestra) + " " + std::to_string(dove.x) + "," +
+          std::to_string(dove.y));
     HWND cima = GetAncestor(finestra, GA_ROOT);
     Stabile(cima);
     Smaltisci(cima); // a window that is still on its way elsewhere arrives first
@@ -495,18 +491,11 @@ POINT Programma::Punta(HWND finestra, POINT dove) {
 
 void Programma::Clic(HWND finestra, POINT dove, Bottone bottone, int volte) {
     dove = Punta(finestra, dove);
+    Passo(volte == 1 ? "click" : "double click");
     std::vector<INPUT> eventi;
     for (int i = 0; i < volte; ++i)
         eventi.insert(eventi.end(), {Mouse(dove, Giu(bottone)), Mouse(dove, Su(bottone))});
     Manda(eventi);
-}
-
-void Programma::ClicCon(const std::string &modificatori, HWND finestra, POINT dove, Bottone bottone,
-                        const std::function<bool()> &effetto) {
-    dove = Punta(finestra, dove);
-    const Tenuti tasti(Accordo(modificatori));
-    Manda({Mouse(dove, Giu(bottone)), Mouse(dove, Su(bottone))});
-    Aspetta("the effect of a click with " + modificatori, effetto);
 }
 
 void Programma::Trascina(HWND finestra, POINT da, POINT a, Bottone bottone,
@@ -514,6 +503,8 @@ void Programma::Trascina(HWND finestra, POINT da, POINT a, Bottone bottone,
     HWND cima = GetAncestor(finestra, GA_ROOT);
     da = Punta(finestra, da);
     ClientToScreen(finestra, &a);
+    Passo("drag from there to " + std::to_string(a.x) + "," + std::to_string(a.y) +
+          " of the screen");
     const Tenuti premuto({Mouse(da, Giu(bottone)), Mouse(a, Su(bottone))});
     for (int passo : {1, 2, 3, 4})
         Muovi(cima, {da.x + (a.x - da.x) * passo / 4, da.y + (a.y - da.y) * passo / 4});
@@ -522,6 +513,7 @@ void Programma::Trascina(HWND finestra, POINT da, POINT a, Bottone bottone,
 
 void Programma::Rotella(HWND finestra, POINT dove, int scatti) {
     Punta(finestra, dove);
+    Passo("turn the wheel by " + std::to_string(scatti));
     INPUT e{};
     e.type = INPUT_MOUSE;
     e.mi.dwFlags = MOUSEEVENTF_WHEEL;
@@ -530,6 +522,7 @@ void Programma::Rotella(HWND finestra, POINT dove, int scatti) {
 }
 
 void Programma::Dimensiona(HWND finestra, int larghezza, int altezza) {
+    Passo("size " + std::to_string(larghezza) + "x" + std::to_string(altezza));
     if (!SetWindowPos(finestra, nullptr, 0, 0, larghezza, altezza,
                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE))
         Fallisci("the window cannot be resized, error " + std::to_string(GetLastError()));

@@ -60,8 +60,8 @@ class Programma {
     bool Abilitato(const std::string &nome) const { return IsWindowEnabled(Controllo(nome)); }
     bool Visibile(const std::string &nome) const { return IsWindowVisible(Controllo(nome)); }
     bool HaFuoco(const std::string &nome) const;
-    // Rectangle of a control in the client area of its top-level window.
-    RECT Posizione(const std::string &nome) const;
+    // What has the focus in the front window.
+    HWND Fuoco() const;
     // Middle of a control, in its own client coordinates.
     static POINT Centro(HWND controllo);
     // Middle of a tool-bar button (separators count), in client coordinates of the bar.
@@ -93,9 +93,6 @@ class Programma {
     POINT Punta(HWND finestra, POINT dove);
     void Clic(HWND finestra, POINT dove, Bottone bottone = Bottone::Sinistro, int volte = 1);
     void Clic(const std::string &nome) { Clic(Controllo(nome), Centro(Controllo(nome))); }
-    // A click with modifier keys ("Ctrl", "Ctrl+Shift"), let go only after `effetto` is true.
-    void ClicCon(const std::string &modificatori, HWND finestra, POINT dove, Bottone bottone,
-                 const std::function<bool()> &effetto);
     // Drags in a few steps; `inMezzo` runs at the far end with the button still down.
     void Trascina(HWND finestra, POINT da, POINT a, Bottone bottone = Bottone::Sinistro,
                   const std::function<void()> &inMezzo = {});
