@@ -114,6 +114,7 @@ struct SequenzeProva : Utente {
         c.Uguali("Risposta", f.Risposta.Text(), m.testoRisposta);
         c.Uguali("Risposta.Enabled", f.Risposta.Enabled(), m.risposta);
         c.Uguali("LabCoord", f.LabCoord.Caption(), m.labCoord);
+        c.Uguali("Trappola", f.Trappola.Caption(), "Trappola (" + Letterale(m.trappola) + ")...");
         c.Uguali("StringaSel", f.StringaSel.Caption(), m.liste[m.tipo]);
         const CasellaTesto *const intervalli[] = {&f.IntX[0], &f.IntX[1], &f.IntY[0],
                                                   &f.IntY[1], &f.IntZ[0], &f.IntZ[1]};
@@ -133,6 +134,7 @@ struct SequenzeProva : Utente {
         c.Uguali("FinestraAutomatica", FinestraAutomatica != 0, m.finestraAutomatica);
         c.Uguali("Shape.Visible", d.Shape.Visible(), m.primoAngolo);
         c.Uguali("LineSposta.Visible", d.LineSposta.Visible(), m.lineaSposta);
+        c.Uguali("MousePointer", static_cast<int>(f.MousePointer()), 0); // no hourglass is left
         c.Uguali("FrameCoord.Visible", f.FrameCoord.Visible(), m.coordinate);
         c.Uguali("Interrompi.Enabled", f.Interrompi.Enabled(), m.funzione != Modello::Niente);
         for (const VoceMenu *voce : f.Selezioni.voci)

@@ -2,11 +2,9 @@
 // What the engineer does and sees. Every step is written down: a test that fails prints what was
 // done up to there.
 
-#include "selection/selezione.h"
 #include "sostegno/Banco.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
-#include "ui/gesto.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -63,7 +61,7 @@ class Utente : public Banco {
     void Esc() {
         Passo("Esc()", [] { FormTelva.KeyPress(kEsc); });
     }
-    void Lettera(char c) {
+    void Lettera(char c) { // a key without a meaning
         Passo(Scritto("Lettera", c), [&] { FormTelva.KeyPress(c); });
     }
     void Tasto(int codice) { // an arrow, + or - of the view
@@ -164,17 +162,6 @@ class Utente : public Banco {
     // --- what is seen
     std::string Funzione() const { return FormTelva.FunAttiva.Caption; }
     std::string SottoFunzione() const { return FormTelva.SottoFunAttiva.Caption; }
-    // The flags of the pointer that are on, by their names; "" at rest.
-    std::string Gesto() const {
-        std::string accesi;
-        if (PrimoAngolo) Aggiungi(accesi, "PrimoAngolo");
-        if (SpostaInCorso) Aggiungi(accesi, "SpostaInCorso");
-        if (ModoZoom) Aggiungi(accesi, "ModoZoom");
-        if (ModoSposta) Aggiungi(accesi, "ModoSposta");
-        if (FinestraAutomatica) Aggiungi(accesi, "FinestraAutomatica");
-        return accesi;
-    }
-    std::string Coordinate() const { return FormTelva.LabCoord.Caption; }
     std::string Uscita() const { return Leggi("lavori/prova1/TelvaOut.txt"); }
     // The messages since the last look: "ERRORE: text; ...".
     std::string Detto() {
@@ -186,13 +173,6 @@ class Utente : public Banco {
         }
         messaggi.clear();
         return detto;
-    }
-    // The items of the menu Selezioni that can be chosen, by their names.
-    std::string SelezioniPossibili() const {
-        std::string possibili;
-        for (const VoceMenu *voce : FormTelva.Selezioni.voci)
-            if (voce->Enabled) Aggiungi(possibili, voce->NomeControllo());
-        return possibili;
     }
 };
 

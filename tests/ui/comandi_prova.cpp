@@ -88,7 +88,7 @@ TEST_F(ComandiProva, UnBottoneFaCioCheFaLaSuaVoce) {
     Barra("InvertiSel");
     EXPECT_EQ(Lista(), "1,1-9");
     Barra("Zoom");
-    EXPECT_EQ(Gesto(), "ModoZoom");
+    EXPECT_EQ(SottoFunzione(), "Zoom");
     Barra("AggiornaEsci");
     EXPECT_EQ(codiceFine, 0);
     EXPECT_EQ(Uscita(), "1,1-9\r\n");

@@ -15,26 +15,6 @@ struct DialogoTrappola : Utente {
     DialogoTrappola() { Apri(Telaio()); }
 };
 
-TEST_F(DialogoTrappola, LaMisuraEUnNumeroInteroSenzaSegno) {
-    struct Caso {
-        const char *testo, *misura;
-    };
-    const Caso casi[] = {{.testo = "12", .misura = "12"}, {.testo = "-7.6", .misura = "8"},
-                         {.testo = "7.6", .misura = "7"}, {.testo = "12abc", .misura = "12"},
-                         {.testo = "0.9", .misura = "0"}, {.testo = "abc", .misura = "0"},
-                         {.testo = "", .misura = "0"},    {.testo = "-1", .misura = "1"}};
-    for (const auto &[testo, misura] : casi) {
-        Trappola(testo);
-        EXPECT_EQ(OpzInt[1], std::stod(misura)) << testo;
-        EXPECT_EQ(FormTelva.Trappola.Caption(), std::string("Trappola (") + misura + ")...");
-        EXPECT_EQ(Detto(), std::string(misura) != "0"
-                               ? ""
-                               : "ATTENZIONE: Se la dimensione della trappola è nulla la "
-                                 "selezione diretta non è possibile");
-        EXPECT_FALSE(FormOptInt.Mostrata());
-    }
-}
-
 TEST_F(DialogoTrappola, UnaMisuraEnormeStaNellaCasellaInBreve) {
     OpzInt[1] = 2e20;
     Menu("Trappola");
@@ -159,8 +139,6 @@ TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
     EXPECT_EQ(spessore(), (std::vector{true, true}));
     f.CheckSpGus.Premi();
     EXPECT_EQ(spessore(), (std::vector{false, false}));
-    f.CheckSpGus.Premi();
-    EXPECT_EQ(spessore(), (std::vector{true, true}));
 
     struct Gruppo {
         CasellaSpunta &capo;
@@ -227,22 +205,6 @@ TEST_F(DialogoRappresentazione, IlDisegnoCambiaAllaChiusuraESoloDopoSalva) {
     EXPECT_TRUE(Pixel() == prima) << "until the dialog closes";
     f.Chiudi_.Click();
     EXPECT_TRUE(Pixel() != prima);
-}
-
-// Shells 1 and 2 are 20 cm thick, 3 and 4 half a centimetre.
-TEST_F(DialogoRappresentazione, UnGuscioSpessoQuantoIlLimiteSiDisegna) {
-    const auto disegna = [&](const char *limite) {
-        Menu("Rappresentazione");
-        f.SpMinGus.Text = limite;
-        f.Salva.Click();
-        f.Chiudi_.Click();
-        return Pixel();
-    };
-    const auto tutti = disegna("0.49"), spessi = disegna("0.51"), nessuno = disegna("20.1");
-    EXPECT_TRUE(tutti != spessi);
-    EXPECT_TRUE(spessi != nessuno);
-    EXPECT_TRUE(disegna("0.5") == tutti);
-    EXPECT_TRUE(disegna("20") == spessi);
 }
 
 TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {

@@ -1,5 +1,5 @@
-// Drags that something else moves, jobs far from the origin, typed numbers. What the commands of
-// the view show is known to the random sequences.
+// Drags that something else moves, the places of events, typed numbers. What the commands of the
+// view show is known to the random sequences.
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
 #include "sostegno/Utente.h"
@@ -21,11 +21,6 @@ struct VistaProva : Utente {
     }
     double X(int px) const { return d.XEvento(d.XDaPixel(px)); }
     double Y(int py) const { return d.YEvento(d.YDaPixel(py)); }
-    void ClicPixel(int px, int py) { Clic(X(px), Y(py)); }
-    void MostraFinestra(const FinestraDisegno &f) {
-        FinestraZoom = f;
-        Menu("Ridis");
-    }
 };
 
 Pixel operator+(Pixel a, Pixel b) { return {a.x + b.x, a.y + b.y}; }
@@ -59,47 +54,6 @@ TEST_F(VistaProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
         }
 }
 
-// A click, a rectangle and a drag where a single number has no digits left for a unit.
-TEST_F(VistaProva, LontanoDallOrigine) {
-    struct Caso {
-        double distanza, passo; // between the nodes
-    };
-    const Caso casi[] = {{.distanza = 4e6, .passo = 0.5},
-                         {.distanza = 4e7, .passo = 50},
-                         {.distanza = 5e8, .passo = 0.5},
-                         {.distanza = 5e8, .passo = 500}};
-    for (const auto &[distanza, passo] : casi) {
-        SCOPED_TRACE(std::to_string(distanza) + ", nodes every " + std::to_string(passo));
-        AzzeraProgramma();
-        DimenticaPassi();
-        Apri(Telaio());
-        for (int i = 0; i < 9; ++i) { // in rows upwards
-            PuntoX[i] = distanza + i % 3 * passo;
-            PuntoZ[i] = distanza + 1000 + i / 3 * passo;
-        }
-        Tutto(Asse::X);
-        Tutto(Asse::Z);
-        MostraFinestra(
-            {distanza + 2 * passo, distanza, distanza + 1000 + 2 * passo, distanza + 1000});
-        const Pixel primo = Visto(0), centro = Visto(4), ultimo = Visto(8);
-        Menu("Aggiungi");
-        ClicPixel(centro.x + 3, centro.y - 2);
-        EXPECT_EQ(Lista(), "5");
-        EXPECT_TRUE(Coordinate().ends_with("[N5]")) << Coordinate();
-        ClicPixel((primo.x + centro.x) / 2, (primo.y + centro.y) / 2);
-        ClicPixel(ultimo.x + 9, ultimo.y - 9);
-        EXPECT_EQ(Lista(), passo < 1 ? "1,1-9" : "5-6,8-9") << "a unit around is counted in";
-        Trascina({{100, 100}, {131, 90}, {157, 88}});
-        EXPECT_EQ(Visto(4), centro + Pixel(57, -12));
-        const double sinistra = d.XDaPixel(150), alto = d.YDaPixel(120), pixel = d.UnitaPerPixel();
-        Menu("ZoomIn");
-        ClicPixel(150, 120);
-        ClicPixel(400, 300);
-        EXPECT_NEAR(FinestraZoom.secondaX, sinistra, pixel / 8);
-        EXPECT_NEAR(FinestraZoom.primaY, alto, pixel / 8);
-    }
-}
-
 TEST_F(VistaProva, IlPostoDiUnEvento) {
     struct Caso {
         const char *che;
@@ -123,6 +77,11 @@ TEST_F(VistaProva, IlPostoDiUnEvento) {
         EXPECT_EQ(d.XEvento(caso.posto), atteso) << caso.che;
         EXPECT_EQ(d.YEvento(-caso.posto), -atteso) << caso.che;
     }
+}
+
+TEST_F(VistaProva, SoloITastiDellaVistaSonoSuoi) {
+    EXPECT_TRUE(FormTelva.KeyDown(39)); // an arrow
+    EXPECT_FALSE(FormTelva.KeyDown('A'));
 }
 
 // --- typed numbers
