@@ -76,6 +76,7 @@ struct Modello {
     Sotto sotto = Sotto::Nessuna;
     bool primoAngolo = false, spostaInCorso = false, modoZoom = false, modoSposta = false;
     bool finestraAutomatica = false, lineaSposta = false, risposta = false, coordinate = true;
+    Puntatore puntatore = Puntatore::Predefinito; // on the drawing
     std::string sottoFunAttiva, domanda, testoRisposta, labCoord;
     std::array<std::string, 5> liste; // by kind
     std::set<std::string> abilitate;  // items of the menu Selezioni

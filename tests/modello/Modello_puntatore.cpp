@@ -138,6 +138,7 @@ void Modello::RiprendiDiretta() {
     if (!finestraAutomatica) return;
     finestraAutomatica = false;
     sotto = Sotto::Diretta;
+    puntatore = Puntatore::Predefinito;
     sottoFunAttiva = "Selezione diretta";
 }
 
@@ -189,13 +190,16 @@ void Modello::DoppioClic() {
 void Modello::Premi(double x, double y) {
     if (modoSposta && !spostaInCorso) {
         spostaInCorso = lineaSposta = true;
+        puntatore = Puntatore::Ridimensiona;
         linea0_ = {x, y};
     } else if (modoSposta && std::max(std::abs(x - linea0_.x), std::abs(y - linea0_.y)) > kUguale) {
         modoSposta = spostaInCorso = lineaSposta = false;
         Trasla(Zoomata() && zoom.HaArea() ? zoom : vista, x - linea0_.x, y - linea0_.y);
+        puntatore = sotto == Sotto::Finestra ? Puntatore::Croce : Puntatore::Predefinito;
         Didascalia();
     } else if (!primoAngolo && (sotto == Sotto::Finestra || modoZoom)) {
         primoAngolo = true;
+        puntatore = Puntatore::Croce;
         angolo0_ = angolo1_ = {x, y};
     } else if (!primoAngolo && sotto == Sotto::Diretta && funzione != Niente) {
         const int nome = Scelto(x, y);
@@ -211,11 +215,13 @@ void Modello::Premi(double x, double y) {
 
 void Modello::SecondoAngolo() {
     primoAngolo = false;
+    puntatore = Puntatore::Croce;
     if (angolo0_.x == angolo1_.x || angolo0_.y == angolo1_.y) return; // the mode stays
     if (!modoZoom) return SelezionaRettangolo();
     zoom = {std::max(angolo0_.x, angolo1_.x), std::min(angolo0_.x, angolo1_.x),
             std::max(angolo0_.y, angolo1_.y), std::min(angolo0_.y, angolo1_.y)};
     modoZoom = false;
+    puntatore = sotto == Sotto::Finestra ? Puntatore::Croce : Puntatore::Predefinito;
     Ridisegna();
     Didascalia();
 }

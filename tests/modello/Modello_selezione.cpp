@@ -140,6 +140,7 @@ void Modello::AggiornaLista() {
 void Modello::AzzeraInput() {
     sotto = Sotto::Nessuna;
     risposta = false;
+    puntatore = Puntatore::Predefinito;
     sottoFunAttiva = domanda = testoRisposta = "";
 }
 
@@ -268,6 +269,7 @@ void Modello::VoceSelezioni(const std::string &menu, int codice) {
         ChiediProprieta(proprieta->sotto);
     } else if (menu == "Finestra") {
         sotto = Sotto::Finestra;
+        puntatore = Puntatore::Croce;
         Didascalia();
     } else {
         Attributo(menu == "Tutto" ? "Colore" : menu, menu == "Tutto" ? kOgniColore : codice);
@@ -297,12 +299,14 @@ void Modello::Menu(const std::string &voce) {
     if (voce == "ZoomIn" || voce == "Sposta" || voce == "Rappresentazione")
         if (primoAngolo && !modoZoom) { // the window that is being drawn ends
             primoAngolo = false;
+            puntatore = Puntatore::Croce; // it is awaited again
             RiprendiDiretta();
         }
     if (voce == "ZoomIn" || voce == "Sposta") {
         Annulla();
         (voce == "ZoomIn" ? modoZoom : modoSposta) = true;
         sottoFunAttiva = voce == "ZoomIn" ? "Zoom" : "Sposta";
+        puntatore = voce == "ZoomIn" ? Puntatore::Croce : Puntatore::Ridimensiona;
     }
     if (voce == "Ottimizza") Ottimizza();
     if (voce == "VisCoord") {

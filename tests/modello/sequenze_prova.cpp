@@ -134,7 +134,9 @@ struct SequenzeProva : Utente {
         c.Uguali("FinestraAutomatica", FinestraAutomatica != 0, m.finestraAutomatica);
         c.Uguali("Shape.Visible", d.Shape.Visible(), m.primoAngolo);
         c.Uguali("LineSposta.Visible", d.LineSposta.Visible(), m.lineaSposta);
-        c.Uguali("MousePointer", static_cast<int>(f.MousePointer()), 0); // no hourglass is left
+        const auto forma = [](Puntatore puntatore) { return static_cast<int>(puntatore); };
+        c.Uguali("MousePointer", forma(f.MousePointer), 0); // no hourglass is left
+        c.Uguali("Disegno.MousePointer", forma(d.MousePointer), forma(m.puntatore));
         c.Uguali("FrameCoord.Visible", f.FrameCoord.Visible(), m.coordinate);
         c.Uguali("Interrompi.Enabled", f.Interrompi.Enabled(), m.funzione != Modello::Niente);
         for (const VoceMenu *voce : f.Selezioni.voci)

@@ -120,33 +120,4 @@ TEST_F(PuntatoreProva, IlTrascinamentoFinisceAlRilascioOQuandoIlMouseSePerso) {
     }
 }
 
-// The shape of the pointer tells what the next click does.
-TEST_F(PuntatoreProva, LaFormaDelPuntatoreDiceIlGesto) {
-    const auto forma = [&] { return d.MousePointer(); };
-    Menu("Aggiungi");
-    EXPECT_EQ(forma(), Puntatore::Predefinito);
-    Clic(50, 50); // nothing there
-    EXPECT_EQ(forma(), Puntatore::Croce);
-    Clic(90, 90);
-    EXPECT_EQ(forma(), Puntatore::Predefinito) << "the window is closed";
-    Menu("Finestra");
-    EXPECT_EQ(forma(), Puntatore::Croce);
-    Menu("Sposta");
-    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
-    Clic(50, 50);
-    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
-    PremiCentrale(X(300), Y(200)); // a drag leaves it as it is
-    EXPECT_EQ(forma(), Puntatore::Ridimensiona);
-    RilasciaCentrale();
-    Clic(60, 60);
-    EXPECT_EQ(forma(), Puntatore::Croce) << "the window is awaited again";
-    Esc();
-    EXPECT_EQ(forma(), Puntatore::Predefinito);
-    Menu("ZoomIn");
-    EXPECT_EQ(forma(), Puntatore::Croce);
-    Clic(10, 10);
-    Clic(90, 90);
-    EXPECT_EQ(forma(), Puntatore::Predefinito);
-}
-
 } // namespace telva::prove
