@@ -12,11 +12,6 @@ namespace {
 constexpr int kEsclamazione = 1, kInformazione = 2;
 constexpr int kOgniColore = 10;
 
-const std::vector<std::string> kVociSelezioni = {
-    "Finestra",   "Colore",     "TipoPunto",   "TipoLinea",       "TipoTratt",
-    "Materiale",  "SchSezione", "SchSpessore", "SchOrientamento", "SchSvincolo",
-    "SchVincolo", "Nome",       "Tutto"};
-
 // What each kind of element can be selected by.
 const std::set<std::string> kAbilitate[] = {
     {"Finestra", "Colore", "TipoPunto", "SchVincolo", "Nome", "Tutto"},
@@ -25,39 +20,23 @@ const std::set<std::string> kAbilitate[] = {
     {"Finestra", "Colore", "TipoTratt", "Materiale", "SchSpessore", "Nome", "Tutto"},
     {"Finestra", "Colore", "TipoLinea", "Materiale", "SchSezione", "SchOrientamento", "Nome",
      "Tutto"},
-    {kVociSelezioni.begin(), kVociSelezioni.end()}};
+    {"Finestra", "Colore", "TipoPunto", "TipoLinea", "TipoTratt", "Materiale", "SchSezione",
+     "SchSpessore", "SchOrientamento", "SchSvincolo", "SchVincolo", "Nome", "Tutto"}};
 
-// The menus of display attributes: the kinds that have them, the code of their first item, each
-// one more for the next, and that of the last, which stands for all.
+// The menus of display attributes: what their items end with ("TipoPt3", "TuttiPt"), the code of
+// the first one and that which stands for all.
 struct Attributi {
     const char *menu;
-    std::set<int> tipi;
+    std::string sigla;
     int primo, tutti;
-    std::vector<std::string> voci;
 };
 const Attributi kAttributi[] = {
-    {.menu = "Colore",
-     .tipi = {Modello::Nodi, Modello::Aste, Modello::Gusci, Modello::Continui, Modello::Pareti},
-     .primo = 1,
-     .tutti = kOgniColore,
-     .voci = {"Bianco", "Blu", "Rosso", "Verde", "Giallo", "VerdeScuro", "Magenta", "Azzurro",
-              "Arancione", "TuttiCol"}},
-    {.menu = "TipoPunto",
-     .tipi = {Modello::Nodi},
-     .primo = 0,
-     .tutti = 8,
-     .voci = {"TipoPt1", "TipoPt2", "TipoPt3", "TipoPt4", "TuttiPt"}},
-    {.menu = "TipoLinea",
-     .tipi = {Modello::Aste, Modello::Continui},
-     .primo = 0,
-     .tutti = 5,
-     .voci = {"TipoLn1", "TipoLn2", "TipoLn3", "TipoLn4", "TipoLn5", "TuttiLn"}},
-    {.menu = "TipoTratt",
-     .tipi = {Modello::Gusci, Modello::Pareti},
-     .primo = 1,
-     .tutti = 9,
-     .voci = {"TipoTr1", "TipoTr2", "TipoTr3", "TipoTr4", "TipoTr5", "TipoTr6", "TipoTr7",
-              "TipoTr8", "TuttiTr"}}};
+    {.menu = "Colore", .sigla = "Col", .primo = 1, .tutti = kOgniColore},
+    {.menu = "TipoPunto", .sigla = "Pt", .primo = 0, .tutti = 8},
+    {.menu = "TipoLinea", .sigla = "Ln", .primo = 0, .tutti = 5},
+    {.menu = "TipoTratt", .sigla = "Tr", .primo = 1, .tutti = 9}};
+const std::vector<std::string> kColori = {"Bianco",     "Blu",     "Rosso",   "Verde",    "Giallo",
+                                          "VerdeScuro", "Magenta", "Azzurro", "Arancione"};
 
 struct Proprieta {
     Sotto sotto;
@@ -184,16 +163,16 @@ void Modello::Inverti() {
 void Modello::Attributo(const std::string &menu, int codice) {
     const Attributi &famiglia = *std::ranges::find(kAttributi, menu, &Attributi::menu);
     AzzeraInput();
-    if (famiglia.tipi.contains(tipo)) {
-        const int vero = tipo;
-        if (tipo == Pareti) tipo = Gusci; // walls are drawn from the shells
-        const auto vale = [&](const Elemento &e) {
-            return codice == famiglia.tutti || codice == (menu == "Colore" ? e.colore : e.tipo);
-        };
+    const int vero = tipo;
+    if (tipo == Pareti) tipo = Gusci; // walls are drawn from the shells
+    const auto vale = [&](const Elemento &e) {
+        return codice == famiglia.tutti || codice == (menu == "Colore" ? e.colore : e.tipo);
+    };
+    if (kAbilitate[tipo].contains(menu)) {
         Segna(vale, [&](Elemento &e) { e.selezionato = funzione == Aggiungere; });
         AggiornaLista(); // that of the shells, when walls were chosen
-        tipo = vero;
     }
+    tipo = vero;
     AggiornaLista();
     sotto = Sotto::Diretta;
 }
@@ -277,13 +256,15 @@ void Modello::VoceSelezioni(const std::string &menu, int codice) {
 }
 
 void Modello::Menu(const std::string &voce) {
-    for (const auto &[menu, tipi, primo, tutti, voci] : kAttributi) {
-        if (voce == menu) return; // only opens its own items
-        if (voce == voci.back()) return VoceSelezioni(menu, tutti);
-        const auto posto = std::ranges::find(voci, voce) - voci.begin();
-        if (posto < std::ssize(voci)) return VoceSelezioni(menu, primo + static_cast<int>(posto));
+    for (const Attributi &a : kAttributi) {
+        if (voce == a.menu) return; // only opens its own items
+        if (voce == "Tutti" + a.sigla) return VoceSelezioni(a.menu, a.tutti);
+        if (voce.starts_with("Tipo" + a.sigla))
+            return VoceSelezioni(a.menu, a.primo + voce.back() - '1');
     }
-    if (std::ranges::count(kVociSelezioni, voce)) return VoceSelezioni(voce, 0);
+    const auto colore = std::ranges::find(kColori, voce) - kColori.begin();
+    if (colore < std::ssize(kColori)) return VoceSelezioni("Colore", 1 + static_cast<int>(colore));
+    if (kAbilitate[Pareti].contains(voce)) return VoceSelezioni(voce, 0);
     salta = (voce == "Interrompi" && funzione == Niente) || voce == "Trappola" || // not this way
             voce == "Salva" || voce == "Esci";
     if (voce == "Aggiungi" || voce == "Rimuovi") {

@@ -43,14 +43,6 @@ TEST_F(FormTelvaProva, RidottaAIconaLaFinestraRestaComEra) {
     EXPECT_EQ(Posti(), prima);
 }
 
-TEST_F(FormTelvaProva, IlBottoneDellaBarraLateraleDiceCheCosaFara) {
-    EXPECT_EQ(f.Toolbar1.Suggerimento("AggiungiBarraLat"), "Attiva o disattiva la barra laterale");
-    Menu("BarraLat");
-    EXPECT_EQ(f.Toolbar1.Suggerimento("AggiungiBarraLat"), "Aggiunge la barra laterale");
-    Menu("BarraLat");
-    EXPECT_EQ(f.Toolbar1.Suggerimento("AggiungiBarraLat"), "Toglie la barra laterale");
-}
-
 // --- the window system, as far as the forms ask for it
 
 struct Schermo : SistemaFinestre {

@@ -68,40 +68,4 @@ TEST_F(LavoroPienoProva, SiSelezionaSiInverteESiRestituisce) {
     EXPECT_EQ(Detto(), "");
 }
 
-struct OltreLUltimoProva : Utente {};
-
-// What stands behind the last element is not there: not drawn, not labelled, not selected.
-TEST_F(OltreLUltimoProva, CioCheStaOltreLUltimoElementoNonCE) {
-    const auto guarda = [&] {
-        std::string liste; // of everything
-        for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
-            const Elementi &e = ElementiDi(tipo);
-            Tipo(tipo);
-            Menu("Inverti");
-            liste += Lista() + "\n";
-            EXPECT_EQ(e.selezionati[e.numero], 0) << "kind " << tipo;
-        }
-        const Superficie &s = FormTelva.Disegno.Immagine();
-        return std::pair(liste, std::vector(s.Riga(0), s.Riga(0) + s.Larghezza() * s.Altezza()));
-    };
-    LavoroProva intero = Telaio();
-    intero.nodi.push_back({.punto = 9, .nome = 10});
-    intero.punti.push_back({50, 0, 50});
-    intero.spessori = {{.materiale = 3, .valore = 20}, {.materiale = 4, .valore = 20}};
-    LavoroProva meno = intero;
-    meno.nodi.pop_back();
-    meno.aste.pop_back();
-    meno.gusci.pop_back();
-    meno.elementi.pop_back();
-    Apri(meno);
-    const auto [liste, pixel] = guarda();
-    AzzeraProgramma();
-    Apri(intero);
-    for (std::int16_t *numero : {&NumNodi, &NumAste, &NumGusci, &NumElCont}) --*numero;
-    Menu("Ridis");
-    const auto [listeOra, pixelOra] = guarda();
-    EXPECT_EQ(listeOra, liste);
-    EXPECT_TRUE(pixelOra == pixel);
-}
-
 } // namespace telva::prove
