@@ -118,9 +118,9 @@ bool Taglia(Percorso &p, Intero uFine, Intero vFine) {
 } // namespace
 
 // Which steps of the line fall inside the surface is solved beforehand, so the loop itself tests
-// nothing. Calls scrivi(offset, step).
+// nothing. Calls scrivi(pixel, step).
 template <class Scrivi>
-void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
+void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) {
     const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
     int u0 = ripida ? a.y : a.x, v0 = ripida ? a.x : a.y;
     int u1 = ripida ? b.y : b.x, v1 = ripida ? b.x : b.y;
@@ -144,18 +144,19 @@ void Superficie::Percorri(Pixel a, Pixel b, Scrivi scrivi) const {
     }
     const std::ptrdiff_t passoU = ripida ? larghezza_ : 1;
     const std::ptrdiff_t passoV = p.segno * (ripida ? 1 : std::ptrdiff_t{larghezza_});
-    std::ptrdiff_t posto = (p.u0 + p.da) * passoU +
+    std::uint32_t *pixel = pixel_.data() + (p.u0 + p.da) * passoU +
                            (p.v0 + p.segno * p.fatti) * (ripida ? 1 : std::ptrdiff_t{larghezza_});
     const int piu = 2 * p.minore, meno = 2 * p.maggiore;
     int errore = p.resto - meno; // below 0 until v advances
-    for (int i = p.da;; ++i) {
-        scrivi(posto, i);
-        if (i == p.fino) break;
-        posto += passoU;
+    // Few variables, and counted downwards: 32-bit programs have no registers to spare.
+    for (int restano = p.fino - p.da;; --restano) {
+        scrivi(pixel, p.fino - restano);
+        if (restano == 0) break;
+        pixel += passoU;
         errore += piu;
         if (errore >= 0) {
             errore -= meno;
-            posto += passoV;
+            pixel += passoV;
         }
     }
 }
@@ -166,8 +167,7 @@ void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
         Orizzontale(std::min(a.x, b.x), std::max(a.x, b.x), a.y, colore);
         return;
     }
-    std::uint32_t *pixel = pixel_.data();
-    Percorri(a, b, [=](std::ptrdiff_t posto, int) { pixel[posto] = colore; });
+    Percorri(a, b, [=](std::uint32_t *pixel, int) { *pixel = colore; });
 }
 
 Tratteggio Tratteggio::Ingrandito(double quanto) const {
@@ -178,11 +178,13 @@ Tratteggio Tratteggio::Ingrandito(double quanto) const {
     return t;
 }
 
+// The place in the pattern goes on by one: a division for each pixel would cost more.
 void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
     Intingi(colore);
-    std::uint32_t *pixel = pixel_.data();
-    Percorri(a, b, [pixel, colore, &t](std::ptrdiff_t posto, int passo) {
-        if (t.bit[static_cast<std::size_t>(passo % t.periodo)]) pixel[posto] = colore;
+    Percorri(a, b, [&t, colore, fase = -1](std::uint32_t *pixel, int passo) mutable {
+        if (fase < 0) fase = passo % t.periodo;
+        if (t.bit[static_cast<std::size_t>(fase)]) *pixel = colore;
+        if (++fase == t.periodo) fase = 0;
     });
 }
 

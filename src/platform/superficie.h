@@ -109,7 +109,7 @@ class Superficie {
     static void Stendi(std::uint32_t *da, std::ptrdiff_t quanti, std::uint32_t colore);
     void Orizzontale(int xDa, int xA, int y, std::uint32_t colore);
     template <class Scrivi>
-    void Percorri(Pixel a, Pixel b, Scrivi scrivi) const;
+    void Percorri(Pixel a, Pixel b, Scrivi scrivi);
     template <class Scrivi>
     void PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga);
     bool BandaInVista(Pixel a, Pixel b, int larghezza) const;
