@@ -9,6 +9,10 @@
 #include <algorithm>
 #include <stdexcept>
 
+namespace telva {
+inline void PrintTo(const Pixel &p, std::ostream *os) { *os << "{" << p.x << ", " << p.y << "}"; }
+} // namespace telva
+
 namespace telva::prove {
 
 // The boxes of the side bar and of the strip below the drawing, by what they hold.
@@ -136,11 +140,7 @@ class Utente : public Banco {
         Passo("RilasciaCentrale()", [] { Disegno().MouseUp(kCentrale, 0, 0, 0); });
     }
     void Trascina(const std::vector<Pixel> &pixel) { // with the middle button, from the first one
-        std::string luoghi;
-        for (const Pixel &p : pixel)
-            luoghi += (luoghi.empty() ? "{" : ", {") + std::to_string(p.x) + ", " +
-                      std::to_string(p.y) + "}";
-        Passo("Trascina({" + luoghi + "})", [&] {
+        Passo(Scritto("Trascina", pixel), [&] {
             RiquadroDisegno &d = Disegno();
             for (const Pixel &p : pixel) { // the scale goes with the picture
                 const double x = d.XEvento(d.XDaPixel(p.x)), y = d.YEvento(d.YDaPixel(p.y));

@@ -7,8 +7,6 @@
 
 namespace telva::prove {
 
-constexpr const char *kOpzioniSalvate = "INFORMAZIONE: Opzioni salvate";
-
 // --- pick aperture
 
 struct DialogoTrappola : Utente {
@@ -55,12 +53,6 @@ struct DialogoRappresentazione : Utente {
     ~DialogoRappresentazione() override { f.Chiudi(); }
 
     static std::vector<Valore> TutteLeOpzioni() { return {Opzioni.Dati(), Opzioni.Dati() + 30}; }
-    void SalvaEChiudi() {
-        Passo("Salva, Esc", [&] {
-            f.Salva.Click();
-            f.KeyUp(kEsc);
-        });
-    }
     // The dialog changes this entry alone, in the file too.
     void Cambia(const std::string &controllo, int voce, double valore,
                 const std::function<void()> &cambia) {
@@ -69,8 +61,9 @@ struct DialogoRappresentazione : Utente {
         attese[static_cast<std::size_t>(voce)] = valore;
         Menu("Rappresentazione");
         Passo(controllo + " = " + std::to_string(valore), cambia);
-        SalvaEChiudi();
-        EXPECT_EQ(Detto(), kOpzioniSalvate);
+        f.Salva.Click();
+        f.KeyUp(kEsc);
+        EXPECT_EQ(Detto(), "INFORMAZIONE: Opzioni salvate");
         EXPECT_FALSE(f.Mostrata());
         AzzeraOpzioni();
         LeggiOpzioni();
@@ -181,7 +174,8 @@ TEST_F(DialogoRappresentazione, SenzaMisuraDelTestoNienteTesti) {
             Opzioni[acceso] = 1.0;
         Menu("Rappresentazione");
         casella.Text = "";
-        SalvaEChiudi();
+        f.Salva.Click();
+        f.Chiudi_.Click();
         EXPECT_EQ(OpzioneNumero(voce), 0);
         EXPECT_EQ(OpzioneAttiva(kOpzTestiNodi), testi);
         EXPECT_EQ(OpzioneAttiva(kOpzTestiAste), testi);

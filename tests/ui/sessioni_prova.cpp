@@ -25,16 +25,6 @@ TEST_F(SessioniProva, UnGuastoFinisceConUnoENonScrive) {
     EXPECT_EQ(messaggi[0].titolo, "ERRORE");
 }
 
-TEST_F(SessioniProva, UnGuastoAllAvvioFinisceConUno) {
-    LavoroProva lavoro = Telaio();
-    lavoro.aste.push_back({.i = 0, .j = 25000, .nome = 13});
-    Installa();
-    ScriviLavoro(lavoro);
-    EXPECT_FALSE(Avvia());
-    EXPECT_EQ(codiceFine, 1);
-    EXPECT_EQ(messaggi.size(), 1u);
-}
-
 TEST_F(SessioniProva, OgniGuastoDiceIlSuoMotivo) {
     struct Caso {
         std::function<void()> evento;
