@@ -77,7 +77,7 @@ void Modello::Dice(const std::string &testo, const char *titolo, int icona) {
 void Modello::Avvio(const Ingresso &ingresso) {
     for (int asse = 0; asse < 3; ++asse) InteroIntervallo(asse);
     Ottimizza();
-    tipo = ingresso.tipo;
+    tipo = richiesto_ = ingresso.tipo;
     funzione = Aggiungere;
     if (ingresso.lista == "0")
         Attributo("Colore", 10);
@@ -137,6 +137,12 @@ bool Modello::Dentro(const Elemento &e) const {
     return true;
 }
 
+bool Modello::Disegnato(const Elemento &e) const {
+    const auto asta = [&](int b) { return b >= 0 && Disegnato(elementi[Aste][b]); };
+    if (!e.aste.empty()) return std::ranges::any_of(e.aste, asta);
+    return e.nome > 0 && e.colore < 10 && e.attivo && !e.sottile;
+}
+
 bool Modello::Zoomata() const { return std::abs(zoom.maxX - zoom.minX) >= kUguale; }
 
 bool Modello::Piccola(const Riquadro &r) {
@@ -157,7 +163,7 @@ Riquadro Modello::Mostrati() const {
     Riquadro r{punti[primo].x, punti[primo].x, punti[primo].y, punti[primo].y};
     for (const auto &tabella : elementi)
         for (const Elemento &e : tabella) {
-            if (e.nome <= 0 || e.colore >= 10 || !e.attivo || e.sottile) continue;
+            if (!e.aste.empty() || !Disegnato(e)) continue;
             for (const int p : e.punti) {
                 r.maxX = std::max(r.maxX, punti[p].x);
                 r.minX = std::min(r.minX, punti[p].x);

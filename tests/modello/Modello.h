@@ -116,6 +116,9 @@ struct Modello {
     void Angolo(Asse asse, const std::string &testo, bool invio);
     void Trappola(const std::string &testo, bool applica);
 
+    // The line of state: how many are selected and hidden; what stands out before it.
+    std::string Adesso() const;
+    std::string Evidenza() const;
     // The start: intervals on the whole structure, everything in view, the caller's list selected.
     void Avvio(const Ingresso &ingresso);
     double RaggioTrappola() const { return trappola * scala.larghezza / largo; }
@@ -132,6 +135,7 @@ struct Modello {
     void InteroIntervallo(int asse);
     bool Proietta();
     bool Dentro(const Elemento &e) const;
+    bool Disegnato(const Elemento &e) const;
     bool Zoomata() const;
     static bool Piccola(const Riquadro &r); // for the wheel
     Riquadro Mostrati() const;
@@ -180,6 +184,7 @@ struct Modello {
     std::array<std::string, 3> validi_;     // angles that were right
     std::array<bool, 5> filtri_ = {true, true, true, true, true};
     int ultimoTasto_ = Nessuno;
+    int richiesto_ = Nodi;        // kind that the caller asks for
     Punto angolo0_{}, angolo1_{}; // rectangle
     Punto linea0_{};              // where a pan or a drag began
 };

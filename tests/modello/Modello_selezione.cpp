@@ -114,6 +114,52 @@ void Modello::AggiornaLista() {
     nuovo(0);
 }
 
+// --- the line of state
+
+struct Parole {
+    std::string uno, molti;
+    bool femminile;
+};
+const Parole kParole[] = {
+    {.uno = "nodo", .molti = "nodi", .femminile = false},
+    {.uno = "asta", .molti = "aste", .femminile = true},
+    {.uno = "guscio", .molti = "gusci", .femminile = false},
+    {.uno = "elemento continuo", .molti = "elementi continui", .femminile = false},
+    {.uno = "parete", .molti = "pareti", .femminile = true}};
+
+std::string Modello::Adesso() const {
+    const int segnati = tipo == Pareti ? Gusci : tipo;
+    int selezionati = 0, nascosti = 0;
+    for (const Elemento &e : elementi[segnati]) {
+        if (!e.selezionato || e.nome <= 0) continue;
+        ++selezionati;
+        if (!Disegnato(e)) ++nascosti;
+    }
+    const auto &[uno, molti, femminile] = kParole[segnati];
+    const std::string singolare = femminile ? "a" : "o", plurale = femminile ? "e" : "i";
+    std::string testo = std::to_string(selezionati) + " " + molti + " selezionat" + plurale;
+    if (selezionati == 1) testo = "1 " + uno + " selezionat" + singolare;
+    if (selezionati == 0)
+        testo = (femminile ? "nessuna " : "nessun ") + uno + " selezionat" + singolare;
+    if (nascosti > 0)
+        testo += ", di cui " + std::to_string(nascosti) + " nascost" +
+                 (nascosti == 1 ? singolare : plurale);
+    const bool tutti = std::ranges::all_of(filtri_, std::identity{}) &&
+                       std::ranges::all_of(elementi[Nodi], [&](auto &e) { return Dentro(e); });
+    return tutti ? testo : testo + "; vista filtrata";
+}
+
+std::string Modello::Evidenza() const {
+    const auto disegnato = [&](const Elemento &e) { return Disegnato(e); };
+    std::string testo = "nessun elemento mostrato: vedere filtri e intervalli";
+    for (const int t : {Nodi, Aste, Gusci})
+        if (std::ranges::any_of(elementi[t], disegnato)) testo = "";
+    if (richiesto_ == tipo) return testo;
+    const auto &[uno, molti, femminile] = kParole[richiesto_];
+    return testo + (testo.empty() ? "" : "; ") + (femminile ? "richieste: " : "richiesti: ") +
+           molti;
+}
+
 // --- functions
 
 void Modello::AzzeraInput() {

@@ -8,6 +8,7 @@
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/gesto.h"
+#include "ui/stato.h"
 #include "view/inquadra.h"
 
 #include <algorithm>
@@ -114,6 +115,8 @@ struct SequenzeProva : Utente {
         c.Uguali("Risposta", f.Risposta.Text(), m.testoRisposta);
         c.Uguali("Risposta.Enabled", f.Risposta.Enabled(), m.risposta);
         c.Uguali("LabCoord", f.LabCoord.Caption(), m.labCoord);
+        c.Uguali("state", ComponiStato().adesso, m.Adesso());
+        c.Uguali("state, before it", ComponiStato().evidenza, m.Evidenza());
         c.Uguali("Trappola", f.Trappola.Caption(), "Trappola (" + Letterale(m.trappola) + ")...");
         c.Uguali("StringaSel", f.StringaSel.Caption(), m.liste[m.tipo]);
         const CasellaTesto *const intervalli[] = {&f.IntX[0], &f.IntX[1], &f.IntY[0],
