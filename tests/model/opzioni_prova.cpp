@@ -13,7 +13,9 @@ struct OpzioniProva : Banco {
 };
 
 TEST_F(OpzioniProva, SenzaFileValgonoLePredefinite) {
+    Scrivi("TelOpzio.txt.~1", "of a program that was killed");
     LeggiOpzioni();
+    EXPECT_EQ(Leggi("TelOpzio.txt.~1"), "<assente>");
     for (const int voce :
          {kOpzNascondiSottili, kOpzSpessoreMinimo, kOpzPennaNonSel, kOpzColoreSel, kOpzColoreTesto})
         EXPECT_EQ(Opzioni[voce], telva::Valore{1.0}) << voce;

@@ -37,6 +37,7 @@ TEST_F(Scambio, LIngressoSiLeggeFinDoveArriva) {
         {.file = "T\n3\nuno\n", .titolo = "T", .lista = "3", .tipo = kNodi},
         {.file = "T\n3\n", .titolo = "T", .lista = "3", .tipo = kNodi},
         {.file = "T", .titolo = "T", .lista = "prima", .tipo = kNodi}};
+    Scrivi("TelvaOut.txt.~1", "of a program that was killed");
     for (const Caso &c : casi) {
         for (int tipo = kNodi; tipo <= kPareti; ++tipo) StrSel(tipo) = "";
         FormTelva.OptElem[kAste].Seleziona();
@@ -49,6 +50,7 @@ TEST_F(Scambio, LIngressoSiLeggeFinDoveArriva) {
         for (int tipo = kNodi; tipo <= kPareti; ++tipo)
             EXPECT_EQ(StrSel(tipo), c.tenuta && tipo == c.tipo ? c.lista : "") << c.file;
     }
+    EXPECT_EQ(Leggi("TelvaOut.txt.~1"), "<assente>");
 }
 
 TEST_F(Scambio, UnUscitaCheNonSiPuoScrivereSiDiceELasciaLaVecchia) {

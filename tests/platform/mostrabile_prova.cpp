@@ -10,7 +10,6 @@ TEST(Mostrabile, UnTestoLungoFinisceConIPuntiniEUnoBreveRestaIntero) {
         std::size_t caratteri;
         std::string mostrato;
     } casi[] = {
-        {.testo = "", .caratteri = 5, .mostrato = ""},
         {.testo = "trave", .caratteri = 5, .mostrato = "trave"},
         {.testo = "travi", .caratteri = 4, .mostrato = "tra…"},
         {.testo = "àèìò", .caratteri = 4, .mostrato = "àèìò"},

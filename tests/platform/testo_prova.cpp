@@ -90,7 +90,6 @@ TEST(Testo, SiRifilanoGliSpaziENonITabulatori) {
     EXPECT_EQ(Rifila("  a b "), "a b");
     EXPECT_EQ(Rifila("\t x\t"), "\t x\t");
     EXPECT_EQ(Rifila("   "), "");
-    EXPECT_EQ(Rifila(""), "");
 }
 
 } // namespace telva::prove

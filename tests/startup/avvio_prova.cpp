@@ -15,7 +15,6 @@ TEST_F(AvvioProva, LaFinestraSiApreConTitoloETrappola) {
     Apri(Telaio());
     EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
     EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (8)...");
-    EXPECT_EQ(FormTelva.MousePointer(), Puntatore::Predefinito);
 }
 
 TEST_F(AvvioProva, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
