@@ -1,32 +1,28 @@
 #include "fuzz/bersagli.h"
 
-#include "fuzz/DiscoFinto.h"
 #include "model/legfont_cond.h"
 #include "model/leggstr_cond.h"
 #include "model/opzioni_cond.h"
 #include "model/scambio_cond.h"
 #include "model/struttura.h"
 #include "model/tabelle_cond.h"
+#include "platform/archivio_disco.h"
 #include "platform/messaggi.h"
 #include "platform/testo.h"
 #include "selection/schede_sel.h"
-#include "selection/selezione.h"
 #include "startup/avvio.h"
 #include "startup/direttori_cond.h"
-#include "ui/Disegno_gestori.h"
 #include "ui/FormOpt_gestori.h"
 #include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
-#include "ui/vista_gestori.h"
-#include "view/inquadra.h"
-#include "view/proiezione.h"
 #include "view/salva_dis_cond.h"
 
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <stdexcept>
 
@@ -37,13 +33,38 @@ struct Fine {}; // of the program
 
 const std::string kRadice = "c:\\t", kLavoro = kRadice + "\\lavori\\prova1",
                   kOpzioni = kRadice + "\\custom\\TelOpzio.txt";
-std::vector<std::string> pezzi; // bytes of each target in this run
-DiscoFinto disco;
-auto &file = disco.file;
+std::vector<std::string> pezzi;          // bytes of each target in this run
+std::map<std::string, std::string> file; // their contents by whole path
 
 void Esigi(bool vero, const std::string &che) {
     if (!vero) throw std::logic_error(che);
 }
+
+// Files in memory, in the system's place as long as the object lives. Nothing can be written, and
+// nothing but the answer and the options is ever asked to be.
+class DiscoFinto : public Disco {
+  public:
+    DiscoFinto() { ImpostaDisco(this); }
+    ~DiscoFinto() override { ImpostaDisco(nullptr); }
+    bool Esiste(const std::string &percorso) override { return file.contains(percorso); }
+    bool Leggi(const std::string &percorso, std::string &contenuto) override {
+        if (Esiste(percorso)) contenuto = file.at(percorso);
+        return Esiste(percorso);
+    }
+    bool Protetto(const std::string &) override { return false; }
+    std::unique_ptr<FileScritto> Crea(const std::string &percorso) override {
+        Esigi(percorso.starts_with(DirLavoro + "\\TelvaOut.txt") || percorso.starts_with(kOpzioni),
+              "another file is written: " + percorso);
+        return nullptr;
+    }
+    std::unique_ptr<FileScritto> Apri(const std::string &percorso, bool &) override {
+        return Crea(percorso);
+    }
+    std::vector<std::string> Accanto(const std::string &) override { return {}; }
+    void Sgombra(const std::string &) override {}
+    std::string Segno() override { return {}; }
+    void Attendi() override {}
+};
 
 std::vector<std::string> Dividi(const std::string &testo, char separatore) {
     std::vector<std::string> parti(1);
@@ -52,42 +73,20 @@ std::vector<std::string> Dividi(const std::string &testo, char separatore) {
     return parti;
 }
 
-// Looks at the tables, and puts everything back to program start. The tables are cleared as far as
-// their counts say that they were filled: clearing them whole takes longer than a run.
-void ControllaEAzzera() {
-    const auto flag = [](int numero, const auto &...t) {
+void ControllaTabelle() {
+    const auto flag = [](int numero, int capacita, const auto &...t) {
+        Esigi(numero >= 0 && numero <= capacita, "count outside its table");
         for (int i = 0; i < numero; ++i)
             Esigi(((t[i] == 0 || t[i] == 1) && ...), "flag other than 0 and 1");
     };
-    const auto tabelle = [](std::int16_t &numero, int capacita, auto &...t) {
-        Esigi(numero >= 0 && numero <= capacita, "count outside its table");
-        (std::fill_n(t.Dati(), numero, std::remove_reference_t<decltype(t[0])>{}), ...);
-        numero = 0;
-    };
-    flag(NumNodi, SelNodo, AttNodo);
-    flag(NumAste, SelAsta, AttAsta);
-    flag(NumGusci, SelGuscio, AttGuscio);
-    flag(NumElCont, SelElCont);
-    for (int k = 0; k < NumElCont; ++k)
-        for (int j = 0; j < NumAsteElCont[k]; ++j) AsteElCont(k, j) = 0;
-    tabelle(NumPunti, kPunti, PuntoX, PuntoY, PuntoZ);
-    tabelle(NumNodi, kNodi, PuntoNodo, TipoPtNodo, ColNodo, NomeNodo, VincoloNodo, SelNodo,
-            AttNodo);
-    tabelle(NumAste, kAste, NodoIAsta, NodoJAsta, TipoLinAsta, ColAsta, NomeAsta, SezioneAsta,
-            SvincoloAsta, OrientAsta, DatoAsta5, DatoAsta6, SelAsta, AttAsta, IngIX, IngIY, IngIZ,
-            IngJX, IngJY, IngJZ);
-    tabelle(NumGusci, kGusci, NodiGuscio, TrattGuscio, NomeGuscio, SpessoreGuscio, ColGuscio,
-            SelGuscio, AttGuscio);
-    tabelle(NumElCont, kElCont, NumeroElCont, DatoElCont2, NumAsteElCont, NomeElCont, SelElCont);
-    tabelle(NumTestiFinali, kTesti, TestoFinale);
-    tabelle(NumSpessori, kSchedeSpessore, MatSpessore, ValSpessore);
-    tabelle(NumSezioni, kSchedeSezione, MatSezione);
-    XMin = YMin = ZMin = XMax = YMax = ZMax = 0;
-    PrimoPuntoContato = -1;
-    for (auto *azzera : {AzzeraOpzioni, AzzeraFont, AzzeraProiezione, AzzeraDisegno, AzzeraVista,
-                         AzzeraSelezione, AzzeraPuntatore})
-        azzera();
-    FormTelva.Inizio();
+    flag(NumPunti, kPunti);
+    flag(NumNodi, kNodi, SelNodo, AttNodo);
+    flag(NumAste, kAste, SelAsta, AttAsta);
+    flag(NumGusci, kGusci, SelGuscio, AttGuscio);
+    flag(NumElCont, kElCont, SelElCont);
+    flag(NumTestiFinali, kTesti);
+    flag(NumSpessori, kSchedeSpessore);
+    flag(NumSezioni, kSchedeSezione);
 }
 
 void Dirigi() {
@@ -161,13 +160,7 @@ void Comanda(const std::string &righe) {
         case 't': d.MouseMove(4, 0, x, y); break;
         case 'd': d.DblClick(); break;
         case 'r': FormTelva.Rotella(px); break;
-        case 'e': FormTelva.KeyPress(27); break;
         case 'k': FormTelva.KeyDown(numero(1)); break;
-        case 'w':
-            FormTelva.Width = px * 50;
-            FormTelva.Height = py * 50;
-            FormTelva.Resize();
-            break;
         default:
             Usa(controlli[static_cast<std::size_t>(numero(1)) % controlli.size()],
                 riga.substr(std::min<std::size_t>(riga.size(), 2)));
@@ -184,13 +177,7 @@ void Programma() {
     FormTelva.Height = FormTelva.altezzaMinima;
     ArgomentoAvvio = pezzi[0];
     Avvia();
-    std::size_t k = 0;
-    const std::vector<std::string> testi = Dividi(pezzi[13], ';');
-    for (Controllo *c : FormTelva.controlli)
-        if (auto *casella = dynamic_cast<CasellaTesto *>(c); casella && k < testi.size())
-            casella->Text = testi[k++];
-    Ridis_Click();
-    Comanda(pezzi[14]);
+    Comanda(pezzi[13]);
 }
 
 // Fills the files in; an empty piece is as in the good job, and "-" is a file that is not there.
@@ -223,7 +210,6 @@ const std::vector<Bersaglio> &Bersagli() {
             {"STRUTTUR.STR", kLavoro + "\\STRUTTUR.STR", Struttura},
             {"Ingombri.tmp", kLavoro + "\\Ingombri.tmp", Struttura},
             {"lista", "", Lista},
-            {"caselle", "", Programma},
             {"comandi", "", Programma},
             {"programma", "", Programma},
         };
@@ -242,23 +228,19 @@ void Esegui(const Bersaglio &b, const std::string &byte) {
         Installa(b.nome == "programma" ? Dividi(byte, '#') : std::vector<std::string>{});
     if (quale < pezzi.size()) pezzi[quale] = byte;
     if (!b.file.empty()) file[b.file] = byte;
-    const DiscoInUso inUso(disco);
+    const DiscoFinto disco;
     ImpostaMessaggi([](auto &&...) {});
     ImpostaFine([](int) { throw Fine(); });
     DirRoot = kRadice, DirCustom = kRadice + "\\custom", DirProgra = kRadice + "\\progra";
     DirLavoro = kLavoro;
-    DiscoFinto::FileInMemoria prima;
-    if (b.esegui == Programma) prima = file;
     try {
         b.esegui();
     } catch (const Guasto &g) {
         Esigi(std::string_view(g.what()).starts_with("File "), g.what());
     } catch (const Fine &) {
     }
-    file.erase(DirLavoro + "\\TelvaOut.txt");
-    prima[kOpzioni] = file[kOpzioni]; // may be saved
-    Esigi(b.esegui != Programma || file == prima, "a file of the job was changed");
-    if (b.esegui != Dirigi && b.esegui != Lista) ControllaEAzzera();
+    ControllaTabelle();
+    if (b.esegui != Dirigi && b.esegui != Lista) AzzeraProgramma();
 }
 
 } // namespace telva::prove
