@@ -3,7 +3,6 @@
 #include <algorithm>
 
 namespace telva::generatore {
-
 namespace {
 
 struct StileAsta {
@@ -64,32 +63,27 @@ constexpr int PassoSpessori = 8;
 enum class Ruolo { Giunto, Rete, Base, Palo, Copertura, Nucleo };
 
 // What each node belongs to, from its height and from the elements that meet there.
-std::vector<Ruolo> Ruoli(const Cantiere &cantiere) {
-    std::vector<Ruolo> ruoli(cantiere.Nodi.size(), Ruolo::Rete);
+Fila<Ruolo> Ruoli(const Cantiere &cantiere) {
+    Fila<Ruolo> ruoli(cantiere.Nodi.size(), Ruolo::Rete);
     for (const GuscioGrezzo &g : cantiere.Gusci)
-        if (g.Tipo == TipoGuscio::Nucleo)
-            for (const int n : g.Nodi)
-                if (n >= 0) ruoli[static_cast<std::size_t>(n)] = Ruolo::Nucleo;
+        for (const int n : g.Nodi)
+            if (n >= 0 && g.Tipo == TipoGuscio::Nucleo) ruoli[n] = Ruolo::Nucleo;
     for (const AstaGrezza &a : cantiere.Aste) {
         if (a.Tipo == TipoAsta::Fittizia || a.Tipo == TipoAsta::Eliminata ||
             a.Tipo == TipoAsta::Monaco)
             continue;
         const bool copertura = a.Tipo == TipoAsta::Puntone || a.Tipo == TipoAsta::Arcareccio;
-        for (const int n : {a.I, a.J}) {
-            Ruolo &ruolo = ruoli[static_cast<std::size_t>(n)];
-            if (!copertura)
-                ruolo = Ruolo::Giunto;
-            else if (ruolo != Ruolo::Giunto)
-                ruolo = Ruolo::Copertura;
-        }
+        for (const int n : {a.I, a.J})
+            if (!copertura || ruoli[n] != Ruolo::Giunto)
+                ruoli[n] = copertura ? Ruolo::Copertura : Ruolo::Giunto;
     }
-    for (std::size_t n = 0; n < ruoli.size(); ++n)
+    for (int n = 0; n < ruoli.Quanti(); ++n)
         if (cantiere.Nodi[n].Z <= 0) ruoli[n] = cantiere.Nodi[n].Z < 0 ? Ruolo::Palo : Ruolo::Base;
     return ruoli;
 }
 
 // Point type, colour and constraint; a few nodes of the cores are hidden, some bases are hinged.
-Nodo AspettoNodo(Ruolo ruolo, std::size_t n) {
+Nodo AspettoNodo(Ruolo ruolo, int n) {
     const auto aspetto = [](int tipo, int colore, int vincolo) {
         return Nodo{0, tipo, colore, 0, vincolo};
     };
@@ -108,34 +102,34 @@ Nodo AspettoNodo(Ruolo ruolo, std::size_t n) {
 
 Asta AspettoAsta(const AstaGrezza &grezza, int numSezioni) {
     const StileAsta stile = Stile(grezza.Tipo);
+    const auto [piano, x, y] = grezza.Dove;
+    const bool pilastro = grezza.Tipo == TipoAsta::Pilastro;
+    const bool leggero = pilastro && numSezioni == SezioniCampione && piano > 3;
     Asta asta;
     asta.TipoLinea = stile.Linea;
     asta.Colore = stile.Colore;
-    asta.Sezione = Scheda(stile.Sezione, PassoSezioni, grezza.Dove.Piano, numSezioni);
+    asta.Sezione = leggero ? 13 : Scheda(stile.Sezione, PassoSezioni, piano, numSezioni);
     asta.Svincolo = stile.Svincolo;
-    asta.Orientamento = stile.Orientamento;
-    if (grezza.Tipo == TipoAsta::Pilastro) {
-        asta.Orientamento += (grezza.Dove.FiloX + grezza.Dove.FiloY) % 2;
-        if (numSezioni == SezioniCampione && grezza.Dove.Piano > 3) asta.Sezione = 13;
-    }
-    asta.Dato5 = grezza.Dove.Piano;
+    asta.Orientamento = stile.Orientamento + (pilastro ? (x + y) % 2 : 0);
+    asta.Dato5 = piano;
     asta.Dato6 = stile.Svincolo > 0 ? 1 : 0;
     return asta;
 }
 
 Guscio AspettoGuscio(const GuscioGrezzo &grezzo, int numSpessori) {
-    const StileGuscio stile = Stile(grezzo.Tipo, grezzo.Dove.Piano);
+    const int piano = grezzo.Dove.Piano;
+    const StileGuscio stile = Stile(grezzo.Tipo, piano);
     Guscio guscio;
     guscio.Tratteggio = stile.Tratteggio;
     guscio.Colore = stile.Colore;
-    guscio.Spessore = Scheda(stile.Spessore, PassoSpessori, grezzo.Dove.Piano, numSpessori);
-    guscio.Valore = 0.25 * (grezzo.Dove.Piano % 4);
+    guscio.Spessore = Scheda(stile.Spessore, PassoSpessori, piano, numSpessori);
+    guscio.Valore = 0.25 * (piano % 4);
     return guscio;
 }
 
-std::vector<Nodo> AspettoNodi(const Cantiere &cantiere) {
-    std::vector<Nodo> nodi;
-    for (const Ruolo ruolo : Ruoli(cantiere)) nodi.push_back(AspettoNodo(ruolo, nodi.size()));
+Fila<Nodo> AspettoNodi(const Cantiere &cantiere) {
+    Fila<Nodo> nodi;
+    for (const Ruolo ruolo : Ruoli(cantiere)) nodi.push_back(AspettoNodo(ruolo, nodi.Quanti()));
     return nodi;
 }
 

@@ -18,7 +18,7 @@ Asta AspettoAsta(const AstaGrezza &grezza, int numSezioni);
 Guscio AspettoGuscio(const GuscioGrezzo &grezzo, int numSpessori);
 
 // Point type, colour and constraint card of every node of the site, in its order.
-std::vector<Nodo> AspettoNodi(const Cantiere &cantiere);
+Fila<Nodo> AspettoNodi(const Cantiere &cantiere);
 
 std::vector<SchedaSpessore> SchedeSpessore(int quante);
 std::vector<SchedaSezione> SchedeSezione(int quante);

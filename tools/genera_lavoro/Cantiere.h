@@ -9,11 +9,23 @@
 
 namespace telva::generatore {
 
+// A vector counted in whole numbers, as the tables of a job are; every index is checked.
+template <class T>
+class Fila : public std::vector<T> {
+  public:
+    using std::vector<T>::vector;
+    T &operator[](int i) { return this->at(static_cast<std::size_t>(i)); }
+    const T &operator[](int i) const { return this->at(static_cast<std::size_t>(i)); }
+    int Quanti() const { return static_cast<int>(this->size()); }
+    void Aggiungi(const Fila &altri) { this->insert(this->end(), altri.begin(), altri.end()); }
+};
+
 struct Posizione {
     int X = 0, Y = 0, Z = 0;
     auto operator<=>(const Posizione &) const = default;
 };
 
+// A hidden element is in the tables and not drawn; a deleted one has no name.
 enum class TipoAsta {
     Pilastro,
     TraveX,
@@ -27,10 +39,9 @@ enum class TipoAsta {
     Cordolo,
     Palo,
     Mensola,
-    Fittizia, // hidden
-    Eliminata // absent
+    Fittizia,
+    Eliminata
 };
-
 enum class TipoGuscio {
     Solaio,
     Balcone,
@@ -39,8 +50,8 @@ enum class TipoGuscio {
     Falda,
     Lucernario,
     Copertina,
-    Fittizio, // hidden
-    Eliminato // absent
+    Fittizio,
+    Eliminato
 };
 
 // Where an element stands: storey, and main grid lines counted from 0 (-1 = on none of them).
@@ -63,19 +74,16 @@ struct GuscioGrezzo {
 
 class Cantiere {
   public:
-    std::vector<Posizione> Nodi;
-    std::vector<AstaGrezza> Aste;
-    std::vector<GuscioGrezzo> Gusci;
+    Fila<Posizione> Nodi;
+    Fila<AstaGrezza> Aste;
+    Fila<GuscioGrezzo> Gusci;
 
     // Index of the node at this position, made when there is none.
     int Nodo(const Posizione &p);
-
     // Adds a bar between two positions.
     void Asta(TipoAsta tipo, const Posizione &i, const Posizione &j, Luogo dove);
-
     // Adds a shell with three or four corners, in order around its edge.
-    void Guscio(TipoGuscio tipo, const std::vector<Posizione> &angoli, Luogo dove,
-                bool cavedio = false);
+    void Guscio(TipoGuscio tipo, const Fila<Posizione> &angoli, Luogo dove, bool cavedio = false);
 
   private:
     std::map<Posizione, int> Indici;

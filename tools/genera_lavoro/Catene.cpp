@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 
 namespace telva::generatore {
-
 namespace {
 
 using Chiave = std::array<int, 3>; // kind, storey or first line, line
-using Gruppi = std::map<Chiave, std::vector<int>>;
+using Gruppi = std::map<Chiave, Fila<int>>;
 
 std::string Numero(int filo) { return std::to_string(filo + 1); }
 
@@ -21,19 +21,20 @@ std::string Lettera(int filo) {
     return filo < 26 ? ultima : Lettera(filo / 26 - 1) + ultima;
 }
 
-bool ChiaveDi(const AstaGrezza &asta, Chiave &chiave) {
+// The chain that a bar is part of; none when its kind is none.
+std::optional<Chiave> ChiaveDi(const AstaGrezza &asta) {
     const int tipo = static_cast<int>(asta.Tipo);
+    const auto [piano, x, y] = asta.Dove;
     switch (asta.Tipo) {
-    case TipoAsta::Pilastro: chiave = {tipo, asta.Dove.FiloX, asta.Dove.FiloY}; return true;
-    case TipoAsta::TraveX: chiave = {tipo, asta.Dove.Piano, asta.Dove.FiloY}; return true;
-    case TipoAsta::TraveY: chiave = {tipo, asta.Dove.Piano, asta.Dove.FiloX}; return true;
-    case TipoAsta::Smusso: chiave = {tipo, asta.Dove.Piano, 0}; return true;
+    case TipoAsta::Pilastro: return Chiave{tipo, x, y};
+    case TipoAsta::TraveX: return Chiave{tipo, piano, y};
+    case TipoAsta::TraveY: return Chiave{tipo, piano, x};
+    case TipoAsta::Smusso: return Chiave{tipo, piano, 0};
     case TipoAsta::Cordolo:
-        chiave = {tipo, asta.Dove.FiloX, asta.Dove.FiloY};
-        return chiave[1] >= 0 || chiave[2] >= 0;
-    case TipoAsta::Puntone: chiave = {tipo, asta.Dove.FiloX, 0}; return chiave[1] >= 0;
-    case TipoAsta::Arcareccio: chiave = {tipo, asta.Dove.FiloY, 0}; return true;
-    default: return false;
+        return x >= 0 || y >= 0 ? std::optional(Chiave{tipo, x, y}) : std::nullopt;
+    case TipoAsta::Puntone: return x >= 0 ? std::optional(Chiave{tipo, x, 0}) : std::nullopt;
+    case TipoAsta::Arcareccio: return Chiave{tipo, y, 0};
+    default: return std::nullopt;
     }
 }
 
@@ -51,89 +52,77 @@ std::string NomeDi(const Chiave &chiave) {
     }
 }
 
-Gruppi Raggruppa(const std::vector<AstaGrezza> &aste) {
+Gruppi Raggruppa(const Fila<AstaGrezza> &aste) {
     Gruppi gruppi;
-    Chiave chiave{};
-    for (std::size_t a = 0; a < aste.size(); ++a)
-        if (ChiaveDi(aste[a], chiave)) gruppi[chiave].push_back(static_cast<int>(a));
+    for (int a = 0; a < aste.Quanti(); ++a)
+        if (const auto chiave = ChiaveDi(aste[a])) gruppi[*chiave].push_back(a);
     return gruppi;
 }
 
-std::vector<Catena> Naturali(const Gruppi &gruppi) {
-    std::vector<Catena> catene;
+Fila<int> Tratto(const Fila<int> &aste, int da) {
+    const int a = std::min(aste.Quanti(), da + MaxAsteElCont);
+    return {aste.begin() + da, aste.begin() + a};
+}
+
+Fila<Catena> Naturali(const Gruppi &gruppi) {
+    Fila<Catena> catene;
     for (const auto &[chiave, aste] : gruppi)
-        for (std::size_t da = 0; da < aste.size(); da += MaxAsteElCont) {
-            const std::size_t a = std::min<std::size_t>(aste.size(), da + MaxAsteElCont);
-            const auto inizio = aste.begin();
-            catene.push_back({NomeDi(chiave) + (da > 0 ? " (più avanti)" : ""),
-                              {inizio + static_cast<std::ptrdiff_t>(da),
-                               inizio + static_cast<std::ptrdiff_t>(a)}});
-        }
+        for (int da = 0; da < aste.Quanti(); da += MaxAsteElCont)
+            catene.push_back({NomeDi(chiave) + (da > 0 ? " (più avanti)" : ""), Tratto(aste, da)});
     return catene;
 }
 
 // Consecutive beams in X, taken as long as a continuous element may be.
-std::vector<Catena> Graticci(const Gruppi &gruppi, int quanti) {
-    std::vector<int> travi;
+Fila<Catena> Graticci(const Gruppi &gruppi, int quanti) {
+    Fila<int> travi;
     for (const auto &[chiave, aste] : gruppi)
-        if (chiave[0] == static_cast<int>(TipoAsta::TraveX))
-            travi.insert(travi.end(), aste.begin(), aste.end());
-    const std::size_t lunghezza = std::min<std::size_t>(MaxAsteElCont, travi.size());
-    std::vector<Catena> catene;
-    for (int g = 0; g < quanti; ++g) {
-        const std::size_t libere = travi.size() - lunghezza;
-        const std::size_t da = libere * static_cast<std::size_t>(g) /
-                               static_cast<std::size_t>(std::max(1, quanti - 1));
-        const auto inizio = travi.begin() + static_cast<std::ptrdiff_t>(da);
-        catene.push_back({"Graticcio n. " + Numero(g),
-                          {inizio, inizio + static_cast<std::ptrdiff_t>(lunghezza)}});
-    }
+        if (chiave[0] == static_cast<int>(TipoAsta::TraveX)) travi.Aggiungi(aste);
+    const int libere = std::max(0, travi.Quanti() - MaxAsteElCont);
+    Fila<Catena> catene;
+    for (int g = 0; g < quanti; ++g)
+        catene.push_back(
+            {"Graticcio n. " + Numero(g), Tratto(travi, libere * g / std::max(1, quanti - 1))});
     return catene;
 }
 
 // Spans of the given number of bays along every beam, until enough.
-void AggiungiCampate(std::vector<Catena> &catene, const Gruppi &gruppi,
-                     const std::vector<AstaGrezza> &aste, int ampiezza, std::size_t quante) {
+void AggiungiCampate(Fila<Catena> &catene, const Gruppi &gruppi, const Fila<AstaGrezza> &aste,
+                     int ampiezza, int quante) {
     for (const auto &[chiave, trave] : gruppi) {
         const bool lungoX = chiave[0] == static_cast<int>(TipoAsta::TraveX);
         if (!lungoX && chiave[0] != static_cast<int>(TipoAsta::TraveY)) continue;
-        const auto campataDi = [&aste, lungoX](int a) {
-            const Luogo &dove = aste[static_cast<std::size_t>(a)].Dove;
-            return lungoX ? dove.FiloX : dove.FiloY;
+        const auto campataDi = [&, lungoX](int a) {
+            return lungoX ? aste[a].Dove.FiloX : aste[a].Dove.FiloY;
         };
         const int ultima = campataDi(trave.back()); // beams run upwards along their line
-        std::map<int, std::vector<int>> campate;
-        for (const int a : trave) {
-            const int campata = campataDi(a);
-            for (int c = campata - ampiezza + 1; c <= campata; ++c)
+        std::map<int, Fila<int>> campate;
+        for (const int a : trave)
+            for (int c = campataDi(a) - ampiezza + 1; c <= campataDi(a); ++c)
                 if (c >= 0 && c + ampiezza - 1 <= ultima) campate[c].push_back(a);
-        }
+        const auto filo = lungoX ? Numero : Lettera;
         for (const auto &[inizio, pezzo] : campate) {
-            if (catene.size() >= quante) return;
-            const int fine = inizio + ampiezza;
-            const std::string tratto = lungoX ? Numero(inizio) + "-" + Numero(fine)
-                                              : Lettera(inizio) + "-" + Lettera(fine);
-            const std::string resto = NomeDi(chiave).substr(std::string("Trave").size());
-            if (pezzo.size() <= MaxAsteElCont)
-                catene.push_back({"Campata " + tratto + resto, pezzo});
+            if (catene.Quanti() >= quante) return;
+            if (pezzo.Quanti() <= MaxAsteElCont)
+                catene.push_back({"Campata " + filo(inizio) + "-" + filo(inizio + ampiezza) +
+                                      NomeDi(chiave).substr(std::string("Trave").size()),
+                                  pezzo});
         }
     }
 }
 
 } // namespace
 
-std::vector<Catena> Catene(const std::vector<AstaGrezza> &aste, int quante) {
+Fila<Catena> Catene(const Fila<AstaGrezza> &aste, int quante) {
     const Gruppi gruppi = Raggruppa(aste);
-    std::vector<Catena> catene = Naturali(gruppi);
-    catene.insert(catene.begin() + static_cast<std::ptrdiff_t>(catene.size() / 2),
-                  Catena{"Trave eliminata (è vuota)", {}});
+    Fila<Catena> catene = Naturali(gruppi);
+    catene.insert(catene.begin() + catene.Quanti() / 2, Catena{"Trave eliminata (è vuota)", {}});
     if (quante == 0) return catene;
-    const std::size_t voluti = static_cast<std::size_t>(quante);
-    const std::vector<Catena> lunghi = Graticci(gruppi, std::max(1, quante / 40));
-    if (catene.size() + lunghi.size() > voluti) catene.resize(voluti - lunghi.size());
-    catene.insert(catene.end(), lunghi.begin(), lunghi.end());
-    for (int ampiezza = 1; catene.size() < voluti && ampiezza < 40; ++ampiezza)
-        AggiungiCampate(catene, gruppi, aste, ampiezza, voluti);
+    const Fila<Catena> lunghi = Graticci(gruppi, std::max(1, quante / 40));
+    if (catene.Quanti() + lunghi.Quanti() > quante)
+        catene.resize(static_cast<std::size_t>(quante - lunghi.Quanti()));
+    catene.Aggiungi(lunghi);
+    for (int ampiezza = 1; catene.Quanti() < quante && ampiezza < 40; ++ampiezza)
+        AggiungiCampate(catene, gruppi, aste, ampiezza, quante);
     return catene;
 }
 

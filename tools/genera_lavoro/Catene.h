@@ -4,18 +4,17 @@
 #include "Cantiere.h"
 
 #include <string>
-#include <vector>
 
 namespace telva::generatore {
 
 struct Catena {
-    std::string Nome;      // UTF-8
-    std::vector<int> Aste; // bar indexes in file order, at most MaxAsteElCont
+    std::string Nome; // UTF-8
+    Fila<int> Aste;   // bar indexes in file order, at most MaxAsteElCont
 };
 
 // The chains of a building in their natural number when quante is 0; otherwise exactly that many,
 // with long grillages of as many bars as fit and single spans, which overlap the others.
 // One chain is always empty.
-std::vector<Catena> Catene(const std::vector<AstaGrezza> &aste, int quante);
+Fila<Catena> Catene(const Fila<AstaGrezza> &aste, int quante);
 
 } // namespace telva::generatore

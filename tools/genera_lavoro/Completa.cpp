@@ -3,59 +3,64 @@
 #include <utility>
 
 namespace telva::generatore {
-
 namespace {
 
 constexpr int LunghezzaPalo = 150 * 100; // one pile segment
 constexpr int MaxConci = 28;             // keeps the pile tips above -5000 cm
 
-std::vector<std::size_t> SceltiUniformi(const std::vector<std::size_t> &tutti, std::size_t quanti) {
-    std::vector<std::size_t> scelti;
-    for (std::size_t s = 0; s < quanti; ++s) scelti.push_back(tutti[s * tutti.size() / quanti]);
+// So many of them at equal distances.
+template <class T>
+Fila<T> Scelti(const Fila<T> &tutti, int quanti) {
+    Fila<T> scelti;
+    for (int s = 0; s < quanti; ++s) scelti.push_back(tutti[s * tutti.Quanti() / quanti]);
     return scelti;
 }
 
-std::vector<std::size_t> CampiQuadri(const Cantiere &c) {
-    std::vector<std::size_t> campi;
-    for (std::size_t g = 0; g < c.Gusci.size(); ++g)
-        if (c.Gusci[g].Tipo == TipoGuscio::Solaio && c.Gusci[g].Nodi[3] >= 0) campi.push_back(g);
-    return campi;
+template <class F>
+Fila<int> GusciTali(const Cantiere &c, F tale) {
+    Fila<int> indici;
+    for (int g = 0; g < c.Gusci.Quanti(); ++g)
+        if (tale(c.Gusci[g])) indici.push_back(g);
+    return indici;
+}
+
+Fila<int> CampiQuadri(const Cantiere &c) {
+    return GusciTali(
+        c, [](const GuscioGrezzo &g) { return g.Tipo == TipoGuscio::Solaio && g.Nodi[3] >= 0; });
 }
 
 bool AggiungiPali(Cantiere &c, int quanti) {
-    std::vector<Posizione> teste;
+    Fila<Posizione> teste;
     for (const Posizione &p : c.Nodi)
         if (p.Z == 0) teste.push_back(p);
     for (int concio = 0; concio < MaxConci; ++concio)
-        for (const Posizione &testa : teste) {
+        for (const auto &[x, y, suolo] : teste) {
             if (quanti-- <= 0) return true;
-            const int z = -LunghezzaPalo * concio;
-            c.Asta(TipoAsta::Palo, {testa.X, testa.Y, z}, {testa.X, testa.Y, z - LunghezzaPalo},
-                   {0});
+            const int testa = -LunghezzaPalo * concio;
+            c.Asta(TipoAsta::Palo, {x, y, testa}, {x, y, testa - LunghezzaPalo}, {suolo});
         }
     return quanti <= 0;
 }
 
 bool ApriCavedi(Cantiere &c, int quanti) {
-    std::vector<std::size_t> possibili;
-    for (std::size_t g = 0; g < c.Gusci.size(); ++g)
-        if (c.Gusci[g].Cavedio) possibili.push_back(g);
-    if (static_cast<std::size_t>(quanti) > possibili.size()) return false;
-    std::vector<bool> via(c.Gusci.size(), false);
-    for (const std::size_t g : SceltiUniformi(possibili, static_cast<std::size_t>(quanti)))
-        via[g] = true;
-    std::vector<GuscioGrezzo> restano;
-    for (std::size_t g = 0; g < c.Gusci.size(); ++g)
-        if (!via[g]) restano.push_back(c.Gusci[g]);
+    const Fila<int> possibili = GusciTali(c, [](const GuscioGrezzo &g) { return g.Cavedio; });
+    if (quanti > possibili.Quanti()) return false;
+    const Fila<int> via = Scelti(possibili, quanti);
+    Fila<GuscioGrezzo> restano;
+    for (int g = 0, v = 0; g < c.Gusci.Quanti(); ++g)
+        if (v < via.Quanti() && via[v] == g)
+            ++v;
+        else
+            restano.push_back(c.Gusci[g]);
     c.Gusci = std::move(restano);
     return true;
 }
 
 // Two triangles in place of a rectangle: one shell more and no new node.
 bool DividiCampi(Cantiere &c, int quanti) {
-    const std::vector<std::size_t> campi = CampiQuadri(c);
-    if (static_cast<std::size_t>(quanti) > campi.size()) return false;
-    for (const std::size_t g : SceltiUniformi(campi, static_cast<std::size_t>(quanti))) {
+    const Fila<int> campi = CampiQuadri(c);
+    if (quanti > campi.Quanti()) return false;
+    for (const int g : Scelti(campi, quanti)) {
         GuscioGrezzo meta = c.Gusci[g];
         meta.Nodi = {meta.Nodi[0], meta.Nodi[2], meta.Nodi[3], -1};
         meta.Cavedio = false;
@@ -65,55 +70,44 @@ bool DividiCampi(Cantiere &c, int quanti) {
     return true;
 }
 
-bool AggiungiAste(Cantiere &c, const Edificio &edificio, int quante) {
-    const std::vector<AstaCandidata> candidate = edificio.AsteAggiungibili();
-    if (static_cast<std::size_t>(quante) > candidate.size()) return false;
+bool AggiungiAste(Edificio &e, int quante) {
+    if (quante > e.Aggiungibili.Quanti()) return false;
     for (int a = 0; a < quante; ++a) {
-        const AstaCandidata &asta = candidate[static_cast<std::size_t>(a)];
-        c.Asta(asta.Tipo, asta.I, asta.J, asta.Dove);
+        const AstaCandidata &asta = e.Aggiungibili[a];
+        e.Elementi.Asta(asta.Tipo, asta.I, asta.J, asta.Dove);
     }
     return true;
 }
 
 } // namespace
 
-bool Completa(Cantiere &cantiere, const Edificio &edificio, const Obiettivi &obiettivi,
-              const FuoriVista &fuori) {
-    const auto mancano = [](int voluti, const auto &tabella) {
-        return voluti - static_cast<int>(tabella.size());
-    };
-    const int nodi = mancano(obiettivi.Nodi - fuori.NodiAssenti, cantiere.Nodi);
-    if (nodi < 0 || !AggiungiPali(cantiere, nodi)) return false;
-    const int aste =
-        mancano(obiettivi.Aste - fuori.AsteAssenti - fuori.AsteNascoste, cantiere.Aste);
-    if (aste < 0 || !AggiungiAste(cantiere, edificio, aste)) return false;
-    const int gusci =
-        mancano(obiettivi.Gusci - fuori.GusciAssenti - fuori.GusciNascosti, cantiere.Gusci);
-    return gusci < 0 ? ApriCavedi(cantiere, -gusci) : DividiCampi(cantiere, gusci);
+bool Completa(Edificio &edificio, const Obiettivi &obiettivi, const FuoriVista &fuori) {
+    Cantiere &c = edificio.Elementi;
+    const int nodi = obiettivi.Nodi - fuori.Nodi - c.Nodi.Quanti();
+    if (nodi < 0 || !AggiungiPali(c, nodi)) return false;
+    const int aste = obiettivi.Aste - fuori.Aste - c.Aste.Quanti();
+    if (aste < 0 || !AggiungiAste(edificio, aste)) return false;
+    const int gusci = obiettivi.Gusci - fuori.Gusci - c.Gusci.Quanti();
+    return gusci < 0 ? ApriCavedi(c, -gusci) : DividiCampi(c, gusci);
 }
 
-void AggiungiFuoriVista(Cantiere &cantiere, const Edificio &edificio, const FuoriVista &fuori) {
-    std::vector<AstaGrezza> aste;
-    const auto diagonali = static_cast<std::size_t>(fuori.AsteAssenti + fuori.AsteNascoste);
-    for (const std::size_t g : SceltiUniformi(CampiQuadri(cantiere), diagonali)) {
-        const GuscioGrezzo &campo = cantiere.Gusci[g];
-        const bool assente = aste.size() % 2 == 0;
-        const Luogo dove{campo.Dove.Piano, -1, -1};
-        if (assente)
-            aste.push_back({campo.Nodi[1], campo.Nodi[3], TipoAsta::Eliminata, dove});
+void AggiungiFuoriVista(Edificio &edificio, const FuoriVista &fuori) {
+    Cantiere &c = edificio.Elementi;
+    Fila<AstaGrezza> aste;
+    for (const int g : Scelti(CampiQuadri(c), fuori.Aste)) {
+        const auto &[nodi, tipo, dove, cavedio] = c.Gusci[g];
+        if (aste.size() % 2 == 0)
+            aste.push_back({nodi[1], nodi[3], TipoAsta::Eliminata, {dove.Piano}});
         else
-            aste.push_back({campo.Nodi[0], campo.Nodi[2], TipoAsta::Fittizia, dove});
+            aste.push_back({nodi[0], nodi[2], TipoAsta::Fittizia, {dove.Piano}});
     }
-    cantiere.Aste = Distribuisci(cantiere.Aste, aste);
+    c.Aste = Distribuisci(c.Aste, aste);
 
-    const std::vector<std::vector<Posizione>> tramezzi = edificio.Tramezzi();
-    const auto pannelli = static_cast<std::size_t>(fuori.GusciAssenti + fuori.GusciNascosti);
-    Cantiere extra = cantiere;
-    extra.Gusci.clear();
-    for (std::size_t p = 0; p < pannelli; ++p)
-        extra.Guscio(p % 2 == 0 ? TipoGuscio::Eliminato : TipoGuscio::Fittizio,
-                     tramezzi[p * tramezzi.size() / pannelli], {1});
-    cantiere.Gusci = Distribuisci(cantiere.Gusci, extra.Gusci);
+    const Fila<GuscioGrezzo> gusci = std::exchange(c.Gusci, {});
+    for (const Fila<Posizione> &pannello : Scelti(edificio.Tramezzi, fuori.Gusci))
+        c.Guscio(c.Gusci.size() % 2 == 0 ? TipoGuscio::Eliminato : TipoGuscio::Fittizio, pannello,
+                 {1});
+    c.Gusci = Distribuisci(gusci, c.Gusci);
 }
 
 } // namespace telva::generatore

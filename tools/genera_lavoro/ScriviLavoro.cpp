@@ -4,20 +4,23 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
 namespace telva::generatore {
-
 namespace {
 
 namespace fs = std::filesystem;
 
+std::string Allineato(const std::string &testo, std::size_t larghezza) {
+    return std::string(std::max(larghezza, testo.size()) - testo.size(), ' ') + testo;
+}
+
 // A number of whole hundredths, written without the C library's locale.
 std::string Decimale(double valore) {
     const long long centesimi = std::llround(valore * 100);
-    const long long assoluto = centesimi < 0 ? -centesimi : centesimi;
-    std::string cifre = std::to_string(assoluto);
+    std::string cifre = std::to_string(std::abs(centesimi));
     if (cifre.size() < 3) cifre.insert(0, 3 - cifre.size(), '0');
     cifre.insert(cifre.size() - 2, 1, '.');
     return (centesimi < 0 ? "-" : "") + cifre;
@@ -25,6 +28,11 @@ std::string Decimale(double valore) {
 
 class Testo {
   public:
+    Testo() = default;
+    Testo(std::initializer_list<std::string> righe) {
+        for (const std::string &riga : righe) Riga(riga);
+    }
+
     void Riga(const std::string &utf8) { Contenuto += AWindows1252(utf8) + "\r\n"; }
 
     // Right-aligned integers on one line.
@@ -40,27 +48,19 @@ class Testo {
         Riga(riga);
     }
 
-    void Conteggio(std::size_t quanti, const std::string &cosa) {
+    void Conteggio(std::size_t quanti, const std::string &cosa = "") {
         Riga(' ' + Allineato(std::to_string(quanti), 6) + ' ' + cosa);
     }
 
-    void Scrivi(const fs::path &file) const {
+    void Scrivi(const fs::path &file, bool soloSeManca = false) const {
+        if (soloSeManca && fs::exists(file)) return;
         std::ofstream uscita(file, std::ios::binary | std::ios::trunc);
         uscita.write(Contenuto.data(), static_cast<std::streamsize>(Contenuto.size()));
         uscita.close();
         if (!uscita) throw std::runtime_error("impossibile scrivere " + file.string());
     }
 
-    void ScriviSeManca(const fs::path &file) const {
-        if (!fs::exists(file)) Scrivi(file);
-    }
-
   private:
-    static std::string Allineato(const std::string &testo, std::size_t larghezza) {
-        return testo.size() < larghezza ? std::string(larghezza - testo.size(), ' ') + testo
-                                        : testo;
-    }
-
     std::string Contenuto;
 };
 
@@ -87,11 +87,10 @@ void AggiungiGeometria(Testo &t, const Lavoro &l) {
 }
 
 Testo Struttura(const Lavoro &l) {
-    Testo t;
-    t.Riga("Struttura - Release 4.0");
+    Testo t{"Struttura - Release 4.0"};
     AggiungiGeometria(t, l);
     for (const auto &sezione : l.SezioniSaltate) {
-        t.Conteggio(sezione.size(), "");
+        t.Conteggio(sezione.size());
         for (const std::string &riga : sezione) t.Riga(riga);
     }
     t.Conteggio(l.TestiFinali.size(), "testi");
@@ -114,7 +113,7 @@ Testo Ingombri(const Lavoro &l) {
 
 Testo Spessori(const Lavoro &l) {
     Testo t;
-    t.Conteggio(l.Spessori.size(), "");
+    t.Conteggio(l.Spessori.size());
     int numero = 0;
     for (const SchedaSpessore &s : l.Spessori)
         t.Riga(std::to_string(++numero) + ", " + std::to_string(s.Materiale) + ", 0, " +
@@ -125,7 +124,7 @@ Testo Spessori(const Lavoro &l) {
 // Card number, shape and material, then four groups of three: sides, areas and inertias.
 Testo Sezioni(const Lavoro &l) {
     Testo t;
-    t.Conteggio(l.Sezioni.size(), "");
+    t.Conteggio(l.Sezioni.size());
     int numero = 0;
     for (const SchedaSezione &s : l.Sezioni) {
         const int lato = 20 + 5 * (++numero % 9);
@@ -138,10 +137,10 @@ Testo Sezioni(const Lavoro &l) {
 Testo ElementiContinui(const Lavoro &l) {
     constexpr std::size_t PerRiga = 15;
     Testo t;
-    t.Conteggio(l.ElementiContinui.size(), "");
+    t.Conteggio(l.ElementiContinui.size());
     for (const ElCont &e : l.ElementiContinui) {
         t.Riga(std::to_string(e.Numero) + ", " + std::to_string(e.Dato2) + ", \"" + e.Nome + '"');
-        t.Conteggio(e.Aste.size(), "");
+        t.Conteggio(e.Aste.size());
         for (std::size_t da = 0; da < e.Aste.size(); da += PerRiga) {
             std::string riga;
             for (std::size_t a = da; a < std::min(e.Aste.size(), da + PerRiga); ++a)
@@ -152,33 +151,17 @@ Testo ElementiContinui(const Lavoro &l) {
     return t;
 }
 
-Testo Ingresso(const Lavoro &l) {
-    Testo t;
-    t.Riga(l.Titolo);
-    t.Riga("");  // nothing selected
-    t.Riga("1"); // bars
-    return t;
-}
-
 // Representation options, entry 0 first: sizes in pixels or cm, ticks 1 or 0. Selected elements are
 // drawn with a pen of 5, which shows beside the outline of a shell that lies over a bar.
 Testo Opzioni() {
-    Testo t;
-    for (const char *valore :
-         {"1", "1", "1", "5", "0", "1", "2", "0", "0", "0", "20", "25", "1", "8", "1",
-          "1", "1", "1", "1", "1", "1", "1", "1", "1", "0", "1",  "0",  "0", "0", "0"})
-        t.Riga(valore);
-    return t;
+    return {"1", "1", "1", "5", "0", "1", "2", "0", "0", "0", "20", "25", "1", "8", "1",
+            "1", "1", "1", "1", "1", "1", "1", "1", "1", "0", "1",  "0",  "0", "0", "0"};
 }
 
 Testo OpzioniInterne() {
-    Testo t;
-    t.Riga("8|PC1|apertura della trappola [pixel]");
-    t.Riga("40|PC2|lunghezza degli assi [pixel]");
-    t.Riga("12|PC3|altezza delle lettere degli assi [pixel]");
-    t.Riga("0|PC4|libero, non è usato");
-    t.Riga("5|PC5|colore degli assi");
-    return t;
+    return {"8|PC1|apertura della trappola [pixel]", "40|PC2|lunghezza degli assi [pixel]",
+            "12|PC3|altezza delle lettere degli assi [pixel]", "0|PC4|libero, non è usato",
+            "5|PC5|colore degli assi"};
 }
 
 void ScriviImpostazioni(const fs::path &cartella, const std::string &codice,
@@ -187,15 +170,10 @@ void ScriviImpostazioni(const fs::path &cartella, const std::string &codice,
     std::string vista = radice.value_or(kRadicePredefinita);
     while (!vista.empty() && vista.back() == '\\') vista.pop_back();
     const std::string lavori = vista + "\\lavori";
-    Testo dirlav; // only the first value of the file counts: a comma must stand in quotes
-    dirlav.Riga(lavori.find(',') == std::string::npos ? lavori : '"' + lavori + '"');
-    if (radice)
-        dirlav.Scrivi(cartella / "dirlav");
-    else
-        dirlav.ScriviSeManca(cartella / "dirlav");
-    Testo lavoro;
-    lavoro.Riga(codice);
-    lavoro.ScriviSeManca(cartella / "lavoro");
+    // Only the first value of the file counts: a comma must stand in quotes.
+    const bool virgola = lavori.find(',') != std::string::npos;
+    Testo({virgola ? '"' + lavori + '"' : lavori}).Scrivi(cartella / "dirlav", !radice);
+    Testo({codice}).Scrivi(cartella / "lavoro", true);
 }
 
 } // namespace
@@ -207,7 +185,7 @@ void ScriviLavoro(const fs::path &cartellaLavoro, const Lavoro &lavoro) {
     Spessori(lavoro).Scrivi(cartellaLavoro / "spessori");
     Sezioni(lavoro).Scrivi(cartellaLavoro / "sezioni_");
     ElementiContinui(lavoro).Scrivi(cartellaLavoro / "el_conti.tmp");
-    Ingresso(lavoro).Scrivi(cartellaLavoro / "TelvaIn.txt");
+    Testo({lavoro.Titolo, "", "1"}).Scrivi(cartellaLavoro / "TelvaIn.txt"); // no bar is selected
 }
 
 fs::path ScriviInstallazione(const fs::path &cartella, const std::string &codice,
@@ -215,8 +193,8 @@ fs::path ScriviInstallazione(const fs::path &cartella, const std::string &codice
     ScriviImpostazioni(cartella / "impostazioni", codice, radice);
     fs::create_directories(cartella / "progra");
     fs::create_directories(cartella / "custom");
-    Opzioni().ScriviSeManca(cartella / "custom" / "TelOpzio.txt");
-    OpzioniInterne().ScriviSeManca(cartella / "custom" / "TelOpInt.txt");
+    Opzioni().Scrivi(cartella / "custom" / "TelOpzio.txt", true);
+    OpzioniInterne().Scrivi(cartella / "custom" / "TelOpInt.txt", true);
     fs::path cartellaLavoro = cartella / "lavori" / codice;
     ScriviLavoro(cartellaLavoro, lavoro);
     return cartellaLavoro;

@@ -15,45 +15,33 @@ constexpr const char *kUso =
     "Uso: genera_lavoro --cartella <cartella dell'installazione> [opzioni]\n"
     "  --lavoro <codice>     sei caratteri (predefinito dimo01)\n"
     "  --taglia <misura>     campione | decimo | terzo | piena\n"
-    "  --nomi <ordine>       misti | inversi\n"
     "  --radice <percorso>   la cartella come la vede Telva (predefinito c:\\telva)\n";
 
 using Opzioni = std::map<std::string, std::string>;
 
+const std::map<std::string, gen::Taglia> kTaglie{{"campione", gen::Taglia::Campione},
+                                                 {"decimo", gen::Taglia::Decimo},
+                                                 {"terzo", gen::Taglia::Terzo},
+                                                 {"piena", gen::Taglia::Piena}};
+
 Opzioni Leggi(const std::vector<std::string> &argomenti) {
-    Opzioni opzioni{{"--lavoro", "dimo01"},
-                    {"--taglia", "campione"},
-                    {"--nomi", "misti"},
-                    {"--radice", ""},
-                    {"--cartella", ""}};
+    Opzioni opzioni{
+        {"--lavoro", "dimo01"}, {"--taglia", "campione"}, {"--radice", ""}, {"--cartella", ""}};
     for (std::size_t a = 0; a < argomenti.size(); a += 2) {
         if (a + 1 == argomenti.size() || !opzioni.contains(argomenti[a]))
             throw std::invalid_argument("argomento sconosciuto o senza valore: " + argomenti[a]);
         opzioni[argomenti[a]] = argomenti[a + 1];
     }
     if (opzioni["--cartella"].empty()) throw std::invalid_argument("manca --cartella");
+    if (!kTaglie.contains(opzioni["--taglia"]))
+        throw std::invalid_argument("valore sconosciuto: " + opzioni["--taglia"]);
     return opzioni;
 }
 
-template <class T>
-T Scelta(const std::map<std::string, T> &nomi, const std::string &nome) {
-    const auto trovata = nomi.find(nome);
-    if (trovata == nomi.end()) throw std::invalid_argument("valore sconosciuto: " + nome);
-    return trovata->second;
-}
-
 void Esegui(const Opzioni &opzioni) {
-    gen::Parametri parametri;
-    parametri.Misura = Scelta<gen::Taglia>({{"campione", gen::Taglia::Campione},
-                                            {"decimo", gen::Taglia::Decimo},
-                                            {"terzo", gen::Taglia::Terzo},
-                                            {"piena", gen::Taglia::Piena}},
-                                           opzioni.at("--taglia"));
-    parametri.Ordine = Scelta<gen::Nomi>(
-        {{"misti", gen::Nomi::Misti}, {"inversi", gen::Nomi::Inversi}}, opzioni.at("--nomi"));
+    const gen::Lavoro lavoro = gen::Genera({.Misura = kTaglie.at(opzioni.at("--taglia"))});
     std::optional<std::string> radice;
     if (!opzioni.at("--radice").empty()) radice = opzioni.at("--radice");
-    const gen::Lavoro lavoro = gen::Genera(parametri);
     const auto cartella =
         gen::ScriviInstallazione(opzioni.at("--cartella"), opzioni.at("--lavoro"), lavoro, radice);
     std::cout << cartella.string() << ": " << lavoro.Punti.size() << " punti, "
