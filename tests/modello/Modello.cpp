@@ -12,7 +12,6 @@ constexpr double kPi = 3.14159265359;
 constexpr double kUguale = 1e-4;    // drawing units: nearer than this is the same
 constexpr double kZoomMinimo = 0.1; // drawing units
 constexpr int kCritica = 0;
-constexpr int kSinistra = 37, kSu = 38, kDestra = 39, kGiu = 40; // keys
 constexpr int kPiu = 187, kMeno = 189, kPiuCifre = 107, kMenoCifre = 109;
 constexpr int kUltimaAsta = 20000; // place in the table
 
@@ -29,7 +28,7 @@ Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro
         elementi[Nodi].push_back({.nome = n.nome,
                                   .colore = n.colore,
                                   .tipo = n.tipo,
-                                  .schede = {{Sotto::Vincolo, n.vincolo}},
+                                  .schede = {{"SchVincolo", n.vincolo}},
                                   .punti = {n.punto}});
     for (const auto &a : lavoro.aste) {
         const bool scheda = a.sezione > 0 && a.sezione <= std::ssize(lavoro.sezioni);
@@ -37,10 +36,10 @@ Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro
             {.nome = a.nome,
              .colore = a.colore,
              .tipo = a.tipo,
-             .schede = {{Sotto::Materiale, scheda ? lavoro.sezioni[a.sezione - 1] : 0},
-                        {Sotto::Sezione, a.sezione},
-                        {Sotto::Orientamento, a.orientamento},
-                        {Sotto::Svincolo, a.svincolo}},
+             .schede = {{"Materiale", scheda ? lavoro.sezioni[a.sezione - 1] : 0},
+                        {"SchSezione", a.sezione},
+                        {"SchOrientamento", a.orientamento},
+                        {"SchSvincolo", a.svincolo}},
              .punti = {punto(a.i), punto(a.j)}});
     }
     for (const auto &g : lavoro.gusci) {
@@ -50,7 +49,7 @@ Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro
         Elemento e{.nome = g.nome,
                    .colore = g.colore,
                    .tipo = g.tratto,
-                   .schede = {{Sotto::Materiale, s.materiale}, {Sotto::Spessore, g.spessore}},
+                   .schede = {{"Materiale", s.materiale}, {"SchSpessore", g.spessore}},
                    .punti = {punto(g.nodi[0]), punto(g.nodi[1]), punto(g.nodi[2])},
                    .sottile = scheda && s.valore < 1,
                    .triangolo = g.nodi[3] <= 0}; // node 0 as a corner is drawn, but not picked
@@ -82,7 +81,7 @@ void Modello::Avvio(const Ingresso &ingresso) {
     if (ingresso.lista == "0")
         Attributo("Colore", 10);
     else if (!ingresso.lista.empty())
-        Numeri(Sotto::Nome, ingresso.lista); // a list that is refused selects nothing
+        Numeri("Nome", ingresso.lista); // a list that is refused selects nothing
     funzione = Niente;
 }
 
@@ -260,21 +259,17 @@ void Modello::Rotella(int passi) {
     if (!Piccola(zoom)) Ridisegna();
 }
 
-// A tenth of the box, in whole pixels, towards what lies there; + and - as the wheel.
+// An arrow: a tenth of the box, in whole pixels, towards what lies there. + and - as the wheel.
 void Modello::Tasto(int codice) {
+    static const std::map<int, Punto> kFrecce = {
+        {37, {1, 0}}, {38, {0, 1}}, {39, {-1, 0}}, {40, {0, -1}}};
     const double dx = std::floor(largo / 10) * scala.larghezza / largo;
     const double dy = std::floor(alto / 10) * scala.altezza / alto;
-    switch (codice) {
-    case kSinistra: return Trasla(vista, dx, 0);
-    case kSu: return Trasla(vista, 0, dy);
-    case kDestra: return Trasla(vista, -dx, 0);
-    case kGiu: return Trasla(vista, 0, -dy);
-    case kPiu:
-    case kPiuCifre: return Rotella(1);
-    case kMeno:
-    case kMenoCifre: return Rotella(-1);
-    default: break; // not a key of the view
-    }
+    const auto freccia = kFrecce.find(codice);
+    if (freccia != kFrecce.end())
+        return Trasla(vista, dx * freccia->second.x, dy * freccia->second.y);
+    if (codice == kPiu || codice == kPiuCifre) Rotella(1);
+    if (codice == kMeno || codice == kMenoCifre) Rotella(-1);
 }
 
 void Modello::Ridimensiona(double larghezza, double) {

@@ -33,27 +33,14 @@ struct Scala {
     double sinistra = 0, alto = 0, larghezza = 0, altezza = 0;
 };
 
-enum class Sotto {
-    Nessuna,
-    Finestra,
-    Materiale,
-    Nome,
-    Diretta,
-    Sezione,
-    Spessore,
-    Orientamento,
-    Svincolo,
-    Vincolo
-};
-
 struct Elemento {
-    int nome = 0, colore = 1, tipo = 0; // tipo: of point, line or hatch
-    std::map<Sotto, int> schede = {};   // its cards
-    std::vector<int> punti = {};        // places of its points
-    std::vector<int> aste = {};         // a continuous element's bars, -1 where there is none
-    bool rotto = false;                 // a continuous element with a bar outside the tables
-    bool sottile = false;               // a shell that is too thin to be drawn
-    bool triangolo = false;             // a shell that is picked as one
+    int nome = 0, colore = 1, tipo = 0;     // tipo: of point, line or hatch
+    std::map<std::string, int> schede = {}; // its cards
+    std::vector<int> punti = {};            // places of its points
+    std::vector<int> aste = {};             // a continuous element's bars, -1 where there is none
+    bool rotto = false;                     // a continuous element with a bar outside the tables
+    bool sottile = false;                   // a shell that is too thin to be drawn
+    bool triangolo = false;                 // a shell that is picked as one
     bool selezionato = false, attivo = false;
 };
 
@@ -73,7 +60,7 @@ struct Modello {
     // --- what the window has to show
     int tipo = Nodi;
     Funzione funzione = Niente;
-    Sotto sotto = Sotto::Nessuna;
+    std::string sotto; // "Finestra", "Diretta", the item of a property that is asked for, or ""
     bool primoAngolo = false, spostaInCorso = false, modoZoom = false, modoSposta = false;
     bool finestraAutomatica = false, lineaSposta = false, risposta = false, coordinate = true;
     Puntatore puntatore = Puntatore::Predefinito; // on the drawing
@@ -157,14 +144,14 @@ struct Modello {
     template <class Vale, class Segno>
     void Segna(Vale vale, Segno segno);
     void Attributo(const std::string &menu, int codice);
-    void Numeri(Sotto proprieta, const std::string &elenco);
+    void Numeri(const std::string &proprieta, const std::string &elenco);
     void AzzeraInput();
     void Annulla();
     void Interrompi();
     void RimuoviTutto();
     void Inverti();
     void VoceSelezioni(const std::string &menu, int codice);
-    void ChiediProprieta(Sotto proprieta);
+    void ChiediProprieta(const std::string &proprieta);
 
     // --- the pointer
     bool Meno(double a, double b); // a < b, and not by a hair

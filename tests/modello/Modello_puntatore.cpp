@@ -137,19 +137,19 @@ void Modello::SelezionaRettangolo() {
 void Modello::RiprendiDiretta() {
     if (!finestraAutomatica) return;
     finestraAutomatica = false;
-    sotto = Sotto::Diretta;
+    sotto = "Diretta";
     puntatore = Puntatore::Predefinito;
     sottoFunAttiva = "Selezione diretta";
 }
 
 // The caption after zoom and pan.
 void Modello::Didascalia() {
-    static const std::map<Sotto, std::string> kTesti = {
-        {Sotto::Finestra, "Seleziona per finestra"},
-        {Sotto::Materiale, "Seleziona per materiale"},
-        {Sotto::Nome, "Seleziona per nome elemento"},
-        {Sotto::Diretta, "Selezione diretta"}}; // the other lists keep what is shown
-    if (sotto == Sotto::Nessuna) AzzeraInput();
+    static const std::map<std::string, std::string> kTesti = {
+        {"Finestra", "Seleziona per finestra"},
+        {"Materiale", "Seleziona per materiale"},
+        {"Nome", "Seleziona per nome elemento"},
+        {"Diretta", "Selezione diretta"}}; // the other lists keep what is shown
+    if (sotto == "") AzzeraInput();
     if (const auto t = kTesti.find(sotto); t != kTesti.end()) sottoFunAttiva = t->second;
 }
 
@@ -195,17 +195,17 @@ void Modello::Premi(double x, double y) {
     } else if (modoSposta && std::max(std::abs(x - linea0_.x), std::abs(y - linea0_.y)) > kUguale) {
         modoSposta = spostaInCorso = lineaSposta = false;
         Trasla(Zoomata() && zoom.HaArea() ? zoom : vista, x - linea0_.x, y - linea0_.y);
-        puntatore = sotto == Sotto::Finestra ? Puntatore::Croce : Puntatore::Predefinito;
+        puntatore = sotto == "Finestra" ? Puntatore::Croce : Puntatore::Predefinito;
         Didascalia();
-    } else if (!primoAngolo && (sotto == Sotto::Finestra || modoZoom)) {
+    } else if (!primoAngolo && (sotto == "Finestra" || modoZoom)) {
         primoAngolo = true;
         puntatore = Puntatore::Croce;
         angolo0_ = angolo1_ = {x, y};
-    } else if (!primoAngolo && sotto == Sotto::Diretta && funzione != Niente) {
+    } else if (!primoAngolo && sotto == "Diretta" && funzione != Niente) {
         const int nome = Scelto(x, y);
-        if (nome > 0) return Numeri(Sotto::Nome, std::to_string(nome));
+        if (nome > 0) return Numeri("Nome", std::to_string(nome));
         finestraAutomatica = true; // nothing there: the click begins a window
-        sotto = Sotto::Finestra;
+        sotto = "Finestra";
         Didascalia();
         Premi(x, y);
     } else if (primoAngolo) {
@@ -221,7 +221,7 @@ void Modello::SecondoAngolo() {
     zoom = {std::max(angolo0_.x, angolo1_.x), std::min(angolo0_.x, angolo1_.x),
             std::max(angolo0_.y, angolo1_.y), std::min(angolo0_.y, angolo1_.y)};
     modoZoom = false;
-    puntatore = sotto == Sotto::Finestra ? Puntatore::Croce : Puntatore::Predefinito;
+    puntatore = sotto == "Finestra" ? Puntatore::Croce : Puntatore::Predefinito;
     Ridisegna();
     Didascalia();
 }

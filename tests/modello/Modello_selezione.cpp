@@ -39,18 +39,16 @@ const std::vector<std::string> kColori = {"Bianco",     "Blu",     "Rosso",   "V
                                           "VerdeScuro", "Magenta", "Azzurro", "Arancione"};
 
 struct Proprieta {
-    Sotto sotto;
     const char *voce;
     const char *titolo;
 };
-const Proprieta kProprieta[] = {
-    {.sotto = Sotto::Materiale, .voce = "Materiale", .titolo = "materiale"},
-    {.sotto = Sotto::Nome, .voce = "Nome", .titolo = "nome elemento"},
-    {.sotto = Sotto::Sezione, .voce = "SchSezione", .titolo = "sezione"},
-    {.sotto = Sotto::Spessore, .voce = "SchSpessore", .titolo = "spessore"},
-    {.sotto = Sotto::Orientamento, .voce = "SchOrientamento", .titolo = "orientamento"},
-    {.sotto = Sotto::Svincolo, .voce = "SchSvincolo", .titolo = "svincolo"},
-    {.sotto = Sotto::Vincolo, .voce = "SchVincolo", .titolo = "vincolo"}};
+const Proprieta kProprieta[] = {{.voce = "Materiale", .titolo = "materiale"},
+                                {.voce = "Nome", .titolo = "nome elemento"},
+                                {.voce = "SchSezione", .titolo = "sezione"},
+                                {.voce = "SchSpessore", .titolo = "spessore"},
+                                {.voce = "SchOrientamento", .titolo = "orientamento"},
+                                {.voce = "SchSvincolo", .titolo = "svincolo"},
+                                {.voce = "SchVincolo", .titolo = "vincolo"}};
 
 const char *const kITipi[] = {"i nodi", "le aste", "i gusci", "gli elementi continui", "le pareti"};
 
@@ -163,7 +161,7 @@ std::string Modello::Evidenza() const {
 // --- functions
 
 void Modello::AzzeraInput() {
-    sotto = Sotto::Nessuna;
+    sotto = "";
     risposta = false;
     puntatore = Puntatore::Predefinito;
     sottoFunAttiva = domanda = testoRisposta = "";
@@ -183,7 +181,7 @@ void Modello::Interrompi() {
 
 void Modello::RimuoviTutto() {
     const Funzione vera = funzione;
-    const Sotto veraSotto = sotto;
+    const std::string veraSotto = sotto;
     const bool chiede = risposta; // a list: it goes on
     const std::string prompt = domanda, scritto = testoRisposta;
     funzione = Rimuovere;
@@ -220,11 +218,11 @@ void Modello::Attributo(const std::string &menu, int codice) {
     }
     tipo = vero;
     AggiornaLista();
-    sotto = Sotto::Diretta;
+    sotto = "Diretta";
 }
 
-void Modello::Numeri(Sotto proprieta, const std::string &elenco) {
-    const bool nomi = proprieta == Sotto::Nome;
+void Modello::Numeri(const std::string &proprieta, const std::string &elenco) {
+    const bool nomi = proprieta == "Nome";
     const ElencoLetto letto = LeggiElenco(elenco, nomi ? 20000 : 100);
     if (letto.fuori)
         return Dice(" Numero fuori dai limiti ammessi (da -32768 a 32767) ", "ERRORE",
@@ -242,15 +240,14 @@ void Modello::Numeri(Sotto proprieta, const std::string &elenco) {
     AggiornaLista();
 }
 
-void Modello::ChiediProprieta(Sotto proprieta) {
+void Modello::ChiediProprieta(const std::string &proprieta) {
     sotto = proprieta;
     risposta = true;
-    const std::string titolo = std::ranges::find(kProprieta, sotto, &Proprieta::sotto)->titolo;
+    const std::string titolo = std::ranges::find(kProprieta, sotto, &Proprieta::voce)->titolo;
     sottoFunAttiva = "Seleziona per " + titolo;
-    domanda =
-        "Inserire i " +
-        (proprieta == Sotto::Nome ? "nomi degli elementi" : "numeri delle schede di " + titolo) +
-        " e premere INVIO";
+    domanda = "Inserire i " +
+              (proprieta == "Nome" ? "nomi degli elementi" : "numeri delle schede di " + titolo) +
+              " e premere INVIO";
 }
 
 void Modello::Elenco(const std::string &testo) {
@@ -260,13 +257,13 @@ void Modello::Elenco(const std::string &testo) {
 }
 
 void Modello::Invio() {
-    const auto *proprieta = std::ranges::find(kProprieta, sotto, &Proprieta::sotto);
+    const auto *proprieta = std::ranges::find(kProprieta, sotto, &Proprieta::voce);
     if (proprieta == std::end(kProprieta)) return; // nothing has been asked
     if (!kAbilitate[tipo].contains(proprieta->voce))
         return Dice(std::string(" La selezione per ") + proprieta->titolo +
                         " non è possibile per " + kITipi[tipo] + " ",
                     "INFORMAZIONE", kInformazione);
-    const bool perPareti = sotto == Sotto::Materiale || sotto == Sotto::Nome;
+    const bool perPareti = sotto == "Materiale" || sotto == "Nome";
     if (tipo == Pareti && !perPareti) return; // walls have no cards: nothing happens
     if (!testoRisposta.empty()) Numeri(sotto, testoRisposta);
 }
@@ -291,9 +288,9 @@ void Modello::VoceSelezioni(const std::string &menu, int codice) {
     finestraAutomatica = false;
     const auto *proprieta = std::ranges::find(kProprieta, menu, &Proprieta::voce);
     if (proprieta != std::end(kProprieta)) {
-        ChiediProprieta(proprieta->sotto);
+        ChiediProprieta(proprieta->voce);
     } else if (menu == "Finestra") {
-        sotto = Sotto::Finestra;
+        sotto = "Finestra";
         puntatore = Puntatore::Croce;
         Didascalia();
     } else {
@@ -316,7 +313,7 @@ void Modello::Menu(const std::string &voce) {
     if (voce == "Aggiungi" || voce == "Rimuovi") {
         Interrompi();
         funzione = voce == "Aggiungi" ? Aggiungere : Rimuovere;
-        sotto = Sotto::Diretta;
+        sotto = "Diretta";
         abilitate = kAbilitate[tipo];
         Didascalia();
     }

@@ -21,6 +21,10 @@ namespace {
 
 using Passi = std::vector<PassoCasuale>;
 
+// By their codes.
+const char *const kSottoFunzioni[] = {
+    "",           "Finestra",    "Materiale",       "Nome",        "Diretta",
+    "SchSezione", "SchSpessore", "SchOrientamento", "SchSvincolo", "SchVincolo"};
 const PassoCasuale kPiccola = [](auto &chi) { chi.Ridimensiona(5550, 7120); };
 
 // What is not as the rules say, a line each.
@@ -129,7 +133,7 @@ struct SequenzeProva : Utente {
 
     void ConfrontaStato(Confronto &c, const Modello &m) const {
         c.Uguali("CodFunAttiva", +CodFunAttiva, int(m.funzione));
-        c.Uguali("CodSottoFun", +CodSottoFun, static_cast<int>(m.sotto));
+        c.Uguali("CodSottoFun", std::string(kSottoFunzioni[CodSottoFun]), m.sotto);
         c.Uguali("PrimoAngolo", PrimoAngolo != 0, m.primoAngolo);
         c.Uguali("SpostaInCorso", SpostaInCorso != 0, m.spostaInCorso);
         c.Uguali("ModoZoom", ModoZoom != 0, m.modoZoom);
@@ -190,14 +194,6 @@ struct SequenzeProva : Utente {
         return Differenze(m);
     }
 
-    std::string ConfrontaUscita(const Modello &m) {
-        const std::string &lista = m.liste[m.tipo];
-        Menu("Salva");
-        Confronto c;
-        c.Uguali("TelvaOut.txt", Uscita(), (lista.empty() ? " " : lista) + "\r\n");
-        return c.Differenze();
-    }
-
     // Plays the steps, then `nuovi` more that are drawn and added to them. What differs first, the
     // steps then cut after it; or nothing.
     std::string Gioca(const Inizio &inizio, Passi &passi, Caso *caso, int nuovi) {
@@ -223,7 +219,12 @@ struct SequenzeProva : Utente {
             ++n;
             if (!diverso.empty()) passi.erase(passi.begin() + static_cast<long>(n), passi.end());
         }
-        return diverso.empty() ? ConfrontaUscita(m) : diverso;
+        if (!diverso.empty()) return diverso;
+        Menu("Salva");
+        const std::string &lista = m.liste[m.tipo];
+        Confronto c;
+        c.Uguali("TelvaOut.txt", Uscita(), (lista.empty() ? " " : lista) + "\r\n");
+        return c.Differenze();
     }
 
     // Leaves steps out, as long as something differs.
