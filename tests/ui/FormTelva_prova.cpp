@@ -1,5 +1,10 @@
-// The main window: its smallest size, its icon, and what it asks the window system for.
+// The main window: its smallest size, its icon, its keys and boxes, and what it asks the window
+// system for.
+#include "model/opzioni_cond.h"
+#include "model/struttura.h"
 #include "sostegno/Utente.h"
+#include "startup/avvio.h"
+#include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormTelva.h"
 
 namespace telva::prove {
@@ -34,6 +39,41 @@ TEST_F(FormTelvaProva, SottoIlMinimoERidottaAIconaNienteSiDispone) {
     f.ridotta = false;
     Ridimensiona(15000, 11400);
     EXPECT_EQ(Posti(), prima);
+}
+
+TEST_F(FormTelvaProva, SoloITastiDellaVistaSonoSuoi) {
+    EXPECT_TRUE(f.KeyDown(39)); // an arrow
+    EXPECT_FALSE(f.KeyDown('A'));
+}
+
+// --- typed numbers
+
+TEST_F(FormTelvaProva, LaVirgolaEUnPunto) {
+    Intervallo(Estremo::MaxX, "99,4"); // half a unit more is still below 100
+    EXPECT_EQ(Detto(), "");
+    EXPECT_EQ(AttNodo[1], 0);
+
+    Menu("Rappresentazione");
+    FormOpt.Raggio.Text = "0,5";
+    FormOpt.Salva.Click();
+    EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 0.5);
+    Trappola("7,9");
+    EXPECT_EQ(OpzInt[1], 7);
+}
+
+TEST_F(FormTelvaProva, NumeriRifiutatiSenzaStruttura) {
+    AzzeraProgramma();
+    Cancella("lavori/prova1/STRUTTUR.STR");
+    Avvia();
+    EXPECT_EQ(Detto(), "Problema: Errore nella lettura della struttura");
+    Angolo(Asse::X, "abc");
+    EXPECT_EQ(Detto(), "ERRORE: Angolo di vista non valido: abc (usare cifre, ad esempio 22.5)");
+    EXPECT_EQ(f.Angolo[0].Text(), "30");
+    EXPECT_EQ(f.fuoco, &f.Angolo[0]) << "ready to be corrected";
+    Intervallo(Estremo::MinX, "abc");
+    EXPECT_EQ(Detto(), "ERRORE: Intervallo di coordinate non valido: abc");
+    EXPECT_EQ(f.IntX[0].Text(), "");
+    EXPECT_EQ(f.fuoco, &f.IntX[0]);
 }
 
 // --- the window system, as far as the forms ask for it

@@ -4,8 +4,10 @@
 #include "selection/selezione.h"
 #include "selection/trappola.h"
 #include "sostegno/Utente.h"
+#include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/inquadra.h"
+#include "view/proiezione.h"
 
 namespace telva::prove {
 
@@ -25,6 +27,11 @@ struct PuntatoreProva : Utente {
 
     float X(int px) const { return static_cast<float>(d.XDaPixel(px)); }
     float Y(int py) const { return static_cast<float>(d.YDaPixel(py)); }
+    // The pixel where a node is shown; its place in the table counts, from 0.
+    Pixel Visto(int nodo) const {
+        bool fuori = false;
+        return d.InPixel(XNodo(nodo), YNodo(nodo), fuori);
+    }
     // Pixels of `prima` that are not found `dx` to the right and `dy` below, where both show them.
     int Diversi(const Superficie &prima, int dx, int dy) const {
         const Superficie &ora = d.Immagine();
@@ -35,6 +42,8 @@ struct PuntatoreProva : Utente {
         return diversi;
     }
 };
+
+Pixel operator+(Pixel a, Pixel b) { return {a.x + b.x, a.y + b.y}; }
 
 // Views of the same drawing that have to agree with their pixels.
 struct PuntatoreAlPixel : PuntatoreProva, ::testing::WithParamInterface<double> {
@@ -117,6 +126,60 @@ TEST_F(PuntatoreProva, IlTrascinamentoFinisceAlRilascioOQuandoIlMouseSePerso) {
         const Superficie prima = d.Immagine();
         MuoviPremuto(X(350), Y(260));
         EXPECT_EQ(Diversi(prima, 0, 0), 0);
+    }
+}
+
+// With the button down something else changes the scale: the drag goes on from what is shown.
+TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
+    struct Caso {
+        const char *che;
+        std::function<void()> fai;
+    };
+    const Caso casi[] = {
+        {"resize", [&] { Ridimensiona(9000, 8000); }},
+        {"interval", [&] { Intervallo(Estremo::MaxX, "100"); }},
+        {"angle", [&] { Angolo(Asse::X, "30"); }},
+        {"side bar", [&] { Menu("BarraLat"); }},
+        {"tool bar", [&] { Menu("BarraIcone"); }},
+        {"wheel", [&] { Rotella(1); }},
+    };
+    for (const bool mosso : {false, true}) // before it the drag has moved the view, or not
+        for (const Caso &caso : casi) {
+            AzzeraProgramma();
+            Apri(Telaio());
+            PremiCentrale(X(200), Y(200));
+            if (mosso) MuoviPremuto(X(210), Y(205));
+            caso.fai();
+            const Pixel prima = Visto(0);
+            MuoviPremuto(X(210), Y(205));
+            EXPECT_EQ(Visto(0), prima) << caso.che << (mosso ? ", moved" : "");
+            MuoviPremuto(X(215), Y(195));
+            EXPECT_EQ(Visto(0), prima + Pixel(5, -10)) << caso.che << (mosso ? ", moved" : "");
+        }
+}
+
+TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
+    struct Caso {
+        const char *che;
+        double posto, unitaPerPixel;
+        bool singola;
+    };
+    const double quanto = 32; // between two single numbers near 5e8
+    const Caso casi[] = {
+        {"near the origin", 0.1, 0.25, true},
+        {"near the origin, tiny pixels", 0.1, 1e-9, false},
+        {"far off, pixels of kilometres", 5e8 + 7, 1000, true},
+        {"far off", 5e8 + 7, 20, false},
+        {"a 64th of a pixel", 5e8 + quanto / 4, quanto / 4 * 64, true},
+        {"more than a 64th", 5e8 + quanto / 4, quanto / 4 * 63.9, false},
+        {"no single number at all", 1e300, 1e290, false},
+    };
+    for (const Caso &caso : casi) {
+        d.Scale(0, 0, caso.unitaPerPixel * d.LarghezzaPixel(),
+                -caso.unitaPerPixel * d.AltezzaPixel());
+        const double atteso = caso.singola ? static_cast<float>(caso.posto) : caso.posto;
+        EXPECT_EQ(d.XEvento(caso.posto), atteso) << caso.che;
+        EXPECT_EQ(d.YEvento(-caso.posto), -atteso) << caso.che;
     }
 }
 
