@@ -105,7 +105,6 @@ TEST_F(ControlliProva, IDialoghi) {
         EXPECT_EQ(colore.Left - bordo.Left, 45);
         EXPECT_EQ(colore.Top - bordo.Top, 45);
         EXPECT_EQ(bordo.Width - colore.Width, 90);
-        EXPECT_EQ(bordo.Height - colore.Height, 90);
     }
 }
 
