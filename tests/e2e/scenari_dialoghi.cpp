@@ -29,6 +29,7 @@ SCENARIO(dialogo_trappola) {
                 {.testo = "3x", .valore = "3", .colBottone = true}};
     for (const auto &caso : casi) {
         s.ApriTrappola();
+        DIVENTA(s, s.HaFuoco("TextTrappola"), true);
         s.Riscrivi("TextTrappola", caso.testo);
         caso.colBottone ? s.Spazio("Command1") : s.Premi("Invio");
         if (caso.valore == "0")
@@ -51,6 +52,7 @@ SCENARIO(dialogo_opzioni) {
     Sessione s(mio);
     s.Fotografa("Disegno");
     s.ApriOpzioni();
+    DIVENTA(s, s.HaFuoco("CheckSpGus"), true);
     Salva(s, " Opzioni salvate ");
     std::vector<std::string> attese = Righe(file); // of the options as they are without a file
     UGUALE(attese.size(), 30U);
