@@ -10,7 +10,7 @@ shift 3
 solo=''
 [ "${1:-}" != --solo ] || solo=$2
 qui=$(dirname "$0")
-sensibili='barre_*,dialoghi_*,dialogo_*,didascalie_*,finestr*,mouse_*,posto_*'
+sensibili='barre_*,dialogo_*,didascalie_*,finestr*,mouse_*,posto_*'
 
 prova() { # DPI or nothing, screen, scenarios or nothing for all
     local dpi=$1 schermo=$2 scelti=${solo:-$3}
