@@ -53,7 +53,6 @@ struct Ingresso {
 struct Modello {
     enum { Nodi, Aste, Gusci, Continui, Pareti }; // kinds
     enum Funzione { Niente, Aggiungere, Rimuovere };
-    enum { Nessuno = 0, Sinistro = 1, Destro = 2, Centrale = 4 }; // buttons
 
     explicit Modello(const LavoroProva &lavoro);
 
@@ -170,7 +169,7 @@ struct Modello {
     std::array<std::string, 6> ultimi_;     // intervals that were right
     std::array<std::string, 3> validi_;     // angles that were right
     std::array<bool, 5> filtri_ = {true, true, true, true, true};
-    int ultimoTasto_ = Nessuno;
+    bool ultimoCentrale_ = false; // of the buttons that were pressed
     int richiesto_ = Nodi;        // kind that the caller asks for
     Punto angolo0_{}, angolo1_{}; // rectangle
     Punto linea0_{};              // where a pan or a drag began

@@ -173,18 +173,18 @@ void Modello::Muovi(double x, double y) {
 void Modello::Clic(double x, double y) {
     const Punto pixel = AlPixel(x, y);
     salta = !InVista(x, y) || x != pixel.x || y != pixel.y;
-    ultimoTasto_ = Sinistro;
+    ultimoCentrale_ = false;
     Muovi(x, y);
     Premi(x, y);
 }
 
 void Modello::ClicDestro(double x, double y) {
     salta = !InVista(x, y);
-    ultimoTasto_ = Destro;
+    ultimoCentrale_ = false;
 }
 
 void Modello::DoppioClic() {
-    if (ultimoTasto_ == Centrale) Ottimizza();
+    if (ultimoCentrale_) Ottimizza();
 }
 
 void Modello::Premi(double x, double y) {
@@ -227,7 +227,7 @@ void Modello::SecondoAngolo() {
 }
 
 void Modello::Trascina(const std::vector<Pixel> &pixel) {
-    ultimoTasto_ = Centrale;
+    ultimoCentrale_ = true;
     lineaSposta = spostaInCorso;
     const auto [px, py] = pixel[0];
     linea0_ = {scala.sinistra + px * scala.larghezza / largo,

@@ -38,6 +38,18 @@ const Attributi kAttributi[] = {
 const std::vector<std::string> kColori = {"Bianco",     "Blu",     "Rosso",   "Verde",    "Giallo",
                                           "VerdeScuro", "Magenta", "Azzurro", "Arancione"};
 
+// How the kinds are spoken of.
+struct Parole {
+    std::string articolo, uno, molti;
+    bool Femminile() const { return articolo == "le"; }
+};
+const Parole kParole[] = {
+    {.articolo = "i", .uno = "nodo", .molti = "nodi"},
+    {.articolo = "le", .uno = "asta", .molti = "aste"},
+    {.articolo = "i", .uno = "guscio", .molti = "gusci"},
+    {.articolo = "gli", .uno = "elemento continuo", .molti = "elementi continui"},
+    {.articolo = "le", .uno = "parete", .molti = "pareti"}};
+
 struct Proprieta {
     const char *voce;
     const char *titolo;
@@ -49,8 +61,6 @@ const Proprieta kProprieta[] = {{.voce = "Materiale", .titolo = "materiale"},
                                 {.voce = "SchOrientamento", .titolo = "orientamento"},
                                 {.voce = "SchSvincolo", .titolo = "svincolo"},
                                 {.voce = "SchVincolo", .titolo = "vincolo"}};
-
-const char *const kITipi[] = {"i nodi", "le aste", "i gusci", "gli elementi continui", "le pareti"};
 
 // Numbers of a list; what is wrong with it is said in `troppi` and `fuori`.
 struct ElencoLetto {
@@ -114,17 +124,6 @@ void Modello::AggiornaLista() {
 
 // --- the line of state
 
-struct Parole {
-    std::string uno, molti;
-    bool femminile;
-};
-const Parole kParole[] = {
-    {.uno = "nodo", .molti = "nodi", .femminile = false},
-    {.uno = "asta", .molti = "aste", .femminile = true},
-    {.uno = "guscio", .molti = "gusci", .femminile = false},
-    {.uno = "elemento continuo", .molti = "elementi continui", .femminile = false},
-    {.uno = "parete", .molti = "pareti", .femminile = true}};
-
 std::string Modello::Adesso() const {
     const int segnati = tipo == Pareti ? Gusci : tipo;
     int selezionati = 0, nascosti = 0;
@@ -133,7 +132,8 @@ std::string Modello::Adesso() const {
         ++selezionati;
         if (!Disegnato(e)) ++nascosti;
     }
-    const auto &[uno, molti, femminile] = kParole[segnati];
+    const auto &[articolo, uno, molti] = kParole[segnati];
+    const bool femminile = kParole[segnati].Femminile();
     const std::string singolare = femminile ? "a" : "o", plurale = femminile ? "e" : "i";
     std::string testo = std::to_string(selezionati) + " " + molti + " selezionat" + plurale;
     if (selezionati == 1) testo = "1 " + uno + " selezionat" + singolare;
@@ -153,9 +153,9 @@ std::string Modello::Evidenza() const {
     for (const int t : {Nodi, Aste, Gusci})
         if (std::ranges::any_of(elementi[t], disegnato)) testo = "";
     if (richiesto_ == tipo) return testo;
-    const auto &[uno, molti, femminile] = kParole[richiesto_];
-    return testo + (testo.empty() ? "" : "; ") + (femminile ? "richieste: " : "richiesti: ") +
-           molti;
+    const Parole &parole = kParole[richiesto_];
+    const std::string accordo = parole.Femminile() ? "richieste: " : "richiesti: ";
+    return testo + (testo.empty() ? "" : "; ") + accordo + parole.molti;
 }
 
 // --- functions
@@ -261,7 +261,8 @@ void Modello::Invio() {
     if (proprieta == std::end(kProprieta)) return; // nothing has been asked
     if (!kAbilitate[tipo].contains(proprieta->voce))
         return Dice(std::string(" La selezione per ") + proprieta->titolo +
-                        " non è possibile per " + kITipi[tipo] + " ",
+                        " non è possibile per " + kParole[tipo].articolo + " " +
+                        kParole[tipo].molti + " ",
                     "INFORMAZIONE", kInformazione);
     const bool perPareti = sotto == "Materiale" || sotto == "Nome";
     if (tipo == Pareti && !perPareti) return; // walls have no cards: nothing happens

@@ -16,9 +16,7 @@ struct FormTelvaProva : Utente {
     std::string Posti() const {
         std::string posti;
         for (const Controllo *c : f.controlli)
-            posti +=
-                Scritto(c->NomeControllo().c_str(), c->Left(), c->Top(), c->Width(), c->Height()) +
-                "\n";
+            posti += Scritto(c->NomeControllo().c_str(), +c->Left, +c->Top, +c->Width, +c->Height);
         return posti;
     }
 };

@@ -168,11 +168,9 @@ TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
     const Caso casi[] = {
         {"near the origin", 0.1, 0.25, true},
         {"near the origin, tiny pixels", 0.1, 1e-9, false},
-        {"far off, pixels of kilometres", 5e8 + 7, 1000, true},
         {"far off", 5e8 + 7, 20, false},
         {"a 64th of a pixel", 5e8 + quanto / 4, quanto / 4 * 64, true},
         {"more than a 64th", 5e8 + quanto / 4, quanto / 4 * 63.9, false},
-        {"no single number at all", 1e300, 1e290, false},
     };
     for (const Caso &caso : casi) {
         d.Scale(0, 0, caso.unitaPerPixel * d.LarghezzaPixel(),

@@ -21,24 +21,17 @@ struct StatoProva : Utente {
         ScriviIngresso("Titolo", "", tipoRichiesto);
         Apri(Telaio());
     }
-    void Distrai() { // by a key, a menu, another window
-        Passo("Distrai()", [this] { f.Distratta(); });
-    }
-    void Esci() { // the pointer, from the drawing
-        Passo("Esci()", [this] { d.MouseLeave(); });
-    }
     std::string Poi() { return ComponiStato().poi; }
-    std::string Evidenza() { return ComponiStato().evidenza; }
 };
 
 TEST_F(StatoProva, SenzaUnaRichiestaNonSiNeDiceNulla) {
     ApriCon(7); // no kind
     Tipo(kGusciTipo);
-    EXPECT_EQ(Evidenza(), "");
+    EXPECT_EQ(ComponiStato().evidenza, "");
     Cancella("lavori/prova1/TelvaIn.txt");
     Apri(Telaio());
     Tipo(kGusciTipo);
-    EXPECT_EQ(Evidenza(), "");
+    EXPECT_EQ(ComponiStato().evidenza, "");
 }
 
 TEST_F(StatoProva, CheCosaSiPuoScrivere) {
@@ -118,11 +111,11 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
     Muovi(50, 0);
     const Sagoma::Linea asta{0, 0, 100, 0};
     EXPECT_EQ(d.Anteprima().linee.at(0), asta);
-    Distrai();
+    Passo("Distratta()", f.Distratta);
     EXPECT_EQ(Poi(), "") << "a key has the word";
     EXPECT_TRUE(d.Anteprima().Vuota());
     Muovi(0, 0);
-    Esci();
+    Passo("MouseLeave()", d.MouseLeave);
     EXPECT_EQ(Poi(), "") << "the pointer has left";
     EXPECT_EQ(f.LabCoord.Caption(), "") << "and its coordinates with it";
     Menu("Finestra");
