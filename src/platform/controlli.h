@@ -216,12 +216,27 @@ class Campione : public Controllo {
     std::function<void()> Click;
 };
 
+// What the picture beside a menu item shows: a colour, a kind of line or a hatch, by its code.
+struct FiguraVoce {
+    enum class Genere { Nessuna, Colore, Tratto, Retino };
+    Genere genere = Genere::Nessuna;
+    int codice = 0;
+    friend bool operator==(const FiguraVoce &, const FiguraVoce &) = default;
+};
+
+// Pixels 0xAARRGGBB (premultiplied), row by row from the top.
+struct Figura {
+    int larghezza = 0, altezza = 0;
+    std::vector<std::uint32_t> pixel;
+};
+
 class VoceMenu : public Controllo {
   public:
     VoceMenu(Modulo *f, std::string nome);
     Proprieta<std::string> Caption;
     Proprieta<bool> Checked;
     char scorciatoia = 0; // Ctrl + this letter; 0 = none
+    FiguraVoce figura;
     std::function<void()> Click;
     std::vector<VoceMenu *> voci; // of a submenu
 };
@@ -280,6 +295,8 @@ class Modulo : public Controllo {
     std::vector<Controllo *> controlli; // in the order of declaration, which is the tab order
     std::vector<VoceMenu *> barraMenu;  // top level
     std::vector<VoceMenu *> voci;       // every item
+    // The picture of a menu item for a check mark of this height, at this scale (1 at 100 %).
+    std::function<Figura(const FiguraVoce &, int altezza, double quanto)> FiguraMenu;
     Controllo *fuoco = nullptr;
     Pulsante *predefinito = nullptr; // what Enter presses where it has no other use
 

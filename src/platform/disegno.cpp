@@ -132,15 +132,7 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
 }
 
 void RiquadroDisegno::Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
-    const std::uint32_t rgb = APixelRGB(colore);
-    if (DrawWidth > 1 && t.periodo > 1)
-        superficie_.LineaLargaTratteggiata(a, b, DrawWidth, rgb, t);
-    else if (DrawWidth > 1)
-        superficie_.LineaLarga(a, b, DrawWidth, rgb);
-    else if (t.periodo > 1)
-        superficie_.LineaTratteggiata(a, b, rgb, t);
-    else
-        superficie_.Linea(a, b, rgb);
+    superficie_.Traccia(a, b, DrawWidth, APixelRGB(colore), t);
 }
 
 void RiquadroDisegno::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {

@@ -206,8 +206,7 @@ void Superficie::LineeTratti(const Tratti &t, double x, double y, std::uint32_t 
     Pixel da{};
     for (const Tratti::Punto &punto : t.punti) {
         const Pixel a{InteroVicino(x + punto.x), InteroVicino(y + punto.y)};
-        if (!punto.inizio && penna > 1) LineaLarga(da, a, penna, colore);
-        if (!punto.inizio && penna <= 1) Linea(da, a, colore);
+        if (!punto.inizio) Traccia(da, a, penna, colore);
         da = a;
     }
 }
@@ -455,6 +454,18 @@ void Superficie::LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::ui
             if (x >= inizio && ++f == t.periodo) f = 0;
         }
     });
+}
+
+void Superficie::Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                         const Tratteggio &t) {
+    if (larghezza > 1 && t.periodo > 1)
+        LineaLargaTratteggiata(a, b, larghezza, colore, t);
+    else if (larghezza > 1)
+        LineaLarga(a, b, larghezza, colore);
+    else if (t.periodo > 1)
+        LineaTratteggiata(a, b, colore, t);
+    else
+        Linea(a, b, colore);
 }
 
 } // namespace telva

@@ -87,6 +87,9 @@ class Superficie {
     // The same with gaps: of its pixels those beside a lit one of the pattern.
     void LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
                                 const Tratteggio &tratteggio);
+    // Any pen and pattern: one of the four lines above.
+    void Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                 const Tratteggio &tratteggio = {});
     // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
     void Cerchio(Pixel centro, int raggio, int larghezza, std::uint32_t colore);
 

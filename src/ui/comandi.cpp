@@ -6,6 +6,7 @@
 #include "ui/Disegno_gestori.h"
 #include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
+#include "ui/figure_menu.h"
 #include "ui/gesto.h"
 #include "ui/icone.h"
 #include "ui/vista_gestori.h"
@@ -40,9 +41,28 @@ void Scheda() {
     IniziaProprieta(Codice);
 }
 
+// Items that pass a code and show what it stands for.
+constexpr Comando ConFigura(VoceMenu &voce, const char *didascalia, void (*gestore)(),
+                            FiguraVoce figura) {
+    return {&voce, 2, didascalia, 0, gestore, nullptr, nullptr, false, figura};
+}
+template <std::int16_t Codice>
+constexpr Comando VoceColore(VoceMenu &voce) {
+    return ConFigura(voce, kTinte[Codice].nome, Colore<Codice>,
+                     {FiguraVoce::Genere::Colore, Codice});
+}
+template <std::int16_t Codice>
+constexpr Comando VoceLinea(VoceMenu &voce, const char *didascalia) {
+    return ConFigura(voce, didascalia, Linea<Codice>, {FiguraVoce::Genere::Tratto, Codice});
+}
+template <std::int16_t Codice>
+constexpr Comando VoceTratto(VoceMenu &voce, const char *didascalia) {
+    return ConFigura(voce, didascalia, Tratto<Codice>, {FiguraVoce::Genere::Retino, Codice});
+}
+
 ModuloTelva &f = FormTelva;
 
-const Comando kComandi[] = {
+constinit const Comando kComandi[] = {
     {&f.File, 0, "&File"},
     {&f.Salva, 1, "&Aggiorna ed Esci", 'G', Salva_Click, "AggiornaEsci", "Aggiorna ed esci"},
     {&f.Esci, 1, "&Esci", 'E', Esci_Click, "Esci", "Esci"},
@@ -60,15 +80,15 @@ const Comando kComandi[] = {
     {&f.Selezioni, 0, "&Selezioni"},
     {&f.Finestra, 1, "&Finestra", 0, Finestra_Click},
     {&f.Colore, 1, "&Colore"},
-    {&f.Bianco, 2, kTinte[kBianco].nome, 0, Colore<kBianco>},
-    {&f.Blu, 2, kTinte[kBlu].nome, 0, Colore<kBlu>},
-    {&f.Rosso, 2, kTinte[kRosso].nome, 0, Colore<kRosso>},
-    {&f.Verde, 2, kTinte[kVerde].nome, 0, Colore<kVerde>},
-    {&f.Giallo, 2, kTinte[kGiallo].nome, 0, Colore<kGiallo>},
-    {&f.VerdeScuro, 2, kTinte[kVerdeScuro].nome, 0, Colore<kVerdeScuro>},
-    {&f.Magenta, 2, kTinte[kMagenta].nome, 0, Colore<kMagenta>},
-    {&f.Azzurro, 2, kTinte[kAzzurro].nome, 0, Colore<kAzzurro>},
-    {&f.Arancione, 2, kTinte[kArancione].nome, 0, Colore<kArancione>},
+    VoceColore<kBianco>(f.Bianco),
+    VoceColore<kBlu>(f.Blu),
+    VoceColore<kRosso>(f.Rosso),
+    VoceColore<kVerde>(f.Verde),
+    VoceColore<kGiallo>(f.Giallo),
+    VoceColore<kVerdeScuro>(f.VerdeScuro),
+    VoceColore<kMagenta>(f.Magenta),
+    VoceColore<kAzzurro>(f.Azzurro),
+    VoceColore<kArancione>(f.Arancione),
     {&f.TuttiCol, 2, "Tutti", 0, Colore<kOgniColore>},
     {&f.TipoPunto, 1, "Tipo &punto"},
     {&f.TipoPt1, 2, "1", 0, Punto<0>},
@@ -77,21 +97,21 @@ const Comando kComandi[] = {
     {&f.TipoPt4, 2, "4", 0, Punto<3>},
     {&f.TuttiPt, 2, "Tutti", 0, Punto<kOgniPunto>},
     {&f.TipoLinea, 1, "Tipo &linea"},
-    {&f.TipoLn1, 2, "1", 0, Linea<0>},
-    {&f.TipoLn2, 2, "2", 0, Linea<1>},
-    {&f.TipoLn3, 2, "3", 0, Linea<2>},
-    {&f.TipoLn4, 2, "4", 0, Linea<3>},
-    {&f.TipoLn5, 2, "5", 0, Linea<4>},
+    VoceLinea<0>(f.TipoLn1, "1"),
+    VoceLinea<1>(f.TipoLn2, "2"),
+    VoceLinea<2>(f.TipoLn3, "3"),
+    VoceLinea<3>(f.TipoLn4, "4"),
+    VoceLinea<4>(f.TipoLn5, "5"),
     {&f.TuttiLn, 2, "Tutti", 0, Linea<kOgniLinea>},
     {&f.TipoTratt, 1, "Tipo &tratteggio"},
-    {&f.TipoTr1, 2, "1", 0, Tratto<1>},
-    {&f.TipoTr2, 2, "2", 0, Tratto<2>},
-    {&f.TipoTr3, 2, "3", 0, Tratto<3>},
-    {&f.TipoTr4, 2, "4", 0, Tratto<4>},
-    {&f.TipoTr5, 2, "5", 0, Tratto<5>},
-    {&f.TipoTr6, 2, "6", 0, Tratto<6>},
-    {&f.TipoTr7, 2, "7", 0, Tratto<7>},
-    {&f.TipoTr8, 2, "8", 0, Tratto<8>},
+    VoceTratto<1>(f.TipoTr1, "1"),
+    VoceTratto<2>(f.TipoTr2, "2"),
+    VoceTratto<3>(f.TipoTr3, "3"),
+    VoceTratto<4>(f.TipoTr4, "4"),
+    VoceTratto<5>(f.TipoTr5, "5"),
+    VoceTratto<6>(f.TipoTr6, "6"),
+    VoceTratto<7>(f.TipoTr7, "7"),
+    VoceTratto<8>(f.TipoTr8, "8"),
     {&f.TuttiTr, 2, "Tutti", 0, Tratto<kOgniTratto>},
     {&f.Materiale, 1, "&Materiale", 0, Scheda<kMateriale>},
     {&f.SchSezione, 1, "Sezione", 0, Scheda<kSezione>},
@@ -124,6 +144,7 @@ void CostruisciComandi() {
         c.voce->Enabled = true;
         c.voce->Checked = false;
         c.voce->scorciatoia = c.scorciatoia;
+        c.voce->figura = c.figura;
         if (c.gestore) c.voce->Click = c.gestore;
         c.voce->voci.clear();
         capo[c.livello] = c.voce;
@@ -139,6 +160,7 @@ void CostruisciComandi() {
     f.Interrompi.Enabled = false;
     f.Toolbar1.ButtonClick = EseguiChiave;
     f.Toolbar1.Icona = DisegnaIcona;
+    f.FiguraMenu = DisegnaFigura;
 }
 
 void EseguiChiave(const std::string &chiave) {

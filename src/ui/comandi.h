@@ -17,6 +17,7 @@ struct Comando {
     const char *chiave = nullptr; // of its tool-bar button
     const char *suggerimento = nullptr;
     bool nuovoGruppo = false; // a gap stands before the button
+    FiguraVoce figura = {};   // shows what the item means
 };
 
 // In the order of the menu tree, which is also that of the tool bar.

@@ -19,9 +19,14 @@ struct Fascio {
     int a, b, passo, punti = 0;
     int penna = 1, punto = 2; // width of a line; length of a dot
 
-    Fascio Ingrandito(double quanto) const {
+    Fascio Ingrandito(double quanto, int pennaVoluta) const {
         const auto pixel = [=](int n) { return std::max(InteroVicino(n * quanto), 1); };
-        return {a, b, pixel(passo), punti == 0 ? 0 : pixel(punti), pixel(penna), pixel(punto)};
+        return {a,
+                b,
+                pixel(passo),
+                punti == 0 ? 0 : pixel(punti),
+                pennaVoluta,
+                std::max(pixel(punto), pennaVoluta)};
     }
 };
 
@@ -77,9 +82,7 @@ std::size_t Incontri(const Poligono &p, const Fascio &f, int c, std::array<doubl
 
 // The pixels da..a of the line a*x + b*y = c, along x or, for upright lines, along y.
 void DisegnaTratto(Superficie &s, const Fascio &f, int c, int da, int a, std::uint32_t rgb) {
-    const auto linea = [&](Pixel p, Pixel q) {
-        f.penna > 1 ? s.LineaLarga(p, q, f.penna, rgb) : s.Linea(p, q, rgb);
-    };
+    const auto linea = [&](Pixel p, Pixel q) { s.Traccia(p, q, f.penna, rgb); };
     if (f.b == 0) return linea({c, da}, {c, a});
     const auto y = [&](int x) { return (c - f.a * x) * f.b; }; // b is 1 or -1
     if (f.punti == 0) return linea({da, y(da)}, {a, y(a)});
@@ -117,14 +120,14 @@ void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rg
 } // namespace
 
 void RiempiRetino(Superficie &s, std::span<const Pixel> angoli, int tipo, std::uint32_t rgb,
-                  double quanto) {
+                  double quanto, int penna) {
     if (!HaRetino(tipo)) return;
     Poligono p;
     p.numero = std::min(angoli.size(), p.vertici.size());
     std::copy_n(angoli.begin(), p.numero, p.vertici.begin());
     const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
     for (int k = 0; k < retino.numero; ++k)
-        DisegnaFascio(s, p, retino.fasci[k].Ingrandito(quanto), rgb);
+        DisegnaFascio(s, p, retino.fasci[k].Ingrandito(quanto, penna), rgb);
 }
 
 void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
@@ -145,7 +148,8 @@ void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
     if (std::min(maxX - minX, maxY - minY) < d.PixelOpzione(kLatoMinimo) || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
-    RiempiRetino(s, std::span(angoli).first(quanti), tipo, APixelRGB(colore), d.PixelOpzione(1));
+    RiempiRetino(s, std::span(angoli).first(quanti), tipo, APixelRGB(colore), d.PixelOpzione(1),
+                 d.PennaOpzione(1));
 }
 
 } // namespace telva

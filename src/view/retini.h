@@ -13,8 +13,8 @@ namespace telva {
 void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti);
 
 // The same hatch in a polygon of three or four corners, within +-2^28, of any size; `rgb` is a
-// surface's pixel, `quanto` the scale: 1 at 100 %.
+// surface's pixel, `quanto` the scale of the spacing (1 at 100 %), `penna` the lines' width.
 void RiempiRetino(Superficie &s, std::span<const Pixel> angoli, int tipo, std::uint32_t rgb,
-                  double quanto);
+                  double quanto, int penna);
 
 } // namespace telva

@@ -23,16 +23,10 @@ std::uint32_t Leggibile(std::uint32_t pixel, bool barraScura) {
     return (pixel & 0xFF000000) | ((pixel >> 1 & 0x7F7F7F) + 0x808080);
 }
 
-HBITMAP Immagine(const std::vector<std::uint32_t> &pixel, int lato) {
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), lato, -lato, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void *bit = nullptr;
-    const HBITMAP bitmap = Richiesto(
-        CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bit, nullptr, 0), "CreateDIBSection");
-    auto *dove = static_cast<std::uint32_t *>(bit);
+HBITMAP Immagine(std::vector<std::uint32_t> pixel, int lato) {
     const bool barraScura = FacciaScura();
-    for (std::uint32_t p : pixel) *dove++ = Leggibile(SenzaPremoltiplicare(p), barraScura);
-    return bitmap;
+    for (std::uint32_t &p : pixel) p = Leggibile(SenzaPremoltiplicare(p), barraScura);
+    return CreaBitmap(pixel, lato, lato);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "platform/guasto.h"
 
+#include <algorithm>
+
 namespace telva {
 
 std::wstring ALargo(std::string_view utf8) {
@@ -66,6 +68,16 @@ int Luce(std::uint32_t rgb) {
 }
 
 bool FacciaScura() { return Luce(GetSysColor(COLOR_BTNFACE)) < 128; }
+
+HBITMAP CreaBitmap(const std::vector<std::uint32_t> &pixel, int larghezza, int altezza) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), larghezza, -altezza, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void *bit = nullptr;
+    const HBITMAP bitmap = Richiesto(
+        CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bit, nullptr, 0), "CreateDIBSection");
+    std::copy(pixel.begin(), pixel.end(), static_cast<std::uint32_t *>(bit));
+    return bitmap;
+}
 
 void AssegnaNome(HWND finestra, const std::string &nome) {
     const ATOM atomo = GlobalAddAtomW(ALargo(nome).c_str());

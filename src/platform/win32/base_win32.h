@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace telva {
 
@@ -57,6 +58,9 @@ void CambiaStile(HWND finestra, LONG_PTR stile, bool acceso);
 int Luce(std::uint32_t rgb);
 // Whether the window's face is dark, as high-contrast colours have it.
 bool FacciaScura();
+
+// A bitmap of these pixels (0xAARRGGBB), row by row from the top; the caller deletes it.
+HBITMAP CreaBitmap(const std::vector<std::uint32_t> &pixel, int larghezza, int altezza);
 
 // A control's name, on its native window, for tools that look at the program from outside.
 void AssegnaNome(HWND finestra, const std::string &nome);

@@ -172,6 +172,7 @@ void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     const FontWin32 prima =
         std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
     suggerimenti_.ImpostaFont(font_[Carattere::Normale]);
+    if (menu_) menu_->DpiCambiato();
     for (const auto &p : controlli_) {
         p->AggiornaFont(true);
         p->DpiCambiato();

@@ -1,6 +1,9 @@
 #include "platform/win32/menu_win32.h"
 
+#include "platform/win32/schermo_win32.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace telva {
 namespace {
@@ -49,6 +52,8 @@ MenuWin32::MenuWin32(Modulo &modulo, OspiteWin32 &finestra) : modulo_(modulo), f
 
 MenuWin32::~MenuWin32() {
     for (VoceMenu *voce : modulo_.voci) voce->pari = nullptr;
+    for (const auto &[voce, posto] : posti_)
+        if (posto.figura) DeleteObject(posto.figura);
     if (scorciatoie_) DestroyAcceleratorTable(scorciatoie_);
 }
 
@@ -58,7 +63,7 @@ HMENU MenuWin32::Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu) {
         HMENU figlio = nullptr;
         if (!voce->voci.empty())
             figlio = Costruisci(voce->voci, Richiesto(CreatePopupMenu(), "CreatePopupMenu"));
-        Inserisci(*voce, {menu, posizione++, figlio});
+        Inserisci(*voce, {menu, posizione++, figlio, Figura(*voce)});
     }
     return menu;
 }
@@ -72,8 +77,31 @@ void MenuWin32::Inserisci(const VoceMenu &voce, const Posto &posto) {
         info.fMask |= MIIM_SUBMENU;
         info.hSubMenu = posto.figlio;
     }
+    if (posto.figura) {
+        info.fMask |= MIIM_BITMAP;
+        info.hbmpItem = posto.figura;
+    }
     Richiesto(InsertMenuItemW(posto.menu, posto.posizione, TRUE, &info), "InsertMenuItem");
     posti_[&voce] = posto;
+}
+
+HBITMAP MenuWin32::Figura(const VoceMenu &voce) const {
+    if (voce.figura.genere == FiguraVoce::Genere::Nessuna || !modulo_.FiguraMenu) return nullptr;
+    const UINT dpi = DpiDi(finestra_.Maniglia());
+    const telva::Figura f = modulo_.FiguraMenu(voce.figura, AltezzaSpuntaMenu(dpi), dpi / 96.0);
+    return CreaBitmap(f.pixel, f.larghezza, f.altezza);
+}
+
+void MenuWin32::DpiCambiato() {
+    for (auto &[voce, posto] : posti_) {
+        if (!posto.figura) continue;
+        MENUITEMINFOW info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_BITMAP;
+        info.hbmpItem = Figura(*voce);
+        SetMenuItemInfoW(posto.menu, posto.posizione, TRUE, &info);
+        DeleteObject(std::exchange(posto.figura, info.hbmpItem));
+    }
 }
 
 VoceMenu *MenuWin32::Voce(WORD id) const {

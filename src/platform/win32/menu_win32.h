@@ -21,18 +21,23 @@ class MenuWin32 : public Pari {
     void Popup(const VoceMenu &menu) const;
     // Answer to WM_MENUCHAR: items without a letter of their own hear to their first one.
     LRESULT Lettera(HMENU menu, wchar_t lettera) const;
+    // Makes the items' pictures again, at the window's present DPI.
+    void DpiCambiato();
 
   private:
     struct Posto {
         HMENU menu = nullptr;
         UINT posizione = 0;
         HMENU figlio = nullptr;
+        HBITMAP figura = nullptr;
     };
     // Item of a number, or nullptr.
     VoceMenu *Voce(WORD id) const;
     void Aggiorna(const VoceMenu &voce) const;
     HMENU Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu);
     void Inserisci(const VoceMenu &voce, const Posto &posto);
+    // The picture of an item as the window's DPI asks for it; none: nullptr.
+    HBITMAP Figura(const VoceMenu &voce) const;
 
     Modulo &modulo_;
     OspiteWin32 &finestra_;

@@ -31,6 +31,14 @@ UINT DpiDi(HWND finestra) {
     return dpi > 0 ? dpi : DpiDiSistema();
 }
 
+int AltezzaSpuntaMenu(UINT dpi) {
+    using Funzione = int(WINAPI *)(int, UINT);
+    static const auto perDpi = Cerca<Funzione>(L"user32.dll", "GetSystemMetricsForDpi");
+    if (const int altezza = perDpi ? perDpi(SM_CYMENUCHECK, dpi) : 0; altezza > 0) return altezza;
+    return MulDiv(GetSystemMetrics(SM_CYMENUCHECK), static_cast<int>(dpi),
+                  static_cast<int>(DpiDiSistema()));
+}
+
 SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi) {
     using Funzione = BOOL(WINAPI *)(RECT *, DWORD, BOOL, DWORD, UINT);
     static const auto perDpi = Cerca<Funzione>(L"user32.dll", "AdjustWindowRectExForDpi");

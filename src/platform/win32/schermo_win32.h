@@ -8,6 +8,8 @@ namespace telva {
 
 // DPI of the monitor a window stands on; of the system before there is a window.
 UINT DpiDi(HWND finestra);
+// Height of a check mark in the menus of such a window, in pixels.
+int AltezzaSpuntaMenu(UINT dpi);
 // Outer size of a window with this inner size.
 SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi);
 // Rectangle of a top-level window as it is seen, without the invisible part of its frame.
