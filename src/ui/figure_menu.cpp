@@ -2,6 +2,7 @@
 
 #include "platform/disegno.h"
 #include "platform/interi.h"
+#include "selection/attributi_sel.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 #include "view/retini.h"
@@ -17,8 +18,9 @@ using Genere = FiguraVoce::Genere;
 
 constexpr std::uint32_t kOpaco = 0xFF000000;
 constexpr std::uint32_t kBordo = 0x808080; // is seen on light menus and on dark ones
-constexpr int kLarghezze = 3;              // of a piece of line, in heights: its pattern repeats
-constexpr double kStretto = 0.4;           // hatches are closer here: some lines of each are seen
+constexpr std::uint32_t kSegno = APixelRGB(ColoreRGB(kBianco));
+constexpr int kLarghezze = 3;    // of a piece of line, in heights: its pattern repeats
+constexpr double kStretto = 0.4; // hatches are closer here: some lines of each are seen
 
 void Incornicia(Superficie &s, int spessore) {
     const int destra = s.Larghezza() - 1, fondo = s.Altezza() - 1;
@@ -30,26 +32,42 @@ void Incornicia(Superficie &s, int spessore) {
     }
 }
 
+// One line type in the middle, or all of them, one below the other.
+void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
+    const bool tutte = codice == kOgniLinea;
+    const int prima = tutte ? 0 : codice, dopo = tutte ? kOgniLinea : codice + 1;
+    for (int k = prima; k < dopo; ++k) {
+        const int y = (2 * (k - prima) + 1) * s.Altezza() / (2 * (dopo - prima));
+        s.Traccia({2 * penna, y}, {s.Larghezza() - 1 - 2 * penna, y}, penna, kSegno,
+                  TrattoLinea(k, quanto));
+    }
+}
+
+// One hatch, or some of them side by side.
+void DisegnaRetini(Superficie &s, int codice, double quanto, int penna) {
+    const bool tutti = codice == kOgniTratto;
+    const int prima = tutti ? 1 : codice, quanti = tutti ? 4 : 1;
+    for (int k = 0; k < quanti; ++k) {
+        const int da = k * s.Larghezza() / quanti, a = (k + 1) * s.Larghezza() / quanti;
+        const std::array<Pixel, 4> angoli = {
+            {{da, 0}, {a, 0}, {a, s.Altezza()}, {da, s.Altezza()}}};
+        RiempiRetino(s, angoli, prima + k, kSegno, kStretto * quanto, penna);
+    }
+}
+
 } // namespace
 
 // Opaque, ground and all: nothing of it depends on the colour of the menu or of the chosen item.
 Figura DisegnaFigura(const FiguraVoce &voce, int altezza, double quanto) {
     if (voce.genere == Genere::Nessuna) return {};
-    const int larghezza = voce.genere == Genere::Colore ? altezza : kLarghezze * altezza;
-    const int penna = std::max(InteroVicino(quanto), 1), mezzo = altezza / 2;
-    const std::uint32_t segno = APixelRGB(ColoreRGB(kBianco));
+    const bool colore = voce.genere == Genere::Colore;
+    const int larghezza = colore ? altezza : kLarghezze * altezza;
+    const int penna = std::max(InteroVicino(quanto), 1);
     Superficie s;
     s.Ridimensiona(larghezza, altezza);
-    s.Riempi(APixelRGB(voce.genere == Genere::Colore ? ColoreRGB(voce.codice)
-                                                     : FormTelva.Disegno.BackColor));
-    if (voce.genere == Genere::Retino) {
-        const std::array<Pixel, 4> angoli = {
-            {{0, 0}, {larghezza, 0}, {larghezza, altezza}, {0, altezza}}};
-        RiempiRetino(s, angoli, voce.codice, segno, kStretto * quanto, penna);
-    }
-    if (voce.genere == Genere::Tratto)
-        s.Traccia({2 * penna, mezzo}, {larghezza - 1 - 2 * penna, mezzo}, penna, segno,
-                  TrattoLinea(voce.codice, quanto));
+    s.Riempi(APixelRGB(colore ? ColoreRGB(voce.codice) : FormTelva.Disegno.BackColor));
+    if (voce.genere == Genere::Tratto) DisegnaLinee(s, voce.codice, quanto, penna);
+    if (voce.genere == Genere::Retino) DisegnaRetini(s, voce.codice, quanto, penna);
     Incornicia(s, penna);
     Figura figura{larghezza, altezza, {s.Riga(0), s.Riga(altezza)}};
     for (std::uint32_t &p : figura.pixel) p |= kOpaco;

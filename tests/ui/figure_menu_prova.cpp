@@ -1,0 +1,69 @@
+// The pictures beside the items of the menus.
+#include "ui/figure_menu.h"
+
+#include "sostegno/Banco.h"
+#include "ui/comandi.h"
+#include "view/colori.h"
+
+#include <cmath>
+#include <set>
+
+namespace telva::prove {
+namespace {
+
+using Genere = FiguraVoce::Genere;
+
+FiguraVoce FiguraDi(const std::string &voce) {
+    for (const Comando &c : TabellaComandi())
+        if (c.voce->NomeControllo() == voce) return c.voce->figura;
+    ADD_FAILURE() << "no item " << voce;
+    return {};
+}
+
+} // namespace
+
+struct FigureMenu : Banco {};
+
+TEST_F(FigureMenu, UnaVoceMostraIlCodiceCheSeleziona) {
+    struct Caso {
+        const char *voce;
+        FiguraVoce figura;
+    };
+    CostruisciComandi();
+    for (const Caso &c : {Caso{.voce = "Bianco", .figura = {.genere = Genere::Colore, .codice = 1}},
+                          {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = 9}},
+                          {.voce = "TuttiCol", .figura = {}},
+                          {.voce = "TipoPt1", .figura = {}},
+                          {.voce = "TipoLn1", .figura = {.genere = Genere::Tratto, .codice = 0}},
+                          {.voce = "TipoLn5", .figura = {.genere = Genere::Tratto, .codice = 4}},
+                          {.voce = "TipoTr1", .figura = {.genere = Genere::Retino, .codice = 1}},
+                          {.voce = "TipoTr8", .figura = {.genere = Genere::Retino, .codice = 8}},
+                          {.voce = "Materiale", .figura = {}}})
+        EXPECT_TRUE(FiguraDi(c.voce) == c.figura) << c.voce;
+}
+
+TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
+    CostruisciComandi();
+    for (const double quanto : {1.0, 1.5, 2.0}) {
+        const int altezza = static_cast<int>(std::lround(13 * quanto));
+        std::set<std::vector<std::uint32_t>> diverse;
+        for (const Comando &c : TabellaComandi()) {
+            if (c.figura.genere == Genere::Nessuna) continue;
+            SCOPED_TRACE(c.voce->NomeControllo() + " at " + std::to_string(quanto));
+            const Figura f = DisegnaFigura(c.figura, altezza, quanto);
+            EXPECT_EQ(f.altezza, altezza);
+            EXPECT_EQ(f.larghezza, c.figura.genere == Genere::Colore ? altezza : 3 * altezza);
+            ASSERT_EQ(f.pixel.size(), static_cast<std::size_t>(f.altezza * f.larghezza));
+            for (const std::uint32_t p : f.pixel) ASSERT_EQ(p >> 24, 0xFFu) << "opacity";
+            EXPECT_TRUE(diverse.insert(f.pixel).second) << "looks like another one";
+        }
+        EXPECT_EQ(diverse.size(), 9u + 6 + 9);
+    }
+}
+
+TEST_F(FigureMenu, UnColoreEQuelloDellaSuaTabella) {
+    const Figura f = DisegnaFigura({.genere = Genere::Colore, .codice = kArancione}, 13, 1);
+    EXPECT_EQ(f.pixel[6 * 13 + 6], 0xFFFFA346u);
+}
+
+} // namespace telva::prove
