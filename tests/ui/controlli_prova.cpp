@@ -128,6 +128,10 @@ TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
     }
     ControllaITesti(f);
     for (const Controllo *c : f.controlli)
+        if (dynamic_cast<const CasellaNumero *>(c) || dynamic_cast<const Pulsante *>(c)) {
+            EXPECT_NE(c->ToolTipText(), "") << c->NomeControllo();
+        }
+    for (const Controllo *c : f.controlli)
         if (const auto *cornice = dynamic_cast<const Cornice *>(c)) {
             EXPECT_EQ(cornice->bordo, !cornice->Caption().empty()) << c->NomeControllo();
         }

@@ -107,10 +107,12 @@ TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
     Cambia("EvColSel", 5, 1, [&] { f.EvColSel.Seleziona(); });
 }
 
-TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBianco) {
+TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
     for (const double codice : {-1.0, 10.0, 1e9}) {
         Opzioni[kOpzColoreTesto] = codice;
+        Opzioni[kOpzRaggioNodo] = std::string("x"); // as it stands in the file
         Menu("Rappresentazione");
+        EXPECT_EQ(f.Raggio.Text(), "x");
         for (int k = 0; k < ModuloOpt::kCampioni; ++k)
             EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 1) << codice;
         f.Chiudi();
