@@ -54,16 +54,16 @@ struct Foglio : LavoroProva {
     }
     // A slanting quadrilateral in the square of side `lato` whose lower left corner is (x, z).
     void Quadrilatero(double x, double z, double lato, int tratto, int colore) {
-        const int a = Punto(x, z), b = Punto(x + lato, z + lato * 0.2);
-        const int c = Punto(x + lato * 0.9, z + lato), e = Punto(x + lato * 0.15, z + lato * 0.8);
+        QuadrilateroDa(Punto(x, z), lato, tratto, colore);
+    }
+    void QuadrilateroDa(int a, double lato, int tratto, int colore) {
+        const double x = punti[a][0], z = punti[a][2];
+        const int b = Punto(x + lato, z + lato * 0.2), c = Punto(x + lato * 0.9, z + lato);
+        const int e = Punto(x + lato * 0.15, z + lato * 0.8);
         gusci.push_back({.nodi = {a, b, c, e}, .nome = ++nomi, .colore = colore, .tratto = tratto});
     }
     void Triangolo(double x, double z, double lato, int tratto, int colore) {
-        TriangoloDa(Punto(x, z), lato, tratto, colore);
-    }
-    void TriangoloDa(int a, double lato, int tratto, int colore) {
-        const double x = punti[a][0], z = punti[a][2];
-        const int b = Punto(x + lato, z), c = Punto(x + lato / 3, z + lato);
+        const int a = Punto(x, z), b = Punto(x + lato, z), c = Punto(x + lato / 3, z + lato);
         gusci.push_back(
             {.nodi = {a, b, c, -1}, .nome = ++nomi, .colore = colore, .tratto = tratto});
     }
@@ -335,8 +335,8 @@ TEST_F(Immagini, PostiDelleEtichette) {
         if (k > 2) f.LineaDa(nodo, x - 35, 335, 9);
         if (k > 3) f.LineaDa(nodo, x - 35, 265, 9);
     }
-    f.TriangoloDa(f.NodoVisibile(570, 260, 4), 80, 7, 3);
-    f.Quadrilatero(670, 260, 80, 7, 3);
+    f.QuadrilateroDa(f.NodoVisibile(570, 260, 4), 80, 7, 3);
+    f.Triangolo(670, 260, 80, 7, 3);
     ApriFoglio(f, 770, 360);
     SelElCont[1] = 1; // its bar is drawn as selected
     for (const int genere : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
