@@ -6,7 +6,7 @@ namespace telva {
 namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
-constexpr int kMargine = 4;
+constexpr int kMargine = 5; // pixels, the frame among them
 // What the tip shows of a list; its lines are narrower than the tip may be.
 constexpr std::size_t kColonne = 70, kRighe = 20;
 
@@ -19,6 +19,7 @@ void RiassuntoWin32::Dipingi() const {
     RECT r{};
     GetClientRect(hwnd_, &r);
     FillRect(dc, &r, GetSysColorBrush(COLOR_WINDOW));
+    FrameRect(dc, &r, GetSysColorBrush(COLOR_BTNSHADOW)); // flat, as the text boxes' are
     const HGDIOBJ prima = SelectObject(dc, font_);
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
@@ -29,7 +30,7 @@ void RiassuntoWin32::Dipingi() const {
               DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(dc, prima);
     if (GetFocus() == hwnd_) {
-        InflateRect(&r, -1, -1);
+        InflateRect(&r, -2, -2);
         DrawFocusRect(dc, &r);
     }
     EndPaint(hwnd_, &p);
@@ -102,7 +103,7 @@ HWND RiassuntoWin32::Crea(const Nascita &nascita) {
     classe.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     classe.lpszClassName = kClasse;
     RegistraClasse(classe);
-    hwnd_ = nascita.Crea(kClasse, ALargo(Testo()), WS_TABSTOP, WS_EX_STATICEDGE);
+    hwnd_ = nascita.Crea(kClasse, ALargo(Testo()), WS_TABSTOP);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     return hwnd_;
 }

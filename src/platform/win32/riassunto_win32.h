@@ -1,5 +1,5 @@
 #pragma once
-// The summary field: one line of data in a sunken frame, long texts with an ellipsis, more
+// The summary field: one line of data in a frame, long texts with an ellipsis, more
 // of them in the tip; Ctrl+C copies it all.
 
 #include "platform/win32/etichetta_win32.h"

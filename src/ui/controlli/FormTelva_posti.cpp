@@ -10,6 +10,11 @@ namespace {
 
 constexpr double kAltezzaBarra = 400;
 constexpr double kDistanzaStato = 90, kStatoMinimo = 900;
+constexpr double kRigaTesto = 210, kBordoCasella = 3; // twips; pixels above a text box's text
+
+// A label beside a text box, as high as brings its text, in the middle, to the height of the box's:
+// the box has its own at the top, as many pixels down at every scale.
+double AltezzaAccanto(const ModuloTelva &f) { return kRigaTesto + ATwip(2 * kBordoCasella, f.dpi); }
 
 // Inside the two frames of the side bar, whose size never changes.
 void DisponiBarraLaterale(ModuloTelva &f) {
@@ -21,15 +26,15 @@ void DisponiBarraLaterale(ModuloTelva &f) {
         c->Posiziona(120, top, 2550, 235);
         top += 252;
     }
-    f.LabelInt.Posiziona(120, 1525, 2550, 225);
+    f.LabelInt.Posiziona(120, 1510, 2550, 225);
     Schiera<CasellaNumero, 2> *campi[] = {&f.IntX, &f.IntY, &f.IntZ};
     Pulsante *tutto[] = {&f.TuttoX, &f.TuttoY, &f.TuttoZ};
     for (int k = 0; k < 3; ++k) {
-        const double riga = 1765 + k * 310;
-        f.LabelAsse[k].Posiziona(120, riga + 30, 150, 225);
+        const double riga = 1745 + k * 320;
+        f.LabelAsse[k].Posiziona(120, riga, 150, AltezzaAccanto(f));
         (*campi[k])[0].Posiziona(300, riga, 800, 290);
         (*campi[k])[1].Posiziona(1130, riga, 800, 290);
-        tutto[k]->Posiziona(1960, riga - 5, 740, 300);
+        tutto[k]->Posiziona(1960, riga, 710, 290);
     }
 }
 
@@ -54,9 +59,9 @@ void ModuloTelva::Disponi() {
     StringaSel.Posiziona(2200, riga, w - 4464, 290);
     for (int k = 0; k < 3; ++k) {
         const double left = w - 2235 + k * 705;
-        Label1[k].Posiziona(left, riga, 115, 285);
+        Label1[k].Posiziona(left, riga, 115, AltezzaAccanto(*this));
         Label2[k].Posiziona(left + 120, riga + 100, 90, 200);
-        Angolo[k].Posiziona(left + 210, riga, 465, 300);
+        Angolo[k].Posiziona(left + 210, riga, 465, 290);
     }
 
     const double fondo = riga + StringaSel.Height + 50;
