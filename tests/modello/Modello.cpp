@@ -272,9 +272,7 @@ void Modello::Tasto(int codice) {
     if (codice == kMeno || codice == kMenoCifre) Rotella(-1);
 }
 
-void Modello::Ridimensiona(double larghezza, double) {
-    if (larghezza >= 5550) Adatta(); // below, the window only goes back to its smallest size
-}
+void Modello::Ridimensiona(double, double) { Adatta(); }
 
 void Modello::Mostra(Filtro filtro) {
     bool &mostrati = filtri_[static_cast<std::size_t>(filtro)];

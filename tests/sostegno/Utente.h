@@ -114,6 +114,8 @@ class Utente : public Banco {
             FormTelva.Width = larghezza;
             FormTelva.Height = altezza;
             FormTelva.Resize();
+            // The smallest size, when it is put back, comes as a resize of its own.
+            if (FormTelva.Width() != larghezza || FormTelva.Height() != altezza) FormTelva.Resize();
         });
     }
 

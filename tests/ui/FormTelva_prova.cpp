@@ -21,15 +21,16 @@ struct FormTelvaProva : Utente {
     }
 };
 
-TEST_F(FormTelvaProva, SottoIlMinimoERidottaAIconaNienteSiDispone) {
+TEST_F(FormTelvaProva, SottoIlMinimoTornaAlMinimo) {
+    for (const auto &[larghezza, altezza] : {std::pair{5549, 9000}, {9000, 7119}}) {
+        Ridimensiona(larghezza, altezza);
+        EXPECT_EQ(f.Width, std::max(larghezza, 5550));
+        EXPECT_EQ(f.Height, std::max(altezza, 7120));
+    }
+}
+
+TEST_F(FormTelvaProva, RidottaAIconaNienteSiDispone) {
     const std::string prima = Posti();
-    Ridimensiona(5549, 9000);
-    EXPECT_EQ(f.Width, 5550) << "back to the smallest, which then lays everything out";
-    EXPECT_EQ(f.Height, 9000);
-    Ridimensiona(9000, 7119);
-    EXPECT_EQ(f.Width, 9000);
-    EXPECT_EQ(f.Height, 7120);
-    EXPECT_EQ(Posti(), prima);
     f.ridotta = true;
     Ridimensiona(99, 99);
     EXPECT_EQ(f.Width, 99) << "an icon has no smallest size";
