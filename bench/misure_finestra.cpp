@@ -118,6 +118,13 @@ class Telva {
     }
     // What has been left to paint is painted now.
     void Dipingi() const { SendMessageW(disegno_, WM_PAINT, 0, 0); }
+    // A move over nothing and one pixel painted: what the way into the program and out of it takes.
+    void Passaggio(int x, int y) const {
+        Mouse(WM_MOUSEMOVE, x, y);
+        const RECT pixel{0, 0, 1, 1};
+        InvalidateRect(disegno_, &pixel, FALSE);
+        Dipingi();
+    }
     // Messages that wait in the program's queue all at once, until the last has been handled:
     // behind them stands one that makes a mark in a box.
     void Raffica(const std::vector<MSG> &messaggi) const {
@@ -247,6 +254,7 @@ void Operazioni(Telva &t) {
     }
     int x = 0;
     Riga("Coordinate", Misura([&] { ++x; }, [&] { t.Mouse(WM_MOUSEMOVE, 300 + x, 300); }, 45));
+    Riga("Mezzo/passaggio", Misura([&] { ++x; }, [&] { t.Passaggio(3 + x % 2, 3); }, 45));
     Dirette(t);
     Anteprime(t);
     Liste(t);

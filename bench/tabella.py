@@ -49,6 +49,7 @@ VERE = [
     ("read-out on mouse move", ["Coordinate"], 2, 1.2),
     ("hover preview move", ANTEPRIME, 2, 1.2),
     ("rubber band, one move of a rectangle", ["Elastici/rettangolo"], 0.5, 1.2),
+    ("limit: a move and one pixel painted", ["Mezzo/passaggio"], None, None),
     ("middle-button drag, one move (60 pictures a second; 30)", ["Trascinamento"], 16.7, 2),
     ("middle-button drag, ten moves that wait", ["Trascinamento/dieci"], None, None),
     ("wheel, ten steps that wait", ["Rotella/dieci"], None, None),

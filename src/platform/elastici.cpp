@@ -13,7 +13,8 @@ namespace {
 // Light over dark, to be seen on every colour of the drawing.
 constexpr std::uint32_t kChiaro = 0xFFFFFF;
 constexpr std::uint32_t kScuro = 0x202020;
-constexpr int kBordo = 2;  // pixels of dark on either side, at 100 %
+constexpr int kBordo = 2;                // pixels of dark on either side, at 100 %
+constexpr std::size_t kZoneMassime = 16; // each costs a call of the system
 constexpr int kPezzo = 64; // pixels: zones of this length follow a slanting line closely
 
 // A segment cut to where a pen of this reach can light a pixel of the picture; false when nowhere.
@@ -37,6 +38,18 @@ bool Ritaglia(double (&p)[4], double portata, int larghezza, int altezza) {
     p[2] = x + a * d[0];
     p[3] = y + a * d[1];
     return true;
+}
+
+// Each zone with its neighbour in one: strokes that follow one another lie close together.
+std::vector<ZonaPixel> ADue(const std::vector<ZonaPixel> &zone) {
+    std::vector<ZonaPixel> unite;
+    for (std::size_t k = 0; k < zone.size(); k += 2) {
+        const ZonaPixel &a = zone[k], &b = zone[std::min(k + 1, zone.size() - 1)];
+        const int x = std::min(a.x, b.x), y = std::min(a.y, b.y);
+        unite.push_back({x, y, std::max(a.x + a.larghezza, b.x + b.larghezza) - x,
+                         std::max(a.y + a.altezza, b.y + b.altezza) - y});
+    }
+    return unite;
 }
 
 } // namespace
@@ -143,6 +156,7 @@ std::vector<ZonaPixel> RiquadroDisegno::ZoneElastici() const {
     for (const auto &cosa : TrattiElastici())
         for (const TrattoElastico &t : cosa)
             t.Zone(superficie_.Larghezza(), superficie_.Altezza(), zone);
+    while (zone.size() > kZoneMassime) zone = ADue(zone);
     return zone;
 }
 

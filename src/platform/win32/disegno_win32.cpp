@@ -53,7 +53,8 @@ int Maiuscoli(WPARAM w) {
 
 } // namespace
 
-void DisegnoWin32::Dipingi() const {
+void DisegnoWin32::Dipingi() {
+    AggiornaElastici();
     const std::vector<ZonaPixel> zone = DaDipingere(hwnd_);
     PAINTSTRUCT p{};
     const HDC dc = BeginPaint(hwnd_, &p);
@@ -92,18 +93,36 @@ void DisegnoWin32::DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) c
     });
 }
 
+// All at once: each time the system is told costs more than the pixels do.
 void DisegnoWin32::Invalida(const std::vector<ZonaPixel> &zone) const {
+    const HRGN regione = Richiesto(CreateRectRgn(0, 0, 0, 0), "CreateRectRgn");
+    const HRGN una = Richiesto(CreateRectRgn(0, 0, 0, 0), "CreateRectRgn");
     for (const ZonaPixel &z : zone) {
-        const RECT r{z.x, z.y, z.x + z.larghezza, z.y + z.altezza};
-        InvalidateRect(hwnd_, &r, FALSE);
+        SetRectRgn(una, z.x, z.y, z.x + z.larghezza, z.y + z.altezza);
+        CombineRgn(regione, regione, una, RGN_OR);
     }
+    InvalidateRgn(hwnd_, regione, FALSE);
+    DeleteObject(una);
+    DeleteObject(regione);
+}
+
+// A move of the mouse changes several of their measures one after the other: where they are by then
+// is asked when it is painted, which a pixel calls for.
+void DisegnoWin32::ElasticiCambiati() {
+    if (elasticiCambiati_) return;
+    elasticiCambiati_ = true;
+    const RECT pixel{0, 0, 1, 1};
+    InvalidateRect(hwnd_, &pixel, FALSE);
 }
 
 // Only where they were and where they are now is painted anew.
 void DisegnoWin32::AggiornaElastici() {
-    Invalida(elastici_);
-    elastici_ = controllo_.ZoneElastici();
-    Invalida(elastici_);
+    if (!elasticiCambiati_) return;
+    elasticiCambiati_ = false;
+    std::vector<ZonaPixel> zone = controllo_.ZoneElastici();
+    zone.swap(elastici_);
+    zone.insert(zone.end(), elastici_.begin(), elastici_.end());
+    Invalida(zone);
 }
 
 void DisegnoWin32::Evento(const std::function<void()> &gestore) {
@@ -130,8 +149,10 @@ LPARAM DisegnoWin32::PostoPiuRecente(WPARAM w, LPARAM l) const {
 }
 
 void DisegnoWin32::Mosso(WPARAM w, LPARAM l) {
-    TRACKMOUSEEVENT avviso{sizeof avviso, TME_LEAVE, hwnd_, 0};
-    TrackMouseEvent(&avviso); // told once when the pointer leaves; without it nothing is lost
+    if (!sopra_) { // told once when the pointer leaves
+        TRACKMOUSEEVENT avviso{sizeof avviso, TME_LEAVE, hwnd_, 0};
+        sopra_ = TrackMouseEvent(&avviso) != FALSE;
+    }
     Mouse(controllo_.MouseMove, Tasti(w), w, PostoPiuRecente(w, l));
 }
 
@@ -157,7 +178,10 @@ LRESULT DisegnoWin32::Messaggio(UINT messaggio, WPARAM w, LPARAM l) {
     case WM_RBUTTONUP: TastoLasciato(2, w, l); return 0;
     case WM_MBUTTONUP: TastoLasciato(4, w, l); return 0;
     case WM_MOUSEMOVE: Mosso(w, l); return 0;
-    case WM_MOUSELEAVE: Evento(controllo_.MouseLeave); return 0;
+    case WM_MOUSELEAVE:
+        sopra_ = false;
+        Evento(controllo_.MouseLeave);
+        return 0;
     case WM_LBUTTONDBLCLK:
     case WM_RBUTTONDBLCLK:
     case WM_MBUTTONDBLCLK: Evento(controllo_.DblClick); return 0;
@@ -191,10 +215,11 @@ void DisegnoWin32::Mostra(Campo campo) {
     case Campo::Immagine:
         finestra_.ApplicaPosizioni(); // it must have its size before it shows the picture for it
         elastici_ = controllo_.ZoneElastici();
+        elasticiCambiati_ = false;
         InvalidateRect(hwnd_, nullptr, FALSE);
         UpdateWindow(hwnd_);
         break;
-    case Campo::Elastici: AggiornaElastici(); break;
+    case Campo::Elastici: ElasticiCambiati(); break;
     case Campo::Puntatore: finestra_.AggiornaPuntatore(); break;
     default: break;
     }
