@@ -15,6 +15,9 @@ inline constexpr std::size_t kCaratteriTitolo = 250, kCaratteriEtichetta = 4000,
 // The text, or its first characters and an ellipsis: at most `caratteri` in all, at least 1.
 std::string Mostrabile(std::string_view testo, std::size_t caratteri);
 
+// Of a name, wherever it stands.
+inline constexpr std::size_t kCaratteriNome = 100;
+
 // A message box breaks lines at blanks only: lines longer than `colonne` characters without a blank
 // are broken there, or the box would leave the screen.
 std::string ConRigheBrevi(std::string_view testo, std::size_t colonne);

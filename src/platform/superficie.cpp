@@ -396,13 +396,14 @@ void Superficie::PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga) {
     };
     const auto capo = [&](int y) { // with a part of one disc or both
         int xDa = INT_MAX, xA = INT_MIN;
-        for (const Pixel &p : {a, b}) {
-            const int i = y - p.y - sopra;
-            if (i < 0 || i > sotto - sopra) continue;
+        const auto comprendi = [&](int x, int i) {
+            if (i < 0 || i > sotto - sopra) return;
             const Tratto &t = disco[static_cast<std::size_t>(i)];
-            xDa = std::min(xDa, p.x + t.xDa);
-            xA = std::max(xA, p.x + t.xA);
-        }
+            xDa = std::min(xDa, x + t.xDa);
+            xA = std::max(xA, x + t.xA);
+        };
+        comprendi(a.x, y - a.y - sopra);
+        comprendi(b.x, y - b.y - sopra);
         if (fascia.ASinistra(y)) xDa = std::min(xDa, fascia.Sinistra(y));
         if (fascia.ADestra(y)) xA = std::max(xA, fascia.Destra(y));
         riga(xDa, xA, y);

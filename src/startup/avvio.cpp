@@ -51,9 +51,9 @@ void PrimaVista(const std::string &ingresso) {
 
 // Without a structure nothing can be checked or selected: what the caller had goes back as it came.
 void ConservaIngresso(const std::string &ingresso) {
-    if (TipoRichiesto < 0) return;
-    StrSel(TipoRichiesto) = ingresso;
-    MostraStringaSel(TipoRichiesto);
+    const int tipo = FormTelva.TipoElemento();
+    StrSel(tipo) = ingresso;
+    MostraStringaSel(tipo);
 }
 
 void LeggiTabelle() {

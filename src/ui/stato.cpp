@@ -21,7 +21,7 @@ namespace telva {
 namespace {
 
 // More than a row can hold, and less than would hold anybody up.
-constexpr std::size_t kCaratteriNome = 100, kCaratteriElenco = 500;
+constexpr std::size_t kCaratteriElenco = 500;
 
 // How a kind is spoken of.
 struct Parole {

@@ -3,6 +3,7 @@
 #include "model/elementi.h"
 #include "model/opzioni_cond.h"
 #include "model/tabelle_cond.h"
+#include "platform/mostrabile.h"
 #include "platform/numeri.h"
 #include "platform/testo.h"
 #include "ui/controlli/FormTelva.h"
@@ -241,7 +242,7 @@ std::string EtichettaGuscio(int s) {
 }
 
 std::string EtichettaElCont(int k) {
-    return TestoNumero(NumeroElCont[k]) + " - " + std::string(Rifila(NomeElCont[k]));
+    return TestoNumero(NumeroElCont[k]) + " - " + Mostrabile(Rifila(NomeElCont[k]), kCaratteriNome);
 }
 
 void DisegnaEtichette() {

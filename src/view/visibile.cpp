@@ -71,7 +71,7 @@ bool GuscioDisegnato(int s) {
 bool Disegnato(const Elementi &e, int i) {
     static constexpr bool (*kDisegnata[])(int) = {NodoDisegnato, AstaDisegnata, GuscioDisegnato};
     const auto disegnata = kDisegnata[e.parti];
-    return !e.OgniParte(i, [=](int parte) { return !disegnata(parte); });
+    return e.Intero(i) && !e.OgniParte(i, [=](int parte) { return !disegnata(parte); });
 }
 
 bool NessunElementoDisegnato() {

@@ -62,7 +62,7 @@ void Caso::Nodi(LavoroProva &l) {
 
 // The name of a bar that there may not be; now and then one that cannot be.
 int Caso::AstaIgnota() {
-    if (Tira(8) == 0) return Una({-1, 20001, 32000});
+    if (Tira(3) == 0) return Una({-1, 20001, 32000});
     return 1 + Tira(30);
 }
 
@@ -103,7 +103,7 @@ LavoroProva Caso::Lavoro() {
     Nodi(l);
     Elementi(l);
     for (int n = Tira(5); n > 0; --n)
-        l.spessori.push_back({.materiale = Tira(4), .valore = Tira(2) ? 20 : 0.5});
+        l.spessori.push_back({.materiale = Tira(4), .valore = Una({20.0, 1.0, 0.5})});
     for (int n = Tira(5); n > 0; --n) l.sezioni.push_back(Tira(4));
     return l;
 }

@@ -137,6 +137,7 @@ bool Modello::Dentro(const Elemento &e) const {
 }
 
 bool Modello::Disegnato(const Elemento &e) const {
+    if (e.rotto) return false;
     const auto asta = [&](int b) { return b >= 0 && Disegnato(elementi[Aste][b]); };
     if (!e.aste.empty()) return std::ranges::any_of(e.aste, asta);
     return e.nome > 0 && e.colore < 10 && e.attivo && !e.sottile;

@@ -49,7 +49,7 @@ TEST_F(AvvioProva, MezzaStrutturaNonSiDisegna) {
 }
 
 TEST_F(AvvioProva, SenzaStrutturaLaListaDelChiamanteTornaIntera) {
-    for (const int tipo : {+kNodiTipo, +kAsteTipo, +kElContTipo}) {
+    for (const int tipo : {+kNodiTipo, +kAsteTipo, +kElContTipo, 7}) {
         AzzeraProgramma();
         Installa();
         ScriviLavoro(Telaio());

@@ -18,8 +18,8 @@ TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     EXPECT_TRUE(FormOptInt.Mostrata());
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "8");
     EXPECT_EQ(FormOptInt.fuoco, &FormOptInt.TextTrappola);
-    FormOptInt.TextTrappola.Text = "20";
-    FormOptInt.TextTrappola.KeyDown('2'); // any other key only types
+    FormOptInt.TextTrappola.Text = "-19,6"; // its nearest lower whole number, without the sign
+    FormOptInt.TextTrappola.KeyDown('2');   // any other key only types
     EXPECT_TRUE(FormOptInt.Mostrata());
     FormOptInt.TextTrappola.KeyDown(kInvio);
     EXPECT_FALSE(FormOptInt.Mostrata());
@@ -35,6 +35,8 @@ TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     OpzInt[1] = 2e20;
     Menu("Trappola");
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "2e+20") << "short in the box";
+    FormOptInt.TextTrappola.KeyDown(kInvio);
+    EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (2e+20)...");
 }
 
 // --- representation options
@@ -111,8 +113,10 @@ TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
     for (const double codice : {-1.0, 10.0, 1e9}) {
         Opzioni[kOpzColoreTesto] = codice;
         Opzioni[kOpzRaggioNodo] = std::string("x"); // as it stands in the file
+        Opzioni[kOpzBaseTesto] = 2e20;
         Menu("Rappresentazione");
         EXPECT_EQ(f.Raggio.Text(), "x");
+        EXPECT_EQ(f.BaseTxt.Text(), "2e+20");
         for (int k = 0; k < ModuloOpt::kCampioni; ++k)
             EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 1) << codice;
         f.Chiudi();

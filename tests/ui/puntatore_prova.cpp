@@ -142,6 +142,12 @@ TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
         {"side bar", [&] { Menu("BarraLat"); }},
         {"tool bar", [&] { Menu("BarraIcone"); }},
         {"wheel", [&] { Rotella(1); }},
+        {"refused wheel",
+         [&] {
+             FinestraZoom = {0.11, 0, 0.11, 0};
+             Menu("Ridis");
+             Rotella(1);
+         }},
     };
     for (const bool mosso : {false, true}) // before it the drag has moved the view, or not
         for (const Caso &caso : casi) {

@@ -93,7 +93,11 @@ TEST_F(Etichette, SenzaPartiOSenzaAstaNonSiScriveNulla) {
         AsteElCont(0, 0) = static_cast<std::int16_t>(asta);
         EXPECT_EQ(Scrive({kOpzTestiElCont}), 0) << "no bar has the name " << asta;
     }
+    NumAsteElCont[0] = 2;
     AsteElCont(0, 0) = 0;
+    AsteElCont(0, 1) = 20001;
+    EXPECT_EQ(Scrive({kOpzTestiElCont}), 0) << "its second bar is none";
+    NumAsteElCont[0] = 1;
     NumeroElCont[0] = 0;
     EXPECT_EQ(Scrive({kOpzTestiElCont}), 0) << "an element without number";
     for (const int voce : {kOpzBaseTesto, kOpzAltezzaTesto}) {

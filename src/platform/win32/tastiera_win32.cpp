@@ -1,16 +1,12 @@
 #include "platform/win32/tastiera_win32.h"
 
+#include "platform/tasti.h"
 #include "platform/win32/pari_win32.h"
 
 #include <cstdlib>
 #include <utility>
 
 namespace telva {
-namespace {
-
-constexpr int kEscape = 27;
-
-} // namespace
 
 bool TastieraWin32::Tratta(const MSG &m) {
     return m.message == WM_MOUSEWHEEL ? Rotella(m) : Tasto(m);
@@ -20,17 +16,17 @@ bool TastieraWin32::Tratta(const MSG &m) {
 bool TastieraWin32::Esc(const MSG &m) {
     if (m.message == WM_KEYUP) {
         const bool premuto = std::exchange(escPremuto_, false);
-        if (premuto && modulo_.KeyUp) finestra_.Evento([this] { modulo_.KeyUp(kEscape); });
+        if (premuto && modulo_.KeyUp) finestra_.Evento([this] { modulo_.KeyUp(kTastoEsc); });
         return premuto;
     }
     if (m.message == WM_KEYDOWN) escPremuto_ = true; // else typed as a character, not by its key
-    if (modulo_.KeyPress) finestra_.Evento([this] { modulo_.KeyPress(kEscape); });
+    if (modulo_.KeyPress) finestra_.Evento([this] { modulo_.KeyPress(kCarattereEsc); });
     return true;
 }
 
 bool TastieraWin32::Tasto(const MSG &m) {
     if ((m.message == WM_KEYUP || m.message == WM_KEYDOWN) && m.wParam == VK_ESCAPE) return Esc(m);
-    if (m.message == WM_CHAR && m.wParam == kEscape) return Esc(m);
+    if (m.message == WM_CHAR && m.wParam == kCarattereEsc) return Esc(m);
     if (m.message != WM_KEYDOWN) return false;
     PariWin32 *p = PariDiNativo(m.hwnd);
     const int tasto = static_cast<int>(m.wParam);
