@@ -10,7 +10,7 @@ namespace telva {
 
 // Characters that a window's title, a label, a tip and a message box take.
 inline constexpr std::size_t kCaratteriTitolo = 250, kCaratteriEtichetta = 4000,
-                             kCaratteriSuggerimento = 6000, kCaratteriRiquadro = 1000;
+                             kCaratteriSuggerimento = 1000, kCaratteriRiquadro = 1000;
 
 // The text, or its first characters and an ellipsis: at most `caratteri` in all, at least 1.
 std::string Mostrabile(std::string_view testo, std::size_t caratteri);

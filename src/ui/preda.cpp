@@ -66,14 +66,16 @@ void Contorno(TipoElemento tipo, int parte, Sagoma &sagoma) {
     }
 }
 
+// Those that the click changes: what it has just marked is to be seen in its own colour.
 void MostraPreda() {
     Sagoma sagoma;
     const Elementi &e = ElementiDi(preda.tipo);
     for (const int i : preda.elementi)
-        e.OgniParte(i, [&](int parte) {
-            Contorno(e.parti, parte, sagoma);
-            return true;
-        });
+        if (CambiaColClic(i))
+            e.OgniParte(i, [&](int parte) {
+                Contorno(e.parti, parte, sagoma);
+                return true;
+            });
     FormTelva.Disegno.Anteprima = sagoma;
 }
 
@@ -90,6 +92,10 @@ void CercaPreda() {
     effetto = puntatore && Proiettata() ? EffettoDelGesto() : EffettoClic::Nessuno;
     if (effetto == EffettoClic::ApreFinestra) CercaSotto(*puntatore);
     MostraPreda();
+}
+
+bool CambiaColClic(int elemento) {
+    return ElementiDi(preda.tipo).Selezionato(elemento) != (CodFunAttiva == kAggiungi);
 }
 
 EffettoClic ClicSulDisegno() { return effetto; }

@@ -32,5 +32,7 @@ void CercaPreda();
 
 EffettoClic ClicSulDisegno();
 const ElementiPresi &Preda();
+// False for one of Preda's elements that is selected, or not, as the click would leave it.
+bool CambiaColClic(int elemento);
 
 } // namespace telva

@@ -122,10 +122,17 @@ std::string Descrizione(int tipo, int elemento) {
            p.dati(elemento);
 }
 
+// An element that the click leaves as it is.
+std::string Invariato(int tipo, int elemento) {
+    if (CambiaColClic(elemento)) return {};
+    return std::string(CodFunAttiva == kAggiungi ? ", già " : ", non ") + kParole[tipo].unoSel;
+}
+
 std::string Clic() {
     switch (ClicSulDisegno()) {
     case EffettoClic::Elemento:
-        return "clic: " + Descrizione(Preda().tipo, Preda().elementi.front());
+        return "clic: " + Descrizione(Preda().tipo, Preda().elementi.front()) +
+               Invariato(Preda().tipo, Preda().elementi.front());
     case EffettoClic::ApreFinestra: return "clic: apre una finestra";
     case EffettoClic::Angolo: return "clic: primo angolo";
     case EffettoClic::AngoloOpposto: return "clic: angolo opposto";

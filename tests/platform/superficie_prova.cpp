@@ -34,11 +34,6 @@ struct Forma {
         case Genere::Cerchio: s.Cerchio(da, raggio, penna, kColore); break;
         }
     }
-    Forma Rovesciata() const {
-        Forma r = *this;
-        std::swap(r.a, r.b);
-        return r;
-    }
     // How far the pixel lies beyond the shape's reach; negative inside.
     double Oltre(Pixel p) const {
         return genere == Genere::Linea     ? OltreLaLinea(p)
@@ -125,22 +120,6 @@ TEST_F(SuperficieProva, UnaFormaRitagliataAccendeGliStessiPixelDiQuellaIntera) {
             f.Disegna(intera, kMargine);
             ASSERT_TRUE(OgniPixel(parte, f, [&](Pixel p, bool acceso) {
                 return acceso == (intera.Leggi(p.x + kMargine, p.y + kMargine) == kColore);
-            }));
-        }
-}
-
-TEST_F(SuperficieProva, UnaLineaELaStessaDallAltroCapo) {
-    Superficie s, rovescia;
-    s.Ridimensiona(40, 40);
-    rovescia.Ridimensiona(40, 40);
-    for (const Genere genere :
-         {Genere::Linea, Genere::Tratteggiata, Genere::Larga, Genere::LargaTratteggiata})
-        for (int giro = 0; giro < 500; ++giro) {
-            const Forma f = FormaACaso(genere);
-            f.Disegna(s);
-            f.Rovesciata().Disegna(rovescia);
-            ASSERT_TRUE(OgniPixel(s, f, [&](Pixel p, bool acceso) {
-                return acceso == (rovescia.Leggi(p.x, p.y) == kColore);
             }));
         }
 }

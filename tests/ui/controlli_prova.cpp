@@ -110,16 +110,6 @@ TEST_F(ControlliProva, IDialoghi) {
 TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
     const auto nuova = std::make_unique<ModuloTelva>();
     ModuloTelva &f = *nuova;
-    EXPECT_TRUE(f.ridimensionabile);
-    EXPECT_EQ(f.Width, 15000);
-    EXPECT_EQ(f.Height, 11400);
-    EXPECT_FALSE(f.Risposta.Enabled);
-    EXPECT_EQ(f.Risposta.BackColor, kColoreFaccia);
-    EXPECT_EQ(f.Domanda.stile, StileEtichetta::Centrata);
-    EXPECT_EQ(f.StringaSel.stile, StileEtichetta::Riassunto);
-    EXPECT_EQ(f.LabStato.stile, StileEtichetta::Stato);
-    EXPECT_EQ(f.LabCoord.stile, StileEtichetta::SuPiuRighe);
-    EXPECT_EQ(f.Label6.stile, StileEtichetta::SuPiuRighe);
     const char *const inizio[] = {"30", "30", "0"};
     for (int k = 0; k < 3; ++k) {
         EXPECT_EQ(f.Label2[k].stile, StileEtichetta::Pedice);

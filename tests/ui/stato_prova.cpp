@@ -19,7 +19,9 @@ struct StatoProva : Utente {
 
     void ApriCon(int tipoRichiesto) {
         ScriviIngresso("Titolo", "", tipoRichiesto);
-        Apri(Telaio());
+        LavoroProva l = Telaio();
+        l.elementi.push_back({.numero = 30, .nome = "Rotto", .aste = {1, 20001}});
+        Apri(l);
     }
     std::string Poi() { return ComponiStato().poi; }
 };
@@ -174,6 +176,7 @@ TEST_F(StatoProva, CioCheSiVedePrimaECioCheSiPrende) {
         const ElementiPresi preda = Preda();
         std::vector<int> attesi = selezionati(tipo);
         for (const int i : preda.elementi) attesi[static_cast<std::size_t>(i)] = aggiunge ? 1 : 0;
+        EXPECT_EQ(d.Anteprima().Vuota(), attesi == selezionati(tipo)) << x << ", " << y;
         Clic(x, y);
         EXPECT_EQ(selezionati(tipo), attesi) << x << ", " << y;
         EXPECT_EQ(effetto, PrimoAngolo == 1 ? EffettoClic::ApreFinestra : EffettoClic::Elemento)

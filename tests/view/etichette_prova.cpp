@@ -100,12 +100,6 @@ TEST_F(Etichette, SenzaPartiOSenzaAstaNonSiScriveNulla) {
     NumAsteElCont[0] = 1;
     NumeroElCont[0] = 0;
     EXPECT_EQ(Scrive({kOpzTestiElCont}), 0) << "an element without number";
-    for (const int voce : {kOpzBaseTesto, kOpzAltezzaTesto}) {
-        const telva::Valore prima = Opzioni[voce];
-        Opzioni[voce] = 0.0;
-        EXPECT_EQ(Scrive({kOpzTestiNodi, kOpzTestiAste}), 0) << "text without size";
-        Opzioni[voce] = prima;
-    }
 }
 
 TEST_F(Etichette, CioCheNonSiDisegnaNonHaEtichetta) {

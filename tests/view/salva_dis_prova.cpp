@@ -91,13 +91,6 @@ TEST_F(SalvaDis, ITestiSiRegistranoFinchePossono) {
     EXPECT_EQ(TestiDis.back().testo, "ultimo");
 }
 
-TEST_F(SalvaDis, UnColoreFuoriTabellaEBianco) {
-    EXPECT_EQ(ColoreRGB(0), 0u);
-    EXPECT_EQ(ColoreRGB(3), 0x0000FFu) << "red, as 0x00BBGGRR";
-    EXPECT_EQ(ColoreRGB(9), 0x46A3FFu);
-    for (const int codice : {-1, 10, 1000}) EXPECT_EQ(ColoreRGB(codice), 0xFFFFFFu) << codice;
-}
-
 // A glyph of one stroke, from the base line at the left to the upper right corner of its cell.
 struct TestiProva : SalvaDis {
     TestiProva() {

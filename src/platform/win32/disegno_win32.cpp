@@ -53,8 +53,7 @@ int Maiuscoli(WPARAM w) {
 
 } // namespace
 
-void DisegnoWin32::Dipingi() {
-    AggiornaElastici();
+void DisegnoWin32::Dipingi() const {
     const std::vector<ZonaPixel> zone = DaDipingere(hwnd_);
     PAINTSTRUCT p{};
     const HDC dc = BeginPaint(hwnd_, &p);
@@ -106,19 +105,8 @@ void DisegnoWin32::Invalida(const std::vector<ZonaPixel> &zone) const {
     DeleteObject(regione);
 }
 
-// A move of the mouse changes several of their measures one after the other: where they are by then
-// is asked when it is painted, which a pixel calls for.
-void DisegnoWin32::ElasticiCambiati() {
-    if (elasticiCambiati_) return;
-    elasticiCambiati_ = true;
-    const RECT pixel{0, 0, 1, 1};
-    InvalidateRect(hwnd_, &pixel, FALSE);
-}
-
 // Only where they were and where they are now is painted anew.
 void DisegnoWin32::AggiornaElastici() {
-    if (!elasticiCambiati_) return;
-    elasticiCambiati_ = false;
     std::vector<ZonaPixel> zone = controllo_.ZoneElastici();
     zone.swap(elastici_);
     zone.insert(zone.end(), elastici_.begin(), elastici_.end());
@@ -215,11 +203,10 @@ void DisegnoWin32::Mostra(Campo campo) {
     case Campo::Immagine:
         finestra_.ApplicaPosizioni(); // it must have its size before it shows the picture for it
         elastici_ = controllo_.ZoneElastici();
-        elasticiCambiati_ = false;
         InvalidateRect(hwnd_, nullptr, FALSE);
         UpdateWindow(hwnd_);
         break;
-    case Campo::Elastici: ElasticiCambiati(); break;
+    case Campo::Elastici: AggiornaElastici(); break;
     case Campo::Puntatore: finestra_.AggiornaPuntatore(); break;
     default: break;
     }

@@ -23,10 +23,9 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     using GestoreMouse = std::function<void(int, int, double, double)>;
     static LRESULT CALLBACK Procedura(HWND hwnd, UINT messaggio, WPARAM w, LPARAM l);
     LRESULT Messaggio(UINT messaggio, WPARAM w, LPARAM l);
-    void Dipingi();
+    void Dipingi() const;
     void DipingiImmagine(HDC dc, const std::vector<ZonaPixel> &zone) const;
     void Invalida(const std::vector<ZonaPixel> &zone) const;
-    void ElasticiCambiati();
     void AggiornaElastici();
     LPARAM PostoPiuRecente(WPARAM w, LPARAM l) const;
     void Mouse(const GestoreMouse &gestore, int tasti, WPARAM w, LPARAM l);
@@ -36,7 +35,6 @@ class DisegnoWin32 : public PariDi<RiquadroDisegno> {
     void Evento(const std::function<void()> &gestore);
 
     std::vector<ZonaPixel> elastici_; // where something is shown over the picture
-    bool elasticiCambiati_ = false;   // since the last painting
     bool sopra_ = false;              // the pointer, and its leaving will be told
 };
 

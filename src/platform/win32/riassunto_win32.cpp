@@ -7,8 +7,10 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
 constexpr int kMargine = 5; // pixels, the frame among them
-// What the tip shows of a list; its lines are narrower than the tip may be.
-constexpr std::size_t kColonne = 70, kRighe = 20;
+// What the tip shows of a list: its lines are narrower than the tip may be, and all of it fits into
+// the length of one.
+constexpr std::size_t kColonne = 70, kRighe = 12;
+static_assert((kColonne + 2) * (kRighe + 1) <= kCaratteriSuggerimento);
 
 } // namespace
 
