@@ -152,5 +152,5 @@ SCENARIO(mouse_e_stato) {
     s.FotoUguale();
     s.Clic(Nodo(3));
     s.ListaDiventa("3");
-    s.TestoDiventa("LabStato", "1 nodo selezionato\r\nclic: nodo 3");
+    s.TestoDiventa("LabStato", "1 nodo selezionato\r\nclic: nodo 3, già selezionato");
 }
