@@ -122,7 +122,7 @@ bool RiquadroDisegno::EstremiInPixel(double x1, double y1, double x2, double y2,
 }
 
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore) {
-    Line(x1, y1, x2, y2, colore, Tratteggio{});
+    Line(x1, y1, x2, y2, colore, kContinuo);
 }
 
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,

@@ -96,7 +96,6 @@ class RiquadroDisegno : public Controllo {
     // Each zone of the picture with them over it, as it is shown.
     using MostraParte = std::function<void(const Superficie &parte, const ZonaPixel &zona)>;
     void ComponiElastici(std::span<const ZonaPixel> zone, const MostraParte &mostra) const;
-    void ComponiElastici(Superficie &parte, const ZonaPixel &zona) const;
 
     // Between these two a picture that is asked for may be left out (Rimandata); the last Rilascia
     // asks Ridisegna for it. For events that come in a row, of which only the last one's picture is
@@ -117,6 +116,7 @@ class RiquadroDisegno : public Controllo {
     bool RitagliaLontano(double &x1, double &y1, double &x2, double &y2) const;
 
     Superficie superficie_;
+    mutable Superficie parte_;       // of ComponiElastici, kept: a new one makes its tables anew
     double scalaX_ = 1, scalaY_ = 1; // pixels per unit
     int trattenuta_ = 0;
     bool dovuta_ = false;

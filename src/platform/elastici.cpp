@@ -163,23 +163,18 @@ std::vector<ZonaPixel> RiquadroDisegno::ZoneElastici() const {
 void RiquadroDisegno::ComponiElastici(std::span<const ZonaPixel> zone,
                                       const MostraParte &mostra) const {
     const auto tratti = TrattiElastici();
-    Superficie parte;
     std::vector<const TrattoElastico *> qui; // a chain has hundreds of strokes, and of zones
     for (const ZonaPixel &zona : zone) {
-        parte.CopiaZona(superficie_, zona);
+        parte_.CopiaZona(superficie_, zona);
         for (const auto &cosa : tratti) {
             qui.clear();
             for (const TrattoElastico &t : cosa)
                 if (t.Tocca(zona)) qui.push_back(&t);
-            for (const TrattoElastico *t : qui) t->DisegnaScuro(parte, {zona.x, zona.y});
-            for (const TrattoElastico *t : qui) t->DisegnaChiaro(parte, {zona.x, zona.y});
+            for (const TrattoElastico *t : qui) t->DisegnaScuro(parte_, {zona.x, zona.y});
+            for (const TrattoElastico *t : qui) t->DisegnaChiaro(parte_, {zona.x, zona.y});
         }
-        mostra(parte, zona);
+        mostra(parte_, zona);
     }
-}
-
-void RiquadroDisegno::ComponiElastici(Superficie &parte, const ZonaPixel &zona) const {
-    ComponiElastici({&zona, 1}, [&](const Superficie &s, const ZonaPixel &) { parte = s; });
 }
 
 } // namespace telva

@@ -32,6 +32,7 @@ struct Tratteggio {
     // The same with dashes and gaps so many times as long.
     Tratteggio Ingrandito(double quanto) const;
 };
+inline const Tratteggio kContinuo;
 
 // Segments in pixels (fractions kept) from an origin; one that begins where the last one ended goes
 // on from there. A glyph in its size is one of these, drawn thousands of times.
@@ -89,7 +90,7 @@ class Superficie {
                                 const Tratteggio &tratteggio);
     // Any pen and pattern: one of the four lines above.
     void Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                 const Tratteggio &tratteggio = {});
+                 const Tratteggio &tratteggio = kContinuo);
     // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
     void Cerchio(Pixel centro, int raggio, int larghezza, std::uint32_t colore);
 

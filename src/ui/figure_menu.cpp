@@ -47,11 +47,12 @@ void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
 void DisegnaRetini(Superficie &s, int codice, double quanto, int penna) {
     const bool tutti = codice == kOgniTratto;
     const int prima = tutti ? 1 : codice, quanti = tutti ? 4 : 1;
+    const Retini retini(kStretto * quanto, penna);
     for (int k = 0; k < quanti; ++k) {
         const int da = k * s.Larghezza() / quanti, a = (k + 1) * s.Larghezza() / quanti;
         const std::array<Pixel, 4> angoli = {
             {{da, 0}, {a, 0}, {a, s.Altezza()}, {da, s.Altezza()}}};
-        RiempiRetino(s, angoli, prima + k, kSegno, kStretto * quanto, penna);
+        retini.Riempi(s, angoli, prima + k, kSegno);
     }
 }
 

@@ -97,11 +97,12 @@ void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
 
 void DisegnaGusci(const Stile &stile, const PostiNodi &posti) {
     RiquadroDisegno &d = FormTelva.Disegno;
+    const Retini retini(d.PixelOpzione(1), d.PennaOpzione(1));
     const auto disegna = [&](int s, bool sel) {
         const std::uint32_t colore = stile.Colore(sel, ColGuscio[s]);
         const auto &nodi = NodiGuscio[s];
         const auto angoli = static_cast<std::size_t>(NumeroAngoli(s));
-        DisegnaRetino(s, colore, posti);
+        retini.Disegna(s, colore, posti);
         d.DrawWidth = stile.Larghezza(sel);
         for (std::size_t c = 0; c < angoli; ++c)
             posti.Linea(nodi[c], nodi[c + 1 < angoli ? c + 1 : 0], colore);

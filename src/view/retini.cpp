@@ -12,31 +12,8 @@
 namespace telva {
 namespace {
 
-// A sheaf of parallel lines a*x + b*y = n*passo, in whole pixels of the picture: shells
-// of one type join up, and stacked ones (the floors of a building) do not add up to a solid colour.
-// `punti` > 0 draws dots that far apart instead, every second row shifted by half.
-struct Fascio {
-    int a, b, passo, punti = 0;
-    int penna = 1, punto = 2; // width of a line; length of a dot
-
-    Fascio Ingrandito(double quanto, int pennaVoluta) const {
-        const auto pixel = [=](int n) { return std::max(InteroVicino(n * quanto), 1); };
-        return {a,
-                b,
-                pixel(passo),
-                punti == 0 ? 0 : pixel(punti),
-                pennaVoluta,
-                std::max(pixel(punto), pennaVoluta)};
-    }
-};
-
-struct Retino {
-    int numero;
-    Fascio fasci[2];
-};
-
 // Wide steps: bars and labels have to stay readable through several shells.
-constexpr std::array<Retino, 9> kRetini = {{
+constexpr std::array<Retino, 9> kNormali = {{
     {0, {}},
     {1, {{0, 1, 16}}},              // horizontal
     {1, {{1, 0, 16}}},              // vertical
@@ -48,9 +25,15 @@ constexpr std::array<Retino, 9> kRetini = {{
     {1, {{0, 1, 8, 12}}},           // dotted
 }};
 
-bool HaRetino(int tipo) { return tipo > 0 && tipo < static_cast<int>(kRetini.size()); }
+bool HaRetino(int tipo) { return tipo > 0 && tipo < static_cast<int>(kNormali.size()); }
 
-constexpr int kLatoMinimo = 12; // pixels at 100 %; below this a hatch would only fill the shell
+constexpr double kLatoMinimo = 12; // pixels at 100 %
+
+Fascio Ingrandito(const Fascio &f, double quanto, int penna) {
+    const auto pixel = [=](int n) { return std::max(InteroVicino(n * quanto), 1); };
+    const int punti = f.punti == 0 ? 0 : pixel(f.punti);
+    return {f.a, f.b, pixel(f.passo), punti, penna, std::max(pixel(f.punto), penna)};
+}
 
 // Corners within +-2^28, so that the values of a family's lines there, and their differences, keep
 // within 32 bits.
@@ -119,18 +102,23 @@ void DisegnaFascio(Superficie &s, Poligono &p, const Fascio &f, std::uint32_t rg
 
 } // namespace
 
-void RiempiRetino(Superficie &s, std::span<const Pixel> angoli, int tipo, std::uint32_t rgb,
-                  double quanto, int penna) {
+Retini::Retini(double quanto, int penna) : latoMinimo_(kLatoMinimo * quanto), retini_(kNormali) {
+    for (Retino &retino : retini_)
+        for (int k = 0; k < retino.numero; ++k)
+            retino.fasci[k] = Ingrandito(retino.fasci[k], quanto, penna);
+}
+
+void Retini::Riempi(Superficie &s, std::span<const Pixel> angoli, int tipo,
+                    std::uint32_t rgb) const {
     if (!HaRetino(tipo)) return;
     Poligono p;
     p.numero = std::min(angoli.size(), p.vertici.size());
     std::copy_n(angoli.begin(), p.numero, p.vertici.begin());
-    const Retino &retino = kRetini[static_cast<std::size_t>(tipo)];
-    for (int k = 0; k < retino.numero; ++k)
-        DisegnaFascio(s, p, retino.fasci[k].Ingrandito(quanto, penna), rgb);
+    const Retino &retino = retini_[static_cast<std::size_t>(tipo)];
+    for (int k = 0; k < retino.numero; ++k) DisegnaFascio(s, p, retino.fasci[k], rgb);
 }
 
-void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
+void Retini::Disegna(int guscio, std::uint32_t colore, const PostiNodi &posti) const {
     const int tipo = TrattGuscio[guscio];
     if (!HaRetino(tipo)) return;
     std::array<Pixel, 4> angoli;
@@ -143,13 +131,11 @@ void DisegnaRetino(int guscio, std::uint32_t colore, const PostiNodi &posti) {
         minX = std::min(minX, v.x), maxX = std::max(maxX, v.x);
         minY = std::min(minY, v.y), maxY = std::max(maxY, v.y);
     }
-    RiquadroDisegno &d = FormTelva.Disegno;
-    Superficie &s = d.Immagine();
-    if (std::min(maxX - minX, maxY - minY) < d.PixelOpzione(kLatoMinimo) || maxX < 0 || maxY < 0 ||
+    Superficie &s = FormTelva.Disegno.Immagine();
+    if (std::min(maxX - minX, maxY - minY) < latoMinimo_ || maxX < 0 || maxY < 0 ||
         minX >= s.Larghezza() || minY >= s.Altezza())
         return;
-    RiempiRetino(s, std::span(angoli).first(quanti), tipo, APixelRGB(colore), d.PixelOpzione(1),
-                 d.PennaOpzione(1));
+    Riempi(s, std::span(angoli).first(quanti), tipo, APixelRGB(colore));
 }
 
 } // namespace telva

@@ -165,8 +165,8 @@ void Comanda(const std::string &righe) {
             Usa(controlli[static_cast<std::size_t>(numero(1)) % controlli.size()],
                 riga.substr(std::min<std::size_t>(riga.size(), 2)));
         }
-        static Superficie mostrata;
-        d.ComponiElastici(mostrata, {0, 0, d.Immagine().Larghezza(), d.Immagine().Altezza()});
+        const ZonaPixel tutto{0, 0, d.Immagine().Larghezza(), d.Immagine().Altezza()};
+        d.ComponiElastici({&tutto, 1}, [](const Superficie &, const ZonaPixel &) {});
     }
 }
 

@@ -5,6 +5,7 @@
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
 #include "sostegno/Banco.h"
+#include "sostegno/Composta.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/icone.h"
 #include "view/FunzDisegno.h"
@@ -371,9 +372,7 @@ TEST_F(Immagini, Elastici) {
     d.LineSposta.Y2 = 110;
     d.Shape.Visible = d.LineSposta.Visible = true;
     d.Anteprima = Sagoma{.linee = {{10, 60, 190, 75}}, .cerchi = {{160, 30, 10}}};
-    Superficie composta;
-    d.ComponiElastici(composta, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()});
-    ConfrontaImmagine(composta, "elastici");
+    ConfrontaImmagine(Composta(d, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()}), "elastici");
 }
 
 // Every icon at every size, over a light and a dark tool bar.

@@ -1,5 +1,5 @@
 // What is shown over the picture: where it lights pixels, and that its zones hold them all.
-#include "platform/disegno.h"
+#include "sostegno/Composta.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -31,11 +31,7 @@ struct ElasticiProva : ::testing::Test {
         d.LineSposta.Y2 = y2;
         d.LineSposta.Visible = true;
     }
-    Superficie Mostrata() {
-        Superficie tutto;
-        d.ComponiElastici(tutto, {0, 0, 300, 200});
-        return tutto;
-    }
+    Superficie Mostrata() { return Composta(d, {0, 0, 300, 200}); }
     // Pixels that differ from the picture, outside all the zones.
     int FuoriDalleZone() {
         const std::vector<ZonaPixel> zone = d.ZoneElastici();
@@ -89,8 +85,7 @@ TEST_F(ElasticiProva, UnaParteEUgualeAllaStessaParteDelTutto) {
     MostraRettangolo(30, 150, 200, 100);
     const Superficie tutto = Mostrata();
     const ZonaPixel zona{40, 30, 120, 90};
-    Superficie parte;
-    d.ComponiElastici(parte, zona);
+    const Superficie parte = Composta(d, zona);
     ASSERT_EQ(parte.Larghezza(), zona.larghezza);
     for (int y = 0; y < zona.altezza; ++y)
         for (int x = 0; x < zona.larghezza; ++x)
