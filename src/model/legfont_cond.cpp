@@ -84,11 +84,11 @@ void LeggiFont() {
         percorso = DirRoot + "\\font.001";
     FileTesto file;
     if (!EsisteFile(percorso))
-        MostraMessaggio("File " + CitaPercorso(percorso) + " inesistente!", Icona::Critica,
+        MostraMessaggio("File " + CitaPercorso(percorso) + " inesistente!", Gravita::Critica,
                         "Problema");
     else if (!file.Apri(percorso) || !LeggiCaratteri(file))
         MostraMessaggio("Errore in lettura del file " + CitaPercorso(percorso) + " !",
-                        Icona::Critica, "Problema");
+                        Gravita::Critica, "Problema");
 }
 
 } // namespace telva

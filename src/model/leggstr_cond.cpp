@@ -63,7 +63,7 @@ class LettoreStruttura {
         file_.LeggiRiga(riga);
         if (Minuscole(riga).find("release") != std::string::npos) return;
         MostraMessaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
-                        Icona::Critica, "Attenzione");
+                        Gravita::Critica, "Attenzione");
         FineProgramma(kFineDaSe);
     }
 
@@ -170,7 +170,7 @@ class LettoreStruttura {
             const double nome = ValoreCampo(ProssimoCampo(riga));
             if (nome > kNomeNodoMassimo) {
                 SegnalaIndice();
-                MostraMessaggio("Nome nodo maggiore di 32000.", Icona::Esclamazione,
+                MostraMessaggio("Nome nodo maggiore di 32000.", Gravita::Esclamazione,
                                 "ERRORE IN STRUTTUR.STR");
                 return false;
             }

@@ -58,7 +58,7 @@ void LeggiIngresso(std::string &sel) {
 void ScriviUscita() {
     const std::string testo(Rifila(FormTelva.StringaSel.Caption()));
     if (!ScriviFile(FileUscita(), AWindows1252(testo.empty() ? " " : testo) + "\r\n"))
-        MostraMessaggio(Messaggi[kMsgUscitaNonScritta], Icona::Critica, "Problema");
+        MostraMessaggio(Messaggi[kMsgUscitaNonScritta], Gravita::Critica, "Problema");
 }
 
 } // namespace telva

@@ -23,7 +23,7 @@ namespace {
 // The number of entries to read; over the limit the message comes at once and the limit holds.
 std::int16_t Limita(double numero, int limite, IndiceMessaggio messaggio) {
     numero = ArrotondaPari(numero);
-    if (numero > limite) MostraMessaggio(Messaggi[messaggio], Icona::Critica, "Problema");
+    if (numero > limite) MostraMessaggio(Messaggi[messaggio], Gravita::Critica, "Problema");
     return static_cast<std::int16_t>(std::clamp(numero, 0.0, double(limite)));
 }
 

@@ -23,7 +23,8 @@ enum class Esito { Riuscito, Fallito, Impedito };
 
 std::unique_ptr<FileScritto> CreaProvvisorio(const std::string &percorso) {
     for (int n = 0; n < kNomi; ++n)
-        if (auto file = InUso().Crea(percorso + kProvvisorio + InUso().Segno())) return file;
+        if (auto file = InUso().Crea(percorso + kProvvisorio + InUso().NumeroProprio()))
+            return file;
     return nullptr;
 }
 

@@ -41,7 +41,7 @@ class Disco {
     // Removes a file, unless somebody is writing it.
     virtual void Sgombra(const std::string &percorso) = 0;
     // A number that no other writer has: of the process and of the moment.
-    virtual std::string Segno() = 0;
+    virtual std::string NumeroProprio() = 0;
     // A pause in which somebody else may finish.
     virtual void Attendi() = 0;
 };

@@ -218,7 +218,7 @@ class Campione : public Controllo {
 
 // What the picture beside a menu item shows: a colour, a kind of line or a hatch, by its code.
 struct FiguraVoce {
-    enum class Genere { Nessuna, Colore, Tratto, Retino };
+    enum class Genere { Nessuna, Colore, Linea, Retino };
     Genere genere = Genere::Nessuna;
     int codice = 0;
     friend bool operator==(const FiguraVoce &, const FiguraVoce &) = default;

@@ -20,7 +20,7 @@ FunzioneFine &Fine() {
 }
 
 void ChiudiPerGuasto(const std::string &motivo) {
-    MostraMessaggio(motivo, Icona::Critica, "ERRORE");
+    MostraMessaggio(motivo, Gravita::Critica, "ERRORE");
     FineProgramma(kFineDaSe);
 }
 
@@ -29,8 +29,8 @@ void ChiudiPerGuasto(const std::string &motivo) {
 void ImpostaMessaggi(FunzioneMessaggio mostra) { Mostra() = std::move(mostra); }
 void ImpostaFine(FunzioneFine fine) { Fine() = std::move(fine); }
 
-void MostraMessaggio(const std::string &testo, Icona icona, const std::string &titolo) {
-    if (Mostra()) Mostra()(testo, icona, titolo);
+void MostraMessaggio(const std::string &testo, Gravita gravita, const std::string &titolo) {
+    if (Mostra()) Mostra()(testo, gravita, titolo);
 }
 
 void FineProgramma(int codice) {

@@ -6,10 +6,10 @@
 
 namespace telva {
 
-enum class Icona { Critica, Esclamazione, Informazione };
+enum class Gravita { Critica, Esclamazione, Informazione };
 
 // Modal box with one OK button.
-void MostraMessaggio(const std::string &testo, Icona icona, const std::string &titolo);
+void MostraMessaggio(const std::string &testo, Gravita gravita, const std::string &titolo);
 
 // Exit codes: the user ended the program, or it ended by itself (a bad start, a fault).
 inline constexpr int kFineUtente = 0, kFineDaSe = 1;
@@ -22,7 +22,7 @@ inline constexpr int kFineUtente = 0, kFineDaSe = 1;
 void EseguiProtetto(const std::function<void()> &evento);
 
 // What stands behind the two procedures above; the window system and the tests put theirs.
-using FunzioneMessaggio = std::function<void(const std::string &, Icona, const std::string &)>;
+using FunzioneMessaggio = std::function<void(const std::string &, Gravita, const std::string &)>;
 using FunzioneFine = std::function<void(int)>;
 void ImpostaMessaggi(FunzioneMessaggio mostra);
 void ImpostaFine(FunzioneFine fine);

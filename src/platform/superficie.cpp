@@ -264,7 +264,7 @@ void Superficie::Timbra(const Timbro &t, Pixel o, std::uint32_t colore) {
     }
 }
 
-const std::vector<Superficie::Tratto> &Superficie::Disco(int larghezza) {
+const std::vector<Superficie::Corsa> &Superficie::Disco(int larghezza) {
     auto &disco = dischi_[static_cast<std::size_t>(larghezza)];
     if (disco.empty()) {
         // An even pen has no middle pixel: its centre lies half a pixel up and left.
@@ -279,7 +279,7 @@ const std::vector<Superficie::Tratto> &Superficie::Disco(int larghezza) {
     return disco;
 }
 
-const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghezza) {
+const std::vector<Superficie::Corsa> &Superficie::Anello(int raggio, int larghezza) {
     if (raggio == raggioAnello_ && larghezza == pennaAnello_) return anello_;
     raggioAnello_ = raggio;
     pennaAnello_ = larghezza;
@@ -301,16 +301,16 @@ const std::vector<Superficie::Tratto> &Superficie::Anello(int raggio, int larghe
     return anello_;
 }
 
-void Superficie::TimbraForma(const std::vector<Tratto> &forma, Pixel c, int ingombro,
+void Superficie::TimbraForma(const std::vector<Corsa> &forma, Pixel c, int ingombro,
                              std::uint32_t colore) {
     if (c.x >= ingombro && c.y >= ingombro && c.x + ingombro < larghezza_ &&
         c.y + ingombro < altezza_) {
         std::uint32_t *centro = Scrivibile(c.y) + c.x;
-        for (const Tratto &t : forma)
+        for (const Corsa &t : forma)
             Stendi(centro + std::ptrdiff_t{t.y} * larghezza_ + t.xDa, t.xA - t.xDa + 1, colore);
         return;
     }
-    for (const Tratto &t : forma) Orizzontale(c.x + t.xDa, c.x + t.xA, c.y + t.y, colore);
+    for (const Corsa &t : forma) Orizzontale(c.x + t.xDa, c.x + t.xA, c.y + t.y, colore);
 }
 
 void Superficie::Cerchio(Pixel c, int raggio, int larghezza, std::uint32_t colore) {
@@ -387,7 +387,7 @@ bool Superficie::BandaInVista(Pixel a, Pixel b, int larghezza) const {
 // the surface.
 template <class Scrivi>
 void Superficie::PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga) {
-    const std::vector<Tratto> &disco = Disco(larghezza);
+    const std::vector<Corsa> &disco = Disco(larghezza);
     const Fascia fascia(a, b, larghezza);
     const int sopra = disco.front().y, sotto = disco.back().y;
     const auto righe = [&](int da, int fino, auto fai) {
@@ -398,7 +398,7 @@ void Superficie::PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga) {
         int xDa = INT_MAX, xA = INT_MIN;
         const auto comprendi = [&](int x, int i) {
             if (i < 0 || i > sotto - sopra) return;
-            const Tratto &t = disco[static_cast<std::size_t>(i)];
+            const Corsa &t = disco[static_cast<std::size_t>(i)];
             xDa = std::min(xDa, x + t.xDa);
             xA = std::max(xA, x + t.xA);
         };

@@ -98,7 +98,7 @@ class Superficie {
     static constexpr int kRaggioMassimo = 4096;
 
   private:
-    struct Tratto { // pixels xDa..xA of one row, relative to the centre
+    struct Corsa { // pixels xDa..xA of one row, relative to the centre
         int y, xDa, xA;
     };
     // A wide line in the colour that has not changed since: drawing it again would change nothing.
@@ -117,16 +117,16 @@ class Superficie {
     template <class Scrivi>
     void PercorriBanda(Pixel a, Pixel b, int larghezza, Scrivi riga);
     bool BandaInVista(Pixel a, Pixel b, int larghezza) const;
-    const std::vector<Tratto> &Disco(int larghezza);
-    const std::vector<Tratto> &Anello(int raggio, int larghezza);
-    void TimbraForma(const std::vector<Tratto> &forma, Pixel centro, int ingombro,
+    const std::vector<Corsa> &Disco(int larghezza);
+    const std::vector<Corsa> &Anello(int raggio, int larghezza);
+    void TimbraForma(const std::vector<Corsa> &forma, Pixel centro, int ingombro,
                      std::uint32_t colore);
 
     int larghezza_ = 0;
     int altezza_ = 0;
     std::vector<std::uint32_t> pixel_;
-    std::array<std::vector<Tratto>, kPennaMassima + 1> dischi_;
-    std::vector<Tratto> anello_; // of the radius and pen used last: a picture uses few
+    std::array<std::vector<Corsa>, kPennaMassima + 1> dischi_;
+    std::vector<Corsa> anello_; // of the radius and pen used last: a picture uses few
     int raggioAnello_ = -1;
     int pennaAnello_ = -1;
     std::vector<Tracciata> tracciate_;

@@ -43,12 +43,12 @@ class Tabella2 {
   public:
     explicit Tabella2(const char *nome) : nome_(NomeTabella(nome)) {}
 
-    T &operator()(int i, int j) { return voci_[Posto(i, j)]; }
-    const T &operator()(int i, int j) const { return voci_[Posto(i, j)]; }
+    T &operator()(int i, int j) { return voci_[Indice(i, j)]; }
+    const T &operator()(int i, int j) const { return voci_[Indice(i, j)]; }
     void Azzera() { voci_.fill(T{}); }
 
   private:
-    std::size_t Posto(int i, int j) const {
+    std::size_t Indice(int i, int j) const {
         if (static_cast<unsigned>(i) >= static_cast<unsigned>(N)) GuastoIndice(nome_, i, N - 1);
         if (static_cast<unsigned>(j) >= static_cast<unsigned>(M)) GuastoIndice(nome_, j, M - 1);
         return static_cast<std::size_t>(i) * static_cast<std::size_t>(M) +

@@ -120,12 +120,12 @@ class LettoreLista {
 class Insieme {
   public:
     explicit Insieme(const std::vector<std::int16_t> &numeri) : presenti_(65536, false) {
-        for (std::int16_t n : numeri) presenti_[Posto(n)] = true;
+        for (std::int16_t n : numeri) presenti_[Indice(n)] = true;
     }
-    bool Contiene(std::int16_t n) const { return presenti_[Posto(n)]; }
+    bool Contiene(std::int16_t n) const { return presenti_[Indice(n)]; }
 
   private:
-    static std::size_t Posto(std::int16_t n) { return static_cast<std::size_t>(n + 32768); }
+    static std::size_t Indice(std::int16_t n) { return static_cast<std::size_t>(n + 32768); }
     std::vector<bool> presenti_;
 };
 
@@ -133,11 +133,11 @@ class Insieme {
 bool Leggi(const std::string &testo, int capacita, std::vector<std::int16_t> &numeri) {
     switch (LeggiLista(testo, capacita, numeri)) {
     case EsitoLista::Troppi:
-        MostraMessaggio(Messaggi[kMsgTroppiNumeri], Icona::Esclamazione, "ERRORE");
+        MostraMessaggio(Messaggi[kMsgTroppiNumeri], Gravita::Esclamazione, "ERRORE");
         return false;
     case EsitoLista::FuoriLimiti:
         MostraMessaggio(" Numero fuori dai limiti ammessi (da -32768 a 32767) ",
-                        Icona::Esclamazione, "ERRORE");
+                        Gravita::Esclamazione, "ERRORE");
         return false;
     case EsitoLista::Riuscita: break;
     }
@@ -223,7 +223,7 @@ void EseguiRisposta() {
     if (!p) return;
     const int rifiuto = p->rifiuto[FormTelva.TipoElemento()];
     if (rifiuto >= 0)
-        MostraMessaggio(Messaggi[rifiuto], Icona::Informazione, "INFORMAZIONE");
+        MostraMessaggio(Messaggi[rifiuto], Gravita::Informazione, "INFORMAZIONE");
     else if (rifiuto == kAmmesso && !FormTelva.Risposta.Text().empty())
         p->seleziona(FormTelva.Risposta.Text(), SegnoFunzione());
 }

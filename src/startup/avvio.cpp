@@ -29,7 +29,7 @@ namespace telva {
 namespace {
 
 void MostraProblema(const std::string &testo) {
-    if (!testo.empty()) MostraMessaggio(testo, Icona::Critica, "Problema");
+    if (!testo.empty()) MostraMessaggio(testo, Gravita::Critica, "Problema");
 }
 
 // Sets the view up and draws, or applies what the caller wants selected.

@@ -30,8 +30,8 @@ bool CodiceAmmesso(std::string_view codice) {
     return !codice.empty() && codice != "." && codice.find("..") == std::string_view::npos;
 }
 
-[[noreturn]] void Termina(const std::string &testo, Icona icona = Icona::Esclamazione) {
-    MostraMessaggio(testo, icona, "ERRORE");
+[[noreturn]] void Termina(const std::string &testo, Gravita gravita = Gravita::Esclamazione) {
+    MostraMessaggio(testo, gravita, "ERRORE");
     FineProgramma(kFineDaSe);
 }
 
@@ -45,10 +45,10 @@ std::string RadiceDaArgomento() {
     const char *kMancante = "Avvio del programma: argomento non presente";
     const std::string argomento = Minuscole(ArgomentoAvvio);
     const std::size_t chiave = argomento.find(kChiave);
-    if (chiave == std::string::npos) Termina(kMancante, Icona::Critica);
+    if (chiave == std::string::npos) Termina(kMancante, Gravita::Critica);
     const std::size_t inizio = chiave + kChiave.size();
     const std::size_t fine = argomento.find('|', inizio);
-    if (fine == std::string::npos) Termina(kMancante, Icona::Critica);
+    if (fine == std::string::npos) Termina(kMancante, Gravita::Critica);
     return std::string(Rifila(std::string_view(argomento).substr(inizio, fine - inizio)));
 }
 

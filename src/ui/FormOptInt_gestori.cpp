@@ -17,7 +17,7 @@ namespace {
 void Command1_Click() {
     std::int16_t ok = 0;
     AggiornaOpzioniInterne_(ok);
-    if (ok == 0) MostraMessaggio(Messaggi[kMsgTrappolaNulla], Icona::Esclamazione, "ATTENZIONE");
+    if (ok == 0) MostraMessaggio(Messaggi[kMsgTrappolaNulla], Gravita::Esclamazione, "ATTENZIONE");
     MostraTrappola();
     FormOptInt.Chiudi();
 }

@@ -68,7 +68,7 @@ void LabelCol_Click(int indice) {
 void Salva_Opzioni() {
     AggiornaOpzioni();
     applicate = true;
-    MostraMessaggio(ScriviOpzioni(), Icona::Esclamazione, "INFORMAZIONE");
+    MostraMessaggio(ScriviOpzioni(), Gravita::Esclamazione, "INFORMAZIONE");
 }
 
 // Text of an entry as the box shows it.

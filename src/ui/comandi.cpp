@@ -31,7 +31,7 @@ void Linea() {
     SelezionaPerTipoLinea(Codice, SegnoFunzione());
 }
 template <std::int16_t Codice>
-void Tratto() {
+void Retino() {
     FinisciGesti();
     SelezionaPerTratteggio(Codice, SegnoFunzione());
 }
@@ -53,11 +53,11 @@ constexpr Comando VoceColore(VoceMenu &voce) {
 }
 template <std::int16_t Codice>
 constexpr Comando VoceLinea(VoceMenu &voce, const char *didascalia) {
-    return ConFigura(voce, didascalia, Linea<Codice>, {FiguraVoce::Genere::Tratto, Codice});
+    return ConFigura(voce, didascalia, Linea<Codice>, {FiguraVoce::Genere::Linea, Codice});
 }
 template <std::int16_t Codice>
-constexpr Comando VoceTratto(VoceMenu &voce, const char *didascalia) {
-    return ConFigura(voce, didascalia, Tratto<Codice>, {FiguraVoce::Genere::Retino, Codice});
+constexpr Comando VoceRetino(VoceMenu &voce, const char *didascalia) {
+    return ConFigura(voce, didascalia, Retino<Codice>, {FiguraVoce::Genere::Retino, Codice});
 }
 
 ModuloTelva &f = FormTelva;
@@ -104,15 +104,15 @@ constinit const Comando kComandi[] = {
     VoceLinea<4>(f.TipoLn5, "5"),
     VoceLinea<kOgniLinea>(f.TuttiLn, "Tutti"),
     {&f.TipoTratt, 1, "Tipo &tratteggio"},
-    VoceTratto<1>(f.TipoTr1, "1"),
-    VoceTratto<2>(f.TipoTr2, "2"),
-    VoceTratto<3>(f.TipoTr3, "3"),
-    VoceTratto<4>(f.TipoTr4, "4"),
-    VoceTratto<5>(f.TipoTr5, "5"),
-    VoceTratto<6>(f.TipoTr6, "6"),
-    VoceTratto<7>(f.TipoTr7, "7"),
-    VoceTratto<8>(f.TipoTr8, "8"),
-    VoceTratto<kOgniTratto>(f.TuttiTr, "Tutti"),
+    VoceRetino<1>(f.TipoTr1, "1"),
+    VoceRetino<2>(f.TipoTr2, "2"),
+    VoceRetino<3>(f.TipoTr3, "3"),
+    VoceRetino<4>(f.TipoTr4, "4"),
+    VoceRetino<5>(f.TipoTr5, "5"),
+    VoceRetino<6>(f.TipoTr6, "6"),
+    VoceRetino<7>(f.TipoTr7, "7"),
+    VoceRetino<8>(f.TipoTr8, "8"),
+    VoceRetino<kOgniTratto>(f.TuttiTr, "Tutti"),
     {&f.Materiale, 1, "&Materiale", 0, Scheda<kMateriale>},
     {&f.SchSezione, 1, "Sezione", 0, Scheda<kSezione>},
     {&f.SchSpessore, 1, "Spessore", 0, Scheda<kSpessore>},

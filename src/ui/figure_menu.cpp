@@ -67,7 +67,7 @@ Figura DisegnaFigura(const FiguraVoce &voce, int altezza, double quanto) {
     Superficie s;
     s.Ridimensiona(larghezza, altezza);
     s.Riempi(APixelRGB(colore ? ColoreRGB(voce.codice) : FormTelva.Disegno.BackColor));
-    if (voce.genere == Genere::Tratto) DisegnaLinee(s, voce.codice, quanto, penna);
+    if (voce.genere == Genere::Linea) DisegnaLinee(s, voce.codice, quanto, penna);
     if (voce.genere == Genere::Retino) DisegnaRetini(s, voce.codice, quanto, penna);
     Incornicia(s, penna);
     Figura figura{larghezza, altezza, {s.Riga(0), s.Riga(altezza)}};

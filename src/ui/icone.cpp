@@ -9,7 +9,7 @@ namespace telva {
 
 namespace {
 
-enum class Segno {
+enum class Specie {
     Spezzata, // open polyline
     Chiusa,   // outline of a polygon
     Pieno,    // polygon with its outline, in one colour
@@ -26,14 +26,14 @@ enum class Modo {
 
 // One stroke of an icon; coordinates and width in units of the 16-unit grid.
 struct Forma {
-    Segno segno;
+    Specie specie;
     std::uint32_t colore;
     double larghezza;
     std::vector<PuntoIcona> punti;
     Modo modo = Modo::Agganciato;
 };
 
-struct Figura {
+struct Icona {
     std::string_view chiave;
     int latoMinimo; // the last row of a key that fits the side is used
     std::vector<Forma> forme;
@@ -51,13 +51,13 @@ constexpr std::uint32_t kTintaCiano = 0xFF0C95AD; // selected
 constexpr std::uint32_t kTintaTessera = 0xFF1D2B3A, kTintaTelaio = 0xFFB9C6D3,
                         kTintaFondo = 0xFF6C8197, kTintaScelta = 0xFF22D3EE;
 
-using enum Segno;
+using enum Specie;
 using enum Modo;
 
 // Long only by the rows of its table.
-const std::vector<Figura> &Figure() {
+const std::vector<Icona> &Icone() {
     // clang-format off
-    static const std::vector<Figura> figure = {
+    static const std::vector<Icona> icone = {
         {"AggiornaEsci", 0, {
             {Pieno, kTintaCarta, 1, {{1.5, 0.5}, {7.5, 0.5}, {10.5, 3.5}, {10.5, 14.5}, {1.5, 14.5}}},
             {Spezzata, kTintaLinea, 1, {{10.5, 8.5}, {10.5, 3.5}, {7.5, 0.5}, {1.5, 0.5}, {1.5, 14.5},
@@ -156,7 +156,7 @@ const std::vector<Figura> &Figure() {
         }},
     };
     // clang-format on
-    return figure;
+    return icone;
 }
 
 std::vector<PuntoIcona> Punti(const Forma &forma, const GrigliaIcona &griglia) {
@@ -175,17 +175,17 @@ void Traccia(TrattoIcona &tratto, const Forma &forma, const GrigliaIcona &grigli
     const double larghezza =
         giunta + (libero ? griglia.Pixel(forma.larghezza) : griglia.Larghezza(forma.larghezza));
     const std::span<const PuntoIcona> tutti = punti;
-    if (forma.segno == Arco) {
+    if (forma.specie == Arco) {
         const double raggio = griglia.Pixel(forma.punti[1].x);
         tratto.Arco(punti[0], libero ? raggio : std::round(raggio), forma.punti[2].x,
                     forma.punti[2].y, larghezza);
-    } else if (forma.segno == Dischi || forma.segno == Segmenti) {
-        const std::size_t passo = forma.segno == Dischi ? 1 : 2;
+    } else if (forma.specie == Dischi || forma.specie == Segmenti) {
+        const std::size_t passo = forma.specie == Dischi ? 1 : 2;
         for (std::size_t k = 0; k + passo <= tutti.size(); k += passo)
             tratto.Spezzata(tutti.subspan(k, passo), larghezza);
     } else {
-        if (forma.segno == Pieno) tratto.Poligono(tutti);
-        if (forma.segno != Spezzata) punti.push_back(punti.front());
+        if (forma.specie == Pieno) tratto.Poligono(tutti);
+        if (forma.specie != Spezzata) punti.push_back(punti.front());
         tratto.Spezzata(punti, larghezza);
     }
 }
@@ -194,9 +194,9 @@ void Traccia(TrattoIcona &tratto, const Forma &forma, const GrigliaIcona &grigli
 
 std::vector<std::uint32_t> DisegnaIcona(std::string_view chiave, int lato) {
     TrattoIcona tratto(lato);
-    const Figura *scelta = nullptr;
-    for (const Figura &figura : Figure())
-        if (figura.chiave == chiave && lato >= figura.latoMinimo) scelta = &figura;
+    const Icona *scelta = nullptr;
+    for (const Icona &icona : Icone())
+        if (icona.chiave == chiave && lato >= icona.latoMinimo) scelta = &icona;
     if (scelta == nullptr || lato < 1) return tratto.Pixel();
     const GrigliaIcona griglia(lato);
     for (const Forma &forma : scelta->forme) {

@@ -15,11 +15,11 @@ namespace {
 
 // Where the pointer rests on the drawing: in drawing units as the event told it, and in pixels,
 // which stay when the view moves under it.
-struct Posto {
+struct PostoPuntatore {
     double x, y;
     double px, py;
 };
-std::optional<Posto> puntatore;
+std::optional<PostoPuntatore> puntatore;
 EffettoClic effetto = EffettoClic::Nessuno;
 ElementiPresi preda;
 
@@ -43,7 +43,7 @@ void TrovaElementi(double x, double y) {
 }
 
 // In the scale of the event, or in another that has come since.
-void CercaSotto(const Posto &p) {
+void CercaSotto(const PostoPuntatore &p) {
     const RiquadroDisegno &d = FormTelva.Disegno;
     const bool stessa = d.XPixel(p.x) == p.px && d.YPixel(p.y) == p.py;
     TrovaElementi(stessa ? p.x : d.XEvento(d.XDaPixel(p.px)),
@@ -83,7 +83,7 @@ void MostraPreda() {
 
 void PuntatoreSu(double x, double y) {
     const RiquadroDisegno &d = FormTelva.Disegno;
-    puntatore = Posto{x, y, d.XPixel(x), d.YPixel(y)};
+    puntatore = PostoPuntatore{x, y, d.XPixel(x), d.YPixel(y)};
 }
 void PuntatoreFuori() { puntatore.reset(); }
 

@@ -21,7 +21,7 @@ bool Controlla(CasellaNumero &casella, const char *messaggio, const char *consig
     if (casella.Valida() || casella.Text == casella.Accolto()) return true;
     const std::string testo = casella.Text;
     casella.Ripristina();
-    MostraMessaggio(messaggio + Cita(testo) + consiglio, Icona::Critica, "ERRORE");
+    MostraMessaggio(messaggio + Cita(testo) + consiglio, Gravita::Critica, "ERRORE");
     casella.SetFocus();
     return false;
 }

@@ -47,7 +47,7 @@ struct Stile {
     }
     int Larghezza(bool sel) const { return sel ? pixelSel : pixelNonSel; }
     // Only a pen of one pixel, at whatever scale, shows the line type.
-    const Tratteggio &Tratto(bool sel, int tipo) const {
+    const Tratteggio &TratteggioAsta(bool sel, int tipo) const {
         const bool tipizzata = (sel ? pennaSel : pennaNonSel) == 1 && tipo > 0 && tipo < kTipiLinea;
         return tratti[tipizzata ? static_cast<std::size_t>(tipo) : 0];
     }
@@ -88,7 +88,7 @@ void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
     const auto disegna = [&](int b, bool sel) {
         d.DrawWidth = stile.Larghezza(sel);
         posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
-                    stile.Tratto(sel, TipoLinAsta[b]));
+                    stile.TratteggioAsta(sel, TipoLinAsta[b]));
     };
     SelezionatiPerUltimi(
         NumAste, AstaDisegnata, [&](int b) { return evidenziate[static_cast<std::size_t>(b)]; },
@@ -116,7 +116,7 @@ void DisegnaNodi(const Stile &stile, const PostiNodi &posti) {
     const int raggio =
         d.RaggioInPixel(d.PixelOpzione(OpzioneNumero(kOpzRaggioNodo)) * d.UnitaPerPixel());
     const auto disegna = [&](int i, bool sel) {
-        const std::optional<Pixel> centro = posti.Posto(i);
+        const std::optional<Pixel> centro = posti.InPixel(i);
         if (!centro) return; // far outside
         d.DrawWidth = stile.Larghezza(sel);
         d.Circle(*centro, raggio, stile.Colore(sel, ColNodo[i]));

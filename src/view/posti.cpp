@@ -29,7 +29,7 @@ Pixel PostiNodi::Leggi(int i) const {
     return posto < posti_.size() ? posti_[posto] : Calcola(i);
 }
 
-std::optional<Pixel> PostiNodi::Posto(int i) const {
+std::optional<Pixel> PostiNodi::InPixel(int i) const {
     const Pixel p = Leggi(i);
     return p.x == kLontano ? std::nullopt : std::optional(p);
 }

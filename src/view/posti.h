@@ -15,7 +15,7 @@ class PostiNodi {
     explicit PostiNodi(RiquadroDisegno &d);
 
     // Nearest pixel of node i; nothing when whole pixels cannot name it.
-    std::optional<Pixel> Posto(int i) const;
+    std::optional<Pixel> InPixel(int i) const;
     // The line between two nodes, as RiquadroDisegno::Line.
     void Linea(int i, int j, std::uint32_t colore, const Tratteggio &tratteggio = kContinuo) const;
 

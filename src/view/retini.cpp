@@ -125,7 +125,7 @@ void Retini::Disegna(int guscio, std::uint32_t colore, const PostiNodi &posti) c
     const auto quanti = static_cast<std::size_t>(NumeroAngoli(guscio));
     int minX = INT32_MAX, maxX = INT32_MIN, minY = INT32_MAX, maxY = INT32_MIN;
     for (std::size_t c = 0; c < quanti; ++c) {
-        const std::optional<Pixel> posto = posti.Posto(NodiGuscio[guscio][c]);
+        const std::optional<Pixel> posto = posti.InPixel(NodiGuscio[guscio][c]);
         if (!posto) return;
         const Pixel v = angoli[c] = *posto;
         minX = std::min(minX, v.x), maxX = std::max(maxX, v.x);

@@ -34,7 +34,7 @@ bool Vicini(double x1, double y1, double x2, double y2) {
     return std::abs(x1 - x2) < kVicino && std::abs(y1 - y2) < kVicino;
 }
 
-void Avverti(const char *testo) { MostraMessaggio(testo, Icona::Esclamazione, "Problema"); }
+void Avverti(const char *testo) { MostraMessaggio(testo, Gravita::Esclamazione, "Problema"); }
 
 void RegistraTesto(std::string_view testo, double x, double y) {
     if (TestiDis.size() >= kTestiDis) return;
@@ -102,7 +102,7 @@ struct Misura {
 // ones are drawn stroke by stroke.
 class CaratteriInScala {
   public:
-    enum class Passata { Contorno, Segno };
+    enum class Passata { Contorno, Interno };
 
     void Disegna(Passata passata, int codice, const Misura &misura, double x, double y,
                  std::uint32_t colore, RiquadroDisegno &d) {
@@ -131,7 +131,7 @@ class CaratteriInScala {
             c.fatti[forma] = true;
         }
         const Pixel origine{(ix - fx) / kFrazioni, (iy - fy) / kFrazioni};
-        if (passata == Passata::Segno) return d.Timbra(c.timbri[forma], origine, colore);
+        if (passata == Passata::Interno) return d.Timbra(c.timbri[forma], origine, colore);
         if (c.contorni[forma].pixel.empty()) c.contorni[forma].Contorna(c.timbri[forma], penna);
         d.Timbra(c.contorni[forma], origine, colore);
     }
@@ -224,7 +224,7 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
     const std::uint32_t rgb = ColoreRGB(colore.value_or(0));
     PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
         if (bersaglio)
-            Caratteri().Disegna(Passata::Segno, codice, misura, ox, oy, rgb, *bersaglio);
+            Caratteri().Disegna(Passata::Interno, codice, misura, ox, oy, rgb, *bersaglio);
         else
             RegistraCarattere(codice, misura, ox, oy, colore);
     });

@@ -62,7 +62,7 @@ class DiscoFinto : public Disco {
     }
     std::vector<std::string> Accanto(const std::string &) override { return {}; }
     void Sgombra(const std::string &) override {}
-    std::string Segno() override { return {}; }
+    std::string NumeroProprio() override { return {}; }
     void Attendi() override {}
 };
 

@@ -22,7 +22,7 @@ struct Legfont : Banco {
         return punti;
     }
     Messaggio ErroreInLettura() const {
-        return {"Errore in lettura del file " + DirProgra + "\\font.001 !", Icona::Critica,
+        return {"Errore in lettura del file " + DirProgra + "\\font.001 !", Gravita::Critica,
                 "Problema"};
     }
 };
@@ -88,7 +88,7 @@ TEST_F(Legfont, SenzaUnNumeroInTestaIlFileEErrato) {
 TEST_F(Legfont, SiCercaNellaCartellaDeiProgrammiPoiInQuellaDiBase) {
     LeggiFont();
     EXPECT_EQ(messaggi, (std::vector<Messaggio>{{"File " + DirProgra + "\\font.001 inesistente!",
-                                                 Icona::Critica, "Problema"}}));
+                                                 Gravita::Critica, "Problema"}}));
     Scrivi("font.001", "0\nA01020304\n");
     LeggiFont();
     EXPECT_EQ(NumPtFont['A'], 2) << "from the root";

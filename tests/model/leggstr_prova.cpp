@@ -145,7 +145,7 @@ TEST_F(Leggstr, UnFileInaccettabileSiSpiegaConRigaEMotivo) {
         EXPECT_EQ(codiceFine, 1) << testo;
         const std::string detto =
             "File " + DirLavoro + "\\STRUTTUR.STR, riga " + std::to_string(riga) + ": " + motivo;
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{detto, Icona::Critica, "ERRORE"}})) << testo;
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{detto, Gravita::Critica, "ERRORE"}})) << testo;
     }
 }
 
@@ -155,7 +155,7 @@ TEST_F(Leggstr, UnaVersioneVecchiaChiudeIlProgramma) {
     EXPECT_EQ(messaggi,
               (std::vector<Messaggio>{
                   {"Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Zorel'",
-                   Icona::Critica, "Attenzione"}}));
+                   Gravita::Critica, "Attenzione"}}));
 }
 
 } // namespace telva::prove

@@ -63,7 +63,7 @@ TEST_F(Scambio, UnUscitaCheNonSiPuoScrivereSiDiceELasciaLaVecchia) {
     EXPECT_EQ(Leggi("TelvaOut.txt"), "vecchia\r\n");
     EXPECT_EQ(messaggi,
               (std::vector<Messaggio>{{" Non \u00E8 possibile scrivere il file di uscita ",
-                                       Icona::Critica, "Problema"}}));
+                                       Gravita::Critica, "Problema"}}));
 }
 
 } // namespace telva::prove

@@ -58,7 +58,7 @@ TEST_F(Tabelle, OltreIlLimiteSiAvvisaESiLeggonoLePrime) {
         Scrivi(e.file, Ripetuta(e.limite + 1, e.scheda));
         EXPECT_EQ(e.leggi(), "") << e.file;
         EXPECT_EQ(e.letti, e.limite) << e.file;
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{e.troppe, Icona::Critica, "Problema"}}));
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{e.troppe, Gravita::Critica, "Problema"}}));
     }
     EXPECT_EQ(MatSpessore[99], 7);
     EXPECT_EQ(ValSpessore[99], 2.5);
@@ -121,7 +121,7 @@ TEST_F(Tabelle, UnElementoContinuoErratoSiSpiegaConRigaEMotivo) {
         EXPECT_EQ(codiceFine, 1) << '"' << c.file << '"';
         const std::string testo = "File " + DirLavoro + "\\el_conti.tmp, riga " +
                                   std::to_string(c.riga) + ": " + c.motivo;
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Icona::Critica, "ERRORE"}}));
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Gravita::Critica, "ERRORE"}}));
     }
 }
 

@@ -129,7 +129,7 @@ std::string Caso::Elenco() {
 }
 
 // At a node, between nodes or anywhere; or beside, where a rule ends.
-Punto Caso::Posto(const Modello &m) {
+Punto Caso::PuntoScelto(const Modello &m) {
     const auto punto = [&] { return m.punti[Tira(m.punti.size())]; };
     const Punto a = punto(), b = punto(), c = punto();
     const double s = Tira(5) / 4.0, u = Tira(1000) / 1e3, v = Tira(1000) / 1e3;
@@ -160,7 +160,7 @@ PassoCasuale Caso::Filtri() {
 }
 
 PassoCasuale Caso::Vista(const Modello &m, const PassoCasuale &trascina) {
-    const Punto p = Posto(m);
+    const Punto p = PuntoScelto(m);
     const auto rotella = [](int passi) { return [=](auto &chi) { chi.Rotella(passi); }; };
     const int tasto = Una({37, 38, 39, 40, 107, 109, 187, 189, int{'A'}}); // arrows, + and -
     return Una<PassoCasuale>(
@@ -229,7 +229,7 @@ PassoCasuale Caso::Passo(const Modello &m) {
     case 13: return menu(FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo());
     default: break;
     }
-    const Punto p = Posto(m);
+    const Punto p = PuntoScelto(m);
     if (quale == 0) return [=](auto &chi) { chi.Muovi(p.x, p.y); };
     return [=](auto &chi) { chi.Clic(p.x, p.y); };
 }

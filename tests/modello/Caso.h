@@ -33,7 +33,7 @@ class Caso {
     }
     std::string Testo(std::initializer_list<const char *> scelte) { return Una(scelte); }
     std::string Elenco();
-    Punto Posto(const Modello &m);
+    Punto PuntoScelto(const Modello &m);
     PassoCasuale Filtri();
     PassoCasuale Vista(const Modello &m, const PassoCasuale &trascina);
     PassoCasuale Casella(int quale);

@@ -69,8 +69,8 @@ Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro
     }
 }
 
-void Modello::Dice(const std::string &testo, const char *titolo, int icona) {
-    messaggi += titolo + std::to_string(icona) + testo;
+void Modello::Dice(const std::string &testo, const char *titolo, int gravita) {
+    messaggi += titolo + std::to_string(gravita) + testo;
 }
 
 void Modello::Avvio(const Ingresso &ingresso) {

@@ -115,7 +115,7 @@ struct Modello {
     Punto AlPixel(double x, double y) const;
 
   private:
-    void Dice(const std::string &testo, const char *titolo, int icona);
+    void Dice(const std::string &testo, const char *titolo, int gravita);
 
     // --- the view
     void InteroIntervallo(int asse);
@@ -140,8 +140,8 @@ struct Modello {
     void AggiornaLista();
     // Writes the flag of those of the chosen kind that are active and fit; `vale` is asked about
     // the element, of a continuous one about each of its bars.
-    template <class Vale, class Segno>
-    void Segna(Vale vale, Segno segno);
+    template <class Vale, class Azione>
+    void Segna(Vale vale, Azione azione);
     void Attributo(const std::string &menu, int codice);
     void Numeri(const std::string &proprieta, const std::string &elenco);
     void AzzeraInput();
@@ -175,8 +175,8 @@ struct Modello {
     Punto linea0_{};              // where a pan or a drag began
 };
 
-template <class Vale, class Segno>
-void Modello::Segna(Vale vale, Segno segno) {
+template <class Vale, class Azione>
+void Modello::Segna(Vale vale, Azione azione) {
     const auto asta = [&](int b) {
         return b >= 0 && elementi[Aste][b].attivo && vale(elementi[Aste][b]);
     };
@@ -184,7 +184,7 @@ void Modello::Segna(Vale vale, Segno segno) {
     for (Elemento &e : elementi[tipo]) {
         bool va = tipo == Continui || (e.attivo && vale(e));
         for (const int b : e.aste) va = va && asta(b);
-        if (va) segno(e);
+        if (va) azione(e);
     }
 }
 

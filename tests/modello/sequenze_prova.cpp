@@ -158,7 +158,7 @@ struct SequenzeProva : Utente {
         ConfrontaElementi(c, m);
         std::string detti;
         for (const Messaggio &x : messaggi)
-            detti += x.titolo + std::to_string(static_cast<int>(x.icona)) + x.testo;
+            detti += x.titolo + std::to_string(static_cast<int>(x.gravita)) + x.testo;
         c.Uguali("messages", detti, m.messaggi);
         messaggi.clear();
         m.messaggi.clear();

@@ -101,7 +101,7 @@ TEST_F(Scritture, UnNomeProvvisorioGiaPresoNonSiTocca) {
     std::error_code senzaLegami;
     fs::create_symlink("altrui.txt", Cartella() / "f.txt.~3", senzaLegami);
     DiscoGuasto disco;
-    disco.segni = {"4", "3", "2", "1"};
+    disco.numeri = {"4", "3", "2", "1"};
     EXPECT_TRUE(ScriviFile(File(), kNuovo));
     EXPECT_EQ(Leggi("f.txt"), kNuovo);
     EXPECT_EQ(Leggi("f.txt.~1"), "di un programma ucciso");

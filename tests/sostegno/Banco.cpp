@@ -60,14 +60,14 @@ const bool kRacconta = [] {
 } // namespace
 
 void PrintTo(const Messaggio &m, std::ostream *os) {
-    *os << "[" << m.titolo << "/" << static_cast<int>(m.icona) << "] \"" << m.testo << "\"";
+    *os << "[" << m.titolo << "/" << static_cast<int>(m.gravita) << "] \"" << m.testo << "\"";
 }
 
 Banco::Banco() : prima_(fs::current_path()), temporanea_(CartellaNuova()), radice_(kRadice) {
     fs::current_path(temporanea_);
     AzzeraProgramma();
-    ImpostaMessaggi([this](const std::string &testo, Icona icona, const std::string &titolo) {
-        messaggi.push_back({testo, icona, titolo});
+    ImpostaMessaggi([this](const std::string &testo, Gravita gravita, const std::string &titolo) {
+        messaggi.push_back({testo, gravita, titolo});
     });
     ImpostaFine([](int codice) { throw Termine{codice}; });
 }

@@ -15,7 +15,7 @@ namespace telva::prove {
 
 struct Messaggio {
     std::string testo;
-    Icona icona;
+    Gravita gravita;
     std::string titolo;
     friend bool operator==(const Messaggio &, const Messaggio &) = default;
 };

@@ -11,7 +11,7 @@ class DiscoGuasto : public Disco {
     bool nessunProvvisorio = false;         // it takes none with the name of a temporary
     int sostituzioniNegate = 0;             // so many times somebody holds the file to be replaced
     int apertureNegate = 0;                 // so many times somebody else is writing the file
-    std::vector<std::string> segni;         // of the next temporaries, the last one first
+    std::vector<std::string> numeri;        // of the next temporaries, the last one first
     int attese = 0;                         // pauses that were asked for
 
     DiscoGuasto() { ImpostaDisco(this); }
@@ -41,11 +41,11 @@ class DiscoGuasto : public Disco {
         return vero_.Accanto(percorso);
     }
     void Sgombra(const std::string &percorso) override { vero_.Sgombra(percorso); }
-    std::string Segno() override {
-        if (segni.empty()) return vero_.Segno();
-        const std::string segno = segni.back();
-        segni.pop_back();
-        return segno;
+    std::string NumeroProprio() override {
+        if (numeri.empty()) return vero_.NumeroProprio();
+        const std::string numero = numeri.back();
+        numeri.pop_back();
+        return numero;
     }
     void Attendi() override { ++attese; }
 

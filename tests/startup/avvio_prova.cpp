@@ -24,11 +24,11 @@ TEST_F(AvvioProva, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
     const std::string lavoro = Radice() + "\\lavori\\prova1\\";
     const std::string manca = " Impossibile leggere il file " + lavoro;
     const std::vector<Messaggio> attesi = {
-        {"File " + Radice() + "\\progra\\font.001 inesistente!", Icona::Critica, "Problema"},
-        {manca + "spessori", Icona::Critica, "Problema"},
-        {manca + "sezioni_", Icona::Critica, "Problema"},
-        {manca + "el_conti.tmp", Icona::Critica, "Problema"},
-        {"Errore nella lettura della struttura", Icona::Critica, "Problema"}};
+        {"File " + Radice() + "\\progra\\font.001 inesistente!", Gravita::Critica, "Problema"},
+        {manca + "spessori", Gravita::Critica, "Problema"},
+        {manca + "sezioni_", Gravita::Critica, "Problema"},
+        {manca + "el_conti.tmp", Gravita::Critica, "Problema"},
+        {"Errore nella lettura della struttura", Gravita::Critica, "Problema"}};
     EXPECT_EQ(messaggi, attesi);
 }
 
@@ -39,8 +39,8 @@ TEST_F(AvvioProva, MezzaStrutturaNonSiDisegna) {
     ScriviLavoro(l);
     EXPECT_TRUE(Avvia());
     const std::vector<Messaggio> attesi = {
-        {"Nome nodo maggiore di 32000.", Icona::Esclamazione, "ERRORE IN STRUTTUR.STR"},
-        {"Errore nella lettura della struttura", Icona::Critica, "Problema"}};
+        {"Nome nodo maggiore di 32000.", Gravita::Esclamazione, "ERRORE IN STRUTTUR.STR"},
+        {"Errore nella lettura della struttura", Gravita::Critica, "Problema"}};
     EXPECT_EQ(messaggi, attesi);
     Ridimensiona(15000, 11400);
     const Superficie &s = FormTelva.Disegno.Immagine();

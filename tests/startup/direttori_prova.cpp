@@ -65,7 +65,7 @@ TEST_F(DirettoriProva, ImpostazioniSbagliateFermanoIlProgramma) {
     struct Caso {
         Impostazioni impostazioni;
         std::string testo;
-        Icona icona = Icona::Esclamazione;
+        Gravita gravita = Gravita::Esclamazione;
     };
     const std::string senzaFine = "|diroot=" + radice;
     const std::string manca = "Avvio del programma: argomento non presente";
@@ -77,11 +77,11 @@ TEST_F(DirettoriProva, ImpostazioniSbagliateFermanoIlProgramma) {
     const std::string codice = "Errore: codice di lavoro non ammesso: ";
     const std::string buono = "ab12cd";
     const Caso casi[] = {
-        {.impostazioni = {"", lavori, buono}, .testo = manca, .icona = Icona::Critica},
+        {.impostazioni = {"", lavori, buono}, .testo = manca, .gravita = Gravita::Critica},
         {.impostazioni = {"|LAVORO=ab12cd|", lavori, buono},
          .testo = manca,
-         .icona = Icona::Critica},
-        {.impostazioni = {senzaFine, lavori, buono}, .testo = manca, .icona = Icona::Critica},
+         .gravita = Gravita::Critica},
+        {.impostazioni = {senzaFine, lavori, buono}, .testo = manca, .gravita = Gravita::Critica},
         {.impostazioni = {"|diroot=ab|", lavori, buono},
          .testo = "Errore: file ab\\impostazioni\\dirlav errato o mancante"},
         {.impostazioni = {argomento, "", buono}, .testo = dirlav},
@@ -99,11 +99,11 @@ TEST_F(DirettoriProva, ImpostazioniSbagliateFermanoIlProgramma) {
          .testo = codice + "..\\..\\"},
         {.impostazioni = {argomento + "|LAVORO=a|\\..\\", lavori, buono},
          .testo = codice + "a|\\..\\"}};
-    for (const auto &[impostazioni, testo, icona] : casi) {
+    for (const auto &[impostazioni, testo, gravita] : casi) {
         SCOPED_TRACE(impostazioni.argomento + " " + impostazioni.dirlav + " " +
                      impostazioni.lavoro);
         EXPECT_FALSE(Prosegue(impostazioni));
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, icona, "ERRORE"}}));
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, gravita, "ERRORE"}}));
         EXPECT_EQ(codiceFine, 1);
     }
 }

@@ -96,7 +96,7 @@ TEST_F(ComandiProva, UnGuastoFinisceConUnoENonScrive) {
     EXPECT_EQ(codiceFine, 1);
     EXPECT_EQ(Uscita(), "<assente>");
     ASSERT_EQ(messaggi.size(), 1u);
-    EXPECT_EQ(messaggi[0].icona, Icona::Critica);
+    EXPECT_EQ(messaggi[0].gravita, Gravita::Critica);
     EXPECT_EQ(messaggi[0].titolo, "ERRORE");
 }
 

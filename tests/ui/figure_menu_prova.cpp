@@ -34,8 +34,8 @@ TEST_F(FigureMenu, UnaVoceMostraIlCodiceCheSeleziona) {
                           {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = 9}},
                           {.voce = "TuttiCol", .figura = {}},
                           {.voce = "TipoPt1", .figura = {}},
-                          {.voce = "TipoLn1", .figura = {.genere = Genere::Tratto, .codice = 0}},
-                          {.voce = "TipoLn5", .figura = {.genere = Genere::Tratto, .codice = 4}},
+                          {.voce = "TipoLn1", .figura = {.genere = Genere::Linea, .codice = 0}},
+                          {.voce = "TipoLn5", .figura = {.genere = Genere::Linea, .codice = 4}},
                           {.voce = "TipoTr1", .figura = {.genere = Genere::Retino, .codice = 1}},
                           {.voce = "TipoTr8", .figura = {.genere = Genere::Retino, .codice = 8}},
                           {.voce = "Materiale", .figura = {}}})

@@ -11,7 +11,7 @@ namespace telva::prove {
 
 struct SalvaDis : Banco {
     void Avvisa(const char *testo) {
-        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Icona::Esclamazione, "Problema"}}));
+        EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Gravita::Esclamazione, "Problema"}}));
         messaggi.clear();
     }
 };

@@ -136,7 +136,7 @@ class DiscoPosix : public Disco {
         ::close(file);
     }
 
-    std::string Segno() override {
+    std::string NumeroProprio() override {
         static std::atomic<unsigned> numero = 0;
         char segno[48];
         const auto ora = std::chrono::system_clock::now().time_since_epoch().count();

@@ -171,7 +171,7 @@ class DiscoWindows : public Disco {
     // Fails, as it should, for a folder and for a file that somebody is writing.
     void Sgombra(const std::string &percorso) override { DeleteFileW(ALargo(percorso).c_str()); }
 
-    std::string Segno() override {
+    std::string NumeroProprio() override {
         static std::atomic<unsigned> numero = 0;
         LARGE_INTEGER ora{};
         QueryPerformanceCounter(&ora);

@@ -15,8 +15,8 @@ EtichettaStatoWin32::Righe EtichettaStatoWin32::Dividi() const {
     return r;
 }
 
-int EtichettaStatoWin32::Larghezza(HDC dc, Carattere carattere, const std::wstring &testo) const {
-    const HGDIOBJ prima = SelectObject(dc, finestra_.Font(carattere));
+int EtichettaStatoWin32::Larghezza(HDC dc, StileFont stile, const std::wstring &testo) const {
+    const HGDIOBJ prima = SelectObject(dc, finestra_.Font(stile));
     SIZE misura{};
     GetTextExtentPoint32W(dc, testo.c_str(), static_cast<int>(testo.size()), &misura);
     SelectObject(dc, prima);
@@ -29,18 +29,18 @@ void EtichettaStatoWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
     SetBkMode(d.hDC, TRANSPARENT);
     SetTextColor(d.hDC, GetSysColor(COLOR_BTNTEXT));
-    const auto scrivi = [&](Carattere carattere, const std::wstring &testo, RECT dove) {
+    const auto scrivi = [&](StileFont stile, const std::wstring &testo, RECT dove) {
         constexpr UINT kModo = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
-        const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(carattere));
+        const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(stile));
         DrawTextW(d.hDC, testo.c_str(), static_cast<int>(testo.size()), &dove, kModo);
         SelectObject(d.hDC, prima);
     };
     const LONG mezzo = (r.top + r.bottom) / 2;
     RECT sopra{r.left, r.top, r.right, mezzo};
-    scrivi(Carattere::Grassetto, righe.evidenza, sopra);
-    sopra.left += Larghezza(d.hDC, Carattere::Grassetto, righe.evidenza);
-    if (sopra.left < sopra.right) scrivi(Carattere::Normale, righe.prima, sopra);
-    scrivi(Carattere::Normale, righe.seconda, {r.left, mezzo, r.right, r.bottom});
+    scrivi(StileFont::Grassetto, righe.evidenza, sopra);
+    sopra.left += Larghezza(d.hDC, StileFont::Grassetto, righe.evidenza);
+    if (sopra.left < sopra.right) scrivi(StileFont::Normale, righe.prima, sopra);
+    scrivi(StileFont::Normale, righe.seconda, {r.left, mezzo, r.right, r.bottom});
 }
 
 // Readers find the text on the native label; what is painted comes from the control.
@@ -55,9 +55,9 @@ std::wstring EtichettaStatoWin32::TestoSuggerito() const {
     const HDC dc = GetDC(hwnd_);
     if (!dc) return {};
     const Righe righe = Dividi();
-    const int prima = Larghezza(dc, Carattere::Grassetto, righe.evidenza) +
-                      Larghezza(dc, Carattere::Normale, righe.prima);
-    const int seconda = Larghezza(dc, Carattere::Normale, righe.seconda);
+    const int prima = Larghezza(dc, StileFont::Grassetto, righe.evidenza) +
+                      Larghezza(dc, StileFont::Normale, righe.prima);
+    const int seconda = Larghezza(dc, StileFont::Normale, righe.seconda);
     ReleaseDC(hwnd_, dc);
     const RECT r = Rettangolo();
     const bool intero = std::max(prima, seconda) <= r.right - r.left;

@@ -24,7 +24,7 @@ class EtichettaStatoWin32 : public EtichettaWin32 {
         std::wstring evidenza, prima, seconda;
     };
     Righe Dividi() const;
-    int Larghezza(HDC dc, Carattere carattere, const std::wstring &testo) const;
+    int Larghezza(HDC dc, StileFont stile, const std::wstring &testo) const;
 };
 
 } // namespace telva

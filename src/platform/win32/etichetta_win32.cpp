@@ -8,7 +8,7 @@ void EtichettaCentrataWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX | DT_RIGHT;
     const std::wstring testo = ALargo(Testo());
     const int lunghezza = static_cast<int>(testo.size());
-    const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(Carattere::Normale));
+    const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(StileFont::Normale));
     RECT r = d.rcItem, dentro = r;
     FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
     SetBkMode(d.hDC, TRANSPARENT);

@@ -20,9 +20,9 @@ class EtichettaWin32 : public PariDi<Etichetta> {
             InvalidateRect(hwnd_, nullptr, TRUE);
     }
     std::string Testo() const { return Mostrabile(controllo_.Caption(), kCaratteriEtichetta); }
-    Carattere FontProprio() const override {
+    StileFont FontProprio() const override {
         const bool pedice = controllo_.stile == StileEtichetta::Pedice;
-        return pedice ? Carattere::Piccolo : Carattere::Normale;
+        return pedice ? StileFont::Piccolo : StileFont::Normale;
     }
     virtual DWORD Stile() const {
         const bool unaRiga = controllo_.stile == StileEtichetta::Semplice;

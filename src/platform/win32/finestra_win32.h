@@ -36,7 +36,7 @@ class FinestraWin32 : public Pari, public OspiteWin32 {
     void Cambia(Controllo &controllo, Campo campo) override;
     HWND Maniglia() const override { return hwnd_; }
     double Dpi() const override { return modulo_.dpi; }
-    HFONT Font(Carattere c) const override { return font_[c]; }
+    HFONT Font(StileFont c) const override { return font_[c]; }
     void Evento(const std::function<void()> &evento) override;
     void DaPosizionare(PariWin32 &pari) override { controlli_.Sposta(pari); }
     void ApplicaPosizioni() override { controlli_.ApplicaPosizioni(hwnd_); }

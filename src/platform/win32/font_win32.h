@@ -9,7 +9,7 @@
 
 namespace telva {
 
-enum class Carattere { Normale, Piccolo, Grassetto };
+enum class StileFont { Normale, Piccolo, Grassetto };
 
 class FontWin32 {
   public:
@@ -19,10 +19,10 @@ class FontWin32 {
     FontWin32(FontWin32 &&altro) noexcept { *this = std::move(altro); }
     FontWin32 &operator=(FontWin32 &&altro) noexcept;
 
-    HFONT operator[](Carattere c) const { return font_[static_cast<std::size_t>(c)]; }
+    HFONT operator[](StileFont c) const { return font_[static_cast<std::size_t>(c)]; }
 
   private:
-    std::array<HFONT, 3> font_{}; // by Carattere
+    std::array<HFONT, 3> font_{}; // by StileFont
 };
 
 } // namespace telva

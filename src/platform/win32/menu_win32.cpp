@@ -63,12 +63,12 @@ HMENU MenuWin32::Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu) {
         HMENU figlio = nullptr;
         if (!voce->voci.empty())
             figlio = Costruisci(voce->voci, Richiesto(CreatePopupMenu(), "CreatePopupMenu"));
-        Inserisci(*voce, {menu, posizione++, figlio, Figura(*voce)});
+        Inserisci(*voce, {menu, posizione++, figlio, BitmapFigura(*voce)});
     }
     return menu;
 }
 
-void MenuWin32::Inserisci(const VoceMenu &voce, const Posto &posto) {
+void MenuWin32::Inserisci(const VoceMenu &voce, const VoceMostrata &posto) {
     std::wstring testo;
     MENUITEMINFOW info = Stato(voce, testo);
     info.fMask |= MIIM_ID;
@@ -85,10 +85,10 @@ void MenuWin32::Inserisci(const VoceMenu &voce, const Posto &posto) {
     posti_[&voce] = posto;
 }
 
-HBITMAP MenuWin32::Figura(const VoceMenu &voce) const {
+HBITMAP MenuWin32::BitmapFigura(const VoceMenu &voce) const {
     if (voce.figura.genere == FiguraVoce::Genere::Nessuna || !modulo_.FiguraMenu) return nullptr;
     const UINT dpi = DpiDi(finestra_.Maniglia());
-    const telva::Figura f = modulo_.FiguraMenu(voce.figura, AltezzaSpuntaMenu(dpi), dpi / 96.0);
+    const Figura f = modulo_.FiguraMenu(voce.figura, AltezzaSpuntaMenu(dpi), dpi / 96.0);
     return CreaBitmap(f.pixel, f.larghezza, f.altezza);
 }
 
@@ -98,7 +98,7 @@ void MenuWin32::DpiCambiato() {
         MENUITEMINFOW info{};
         info.cbSize = sizeof info;
         info.fMask = MIIM_BITMAP;
-        info.hbmpItem = Figura(*voce);
+        info.hbmpItem = BitmapFigura(*voce);
         SetMenuItemInfoW(posto.menu, posto.posizione, TRUE, &info);
         DeleteObject(std::exchange(posto.figura, info.hbmpItem));
     }

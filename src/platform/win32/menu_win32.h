@@ -25,7 +25,7 @@ class MenuWin32 : public Pari {
     void DpiCambiato();
 
   private:
-    struct Posto {
+    struct VoceMostrata {
         HMENU menu = nullptr;
         UINT posizione = 0;
         HMENU figlio = nullptr;
@@ -35,15 +35,15 @@ class MenuWin32 : public Pari {
     VoceMenu *Voce(WORD id) const;
     void Aggiorna(const VoceMenu &voce) const;
     HMENU Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu);
-    void Inserisci(const VoceMenu &voce, const Posto &posto);
+    void Inserisci(const VoceMenu &voce, const VoceMostrata &posto);
     // The picture of an item as the window's DPI asks for it; none: nullptr.
-    HBITMAP Figura(const VoceMenu &voce) const;
+    HBITMAP BitmapFigura(const VoceMenu &voce) const;
 
     Modulo &modulo_;
     OspiteWin32 &finestra_;
     HMENU barra_ = nullptr;
     HACCEL scorciatoie_ = nullptr;
-    std::unordered_map<const VoceMenu *, Posto> posti_;
+    std::unordered_map<const VoceMenu *, VoceMostrata> posti_;
 };
 
 } // namespace telva

@@ -15,7 +15,7 @@ class OspiteWin32 {
   public:
     virtual HWND Maniglia() const = 0;
     virtual double Dpi() const = 0;
-    virtual HFONT Font(Carattere c) const = 0;
+    virtual HFONT Font(StileFont c) const = 0;
     // The one way out of an event: the module has the last word, what moved is brought to its
     // place, a fault is shown and ends the program.
     virtual void Evento(const std::function<void()> &evento) = 0;

@@ -59,7 +59,7 @@ class PariWin32 : public Pari {
     virtual void Mostra([[maybe_unused]] Campo campo) {}
     // Arrow keys move among neighbours of this kind, when they have the same parent.
     virtual bool FaGruppo() const { return false; }
-    virtual Carattere FontProprio() const { return Carattere::Normale; }
+    virtual StileFont FontProprio() const { return StileFont::Normale; }
     virtual std::wstring TestoSuggerito() const;
     void AggiornaSuggerimento() { finestra_.Suggerisci(hwnd_, TestoSuggerito()); }
 

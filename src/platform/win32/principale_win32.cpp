@@ -92,10 +92,10 @@ Sistema &IlSistema() {
     return sistema;
 }
 
-UINT IconaDiSistema(Icona icona) {
-    return icona == Icona::Critica        ? MB_ICONERROR
-           : icona == Icona::Esclamazione ? MB_ICONWARNING
-                                          : MB_ICONINFORMATION;
+UINT IconaMessaggio(Gravita gravita) {
+    return gravita == Gravita::Critica        ? MB_ICONERROR
+           : gravita == Gravita::Esclamazione ? MB_ICONWARNING
+                                              : MB_ICONINFORMATION;
 }
 
 // What follows the program's own name on the command line, untouched: taken apart into arguments it
@@ -121,12 +121,12 @@ int Esegui() {
     SetDllDirectoryW(L""); // no library out of the folder that a caller happens to stand in
     const INITCOMMONCONTROLSEX classi{sizeof classi, ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&classi);
-    ImpostaMessaggi([](const std::string &testo, Icona icona, const std::string &titolo) {
+    ImpostaMessaggi([](const std::string &testo, Gravita gravita, const std::string &titolo) {
         ReleaseCapture(); // a drag ends where a box begins
         const std::string mostrato =
             ConRigheBrevi(Mostrabile(testo, kCaratteriRiquadro), kColonneRiquadro);
         MessageBoxW(IlSistema().Attiva(), ALargo(mostrato).c_str(), ALargo(titolo).c_str(),
-                    MB_OK | MB_SETFOREGROUND | IconaDiSistema(icona));
+                    MB_OK | MB_SETFOREGROUND | IconaMessaggio(gravita));
     });
     // At once: nothing of what is still on the way may run any more.
     ImpostaFine([](int codice) {

@@ -25,23 +25,23 @@ UINT DpiDiSistema() {
 } // namespace
 
 UINT DpiDi(HWND finestra) {
-    using Funzione = UINT(WINAPI *)(HWND);
-    static const auto dpiFinestra = Cerca<Funzione>(L"user32.dll", "GetDpiForWindow");
+    using Chiamata = UINT(WINAPI *)(HWND);
+    static const auto dpiFinestra = Cerca<Chiamata>(L"user32.dll", "GetDpiForWindow");
     const UINT dpi = finestra && dpiFinestra ? dpiFinestra(finestra) : 0;
     return dpi > 0 ? dpi : DpiDiSistema();
 }
 
 int AltezzaSpuntaMenu(UINT dpi) {
-    using Funzione = int(WINAPI *)(int, UINT);
-    static const auto perDpi = Cerca<Funzione>(L"user32.dll", "GetSystemMetricsForDpi");
+    using Chiamata = int(WINAPI *)(int, UINT);
+    static const auto perDpi = Cerca<Chiamata>(L"user32.dll", "GetSystemMetricsForDpi");
     if (const int altezza = perDpi ? perDpi(SM_CYMENUCHECK, dpi) : 0; altezza > 0) return altezza;
     return MulDiv(GetSystemMetrics(SM_CYMENUCHECK), static_cast<int>(dpi),
                   static_cast<int>(DpiDiSistema()));
 }
 
 SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT dpi) {
-    using Funzione = BOOL(WINAPI *)(RECT *, DWORD, BOOL, DWORD, UINT);
-    static const auto perDpi = Cerca<Funzione>(L"user32.dll", "AdjustWindowRectExForDpi");
+    using Chiamata = BOOL(WINAPI *)(RECT *, DWORD, BOOL, DWORD, UINT);
+    static const auto perDpi = Cerca<Chiamata>(L"user32.dll", "AdjustWindowRectExForDpi");
     RECT r{0, 0, interna.cx, interna.cy};
     if (!perDpi || !perDpi(&r, stile, menu, stileEsteso, dpi))
         Richiesto(AdjustWindowRectEx(&r, stile, menu, stileEsteso), "AdjustWindowRectEx");
@@ -49,8 +49,8 @@ SIZE MisuraEsterna(SIZE interna, DWORD stile, DWORD stileEsteso, bool menu, UINT
 }
 
 RECT RettangoloVisibile(HWND finestra) {
-    using Funzione = HRESULT(WINAPI *)(HWND, DWORD, void *, DWORD);
-    static const auto attributo = Cerca<Funzione>(L"dwmapi.dll", "DwmGetWindowAttribute");
+    using Chiamata = HRESULT(WINAPI *)(HWND, DWORD, void *, DWORD);
+    static const auto attributo = Cerca<Chiamata>(L"dwmapi.dll", "DwmGetWindowAttribute");
     constexpr DWORD kBordiEstesi = 9; // DWMWA_EXTENDED_FRAME_BOUNDS
     RECT visibile{}, intero{};
     if (!GetWindowRect(finestra, &intero)) return intero;
