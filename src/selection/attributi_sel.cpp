@@ -53,7 +53,7 @@ void SelezionaPerTipoLinea(std::int16_t codice, Segno segno) {
 }
 
 void SelezionaPerTratteggio(std::int16_t codice, Segno segno) {
-    Seleziona({.gusci = TrattGuscio.Dati(), .ogni = kOgniTratto}, codice, segno);
+    Seleziona({.gusci = TrattGuscio.Dati(), .ogni = kOgniRetino}, codice, segno);
 }
 
 } // namespace telva

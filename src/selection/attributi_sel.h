@@ -9,7 +9,7 @@
 namespace telva {
 
 // Codes that match any value; for colours it is kOgniColore.
-inline constexpr std::int16_t kOgniPunto = 8, kOgniLinea = 5, kOgniTratto = 9;
+inline constexpr std::int16_t kOgniPunto = 8, kOgniLinea = 5, kOgniRetino = 9;
 
 // Each ends the pending sub-function, marks the active elements of the chosen kind whose attribute
 // is `codice`, redraws, shows the list and leaves direct pick as the sub-function.

@@ -112,7 +112,7 @@ constinit const Comando kComandi[] = {
     VoceRetino<6>(f.TipoTr6, "6"),
     VoceRetino<7>(f.TipoTr7, "7"),
     VoceRetino<8>(f.TipoTr8, "8"),
-    VoceRetino<kOgniTratto>(f.TuttiTr, "Tutti"),
+    VoceRetino<kOgniRetino>(f.TuttiTr, "Tutti"),
     {&f.Materiale, 1, "&Materiale", 0, Scheda<kMateriale>},
     {&f.SchSezione, 1, "Sezione", 0, Scheda<kSezione>},
     {&f.SchSpessore, 1, "Spessore", 0, Scheda<kSpessore>},

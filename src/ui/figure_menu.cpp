@@ -6,7 +6,7 @@
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 #include "view/retini.h"
-#include "view/tratti.h"
+#include "view/tipi_linea.h"
 
 #include <algorithm>
 #include <array>
@@ -39,13 +39,13 @@ void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
     for (int k = prima; k < dopo; ++k) {
         const int y = (2 * (k - prima) + 1) * s.Altezza() / (2 * (dopo - prima));
         s.Traccia({2 * penna, y}, {s.Larghezza() - 1 - 2 * penna, y}, penna, kSegno,
-                  TrattoLinea(k, quanto));
+                  TratteggioLinea(k, quanto));
     }
 }
 
 // One hatch, or some of them side by side.
 void DisegnaRetini(Superficie &s, int codice, double quanto, int penna) {
-    const bool tutti = codice == kOgniTratto;
+    const bool tutti = codice == kOgniRetino;
     const int prima = tutti ? 1 : codice, quanti = tutti ? 4 : 1;
     const Retini retini(kStretto * quanto, penna);
     for (int k = 0; k < quanti; ++k) {

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <span>
 
-#include "platform/tratto_icona.h"
+#include "platform/pennello_icona.h"
 
 namespace telva {
 
@@ -169,7 +169,8 @@ std::vector<PuntoIcona> Punti(const Forma &forma, const GrigliaIcona &griglia) {
 }
 
 // Gathers the form in the painter's mask, its pen widened by `giunta` pixels.
-void Traccia(TrattoIcona &tratto, const Forma &forma, const GrigliaIcona &griglia, double giunta) {
+void Traccia(PennelloIcona &pennello, const Forma &forma, const GrigliaIcona &griglia,
+             double giunta) {
     std::vector<PuntoIcona> punti = Punti(forma, griglia);
     const bool libero = forma.modo == Libero;
     const double larghezza =
@@ -177,37 +178,37 @@ void Traccia(TrattoIcona &tratto, const Forma &forma, const GrigliaIcona &grigli
     const std::span<const PuntoIcona> tutti = punti;
     if (forma.specie == Arco) {
         const double raggio = griglia.Pixel(forma.punti[1].x);
-        tratto.Arco(punti[0], libero ? raggio : std::round(raggio), forma.punti[2].x,
-                    forma.punti[2].y, larghezza);
+        pennello.Arco(punti[0], libero ? raggio : std::round(raggio), forma.punti[2].x,
+                      forma.punti[2].y, larghezza);
     } else if (forma.specie == Dischi || forma.specie == Segmenti) {
         const std::size_t passo = forma.specie == Dischi ? 1 : 2;
         for (std::size_t k = 0; k + passo <= tutti.size(); k += passo)
-            tratto.Spezzata(tutti.subspan(k, passo), larghezza);
+            pennello.Spezzata(tutti.subspan(k, passo), larghezza);
     } else {
-        if (forma.specie == Pieno) tratto.Poligono(tutti);
+        if (forma.specie == Pieno) pennello.Poligono(tutti);
         if (forma.specie != Spezzata) punti.push_back(punti.front());
-        tratto.Spezzata(punti, larghezza);
+        pennello.Spezzata(punti, larghezza);
     }
 }
 
 } // namespace
 
 std::vector<std::uint32_t> DisegnaIcona(std::string_view chiave, int lato) {
-    TrattoIcona tratto(lato);
+    PennelloIcona pennello(lato);
     const Icona *scelta = nullptr;
     for (const Icona &icona : Icone())
         if (icona.chiave == chiave && lato >= icona.latoMinimo) scelta = &icona;
-    if (scelta == nullptr || lato < 1) return tratto.Pixel();
+    if (scelta == nullptr || lato < 1) return pennello.Pixel();
     const GrigliaIcona griglia(lato);
     for (const Forma &forma : scelta->forme) {
         if (forma.modo == Alone) {
-            Traccia(tratto, forma, griglia, 2 * griglia.Larghezza(1));
-            tratto.Sottrai();
+            Traccia(pennello, forma, griglia, 2 * griglia.Larghezza(1));
+            pennello.Sottrai();
         }
-        Traccia(tratto, forma, griglia, 0);
-        tratto.Stendi(forma.colore);
+        Traccia(pennello, forma, griglia, 0);
+        pennello.Stendi(forma.colore);
     }
-    return tratto.Pixel();
+    return pennello.Pixel();
 }
 
 } // namespace telva

@@ -11,7 +11,7 @@
 #include "view/posti.h"
 #include "view/proiezione.h"
 #include "view/retini.h"
-#include "view/tratti.h"
+#include "view/tipi_linea.h"
 #include "view/visibile.h"
 
 #include <algorithm>
@@ -35,11 +35,11 @@ struct Stile {
     bool evidenziaSel = OpzioneAttiva(kOpzColoreSel);
     int pennaSel = Penna(kOpzPennaSel), pennaNonSel = Penna(kOpzPennaNonSel);
     int pixelSel = d.PennaOpzione(pennaSel), pixelNonSel = d.PennaOpzione(pennaNonSel);
-    std::array<Tratteggio, kTipiLinea> tratti;
+    std::array<Tratteggio, kTipiLinea> tratteggi;
 
     Stile() {
         for (int tipo = 0; tipo < kTipiLinea; ++tipo)
-            tratti[static_cast<std::size_t>(tipo)] = TrattoLinea(tipo, d.PixelOpzione(1));
+            tratteggi[static_cast<std::size_t>(tipo)] = TratteggioLinea(tipo, d.PixelOpzione(1));
     }
     // With the option off the two roles are exchanged on purpose.
     std::uint32_t Colore(bool sel, int codice) const {
@@ -49,7 +49,7 @@ struct Stile {
     // Only a pen of one pixel, at whatever scale, shows the line type.
     const Tratteggio &TratteggioAsta(bool sel, int tipo) const {
         const bool tipizzata = (sel ? pennaSel : pennaNonSel) == 1 && tipo > 0 && tipo < kTipiLinea;
-        return tratti[tipizzata ? static_cast<std::size_t>(tipo) : 0];
+        return tratteggi[tipizzata ? static_cast<std::size_t>(tipo) : 0];
     }
 };
 

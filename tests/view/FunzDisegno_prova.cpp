@@ -5,7 +5,7 @@
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
-#include "view/tratti.h"
+#include "view/tipi_linea.h"
 #include "view/visibile.h"
 
 #include <algorithm>
@@ -72,7 +72,7 @@ TEST_F(FunzDisegno, ITrattiDiUnaLineaCresconoConLaFinestra) {
                           {.tipo = 3, .scala = 1, .tratti = "#########.....##...."},
                           {.tipo = 4, .scala = 1, .tratti = "#########.....##....##...."},
                           {.tipo = 2, .scala = 3, .tratti = "######............"}}) {
-        const Tratteggio t = TrattoLinea(c.tipo, c.scala);
+        const Tratteggio t = TratteggioLinea(c.tipo, c.scala);
         std::string visti;
         for (int n = 0; n < t.periodo; ++n) visti += t.bit[static_cast<std::size_t>(n)] ? '#' : '.';
         EXPECT_EQ(visti, c.tratti) << "line type " << c.tipo << " at scale " << c.scala;

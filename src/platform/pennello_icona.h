@@ -34,9 +34,9 @@ class GrigliaIcona {
 
 // Anti-aliased painter of one icon. Shapes, in pixels, gather in a mask of 8x8 samples per pixel;
 // Stendi or Sottrai then uses the mask up, so shapes of one colour join without seams.
-class TrattoIcona {
+class PennelloIcona {
   public:
-    explicit TrattoIcona(int lato);
+    explicit PennelloIcona(int lato);
 
     // Inside of a polygon, even-odd; fewer than three points add nothing.
     void Poligono(std::span<const PuntoIcona> punti);

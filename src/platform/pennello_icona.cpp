@@ -1,4 +1,4 @@
-#include "platform/tratto_icona.h"
+#include "platform/pennello_icona.h"
 
 #include <algorithm>
 #include <bit>
@@ -51,13 +51,13 @@ double GrigliaIcona::Aggancia(double unita, double larghezza) const {
     return centro + std::round((unita - mezzo) * scala_);
 }
 
-TrattoIcona::TrattoIcona(int lato)
+PennelloIcona::PennelloIcona(int lato)
     : lato_(std::max(lato, 0)),
       pixel_(static_cast<std::size_t>(lato_) * static_cast<std::size_t>(lato_)),
       maschera_(pixel_.size()) {}
 
 template <class Dentro>
-void TrattoIcona::Segna(double x0, double y0, double x1, double y1, const Dentro &dentro) {
+void PennelloIcona::Segna(double x0, double y0, double x1, double y1, const Dentro &dentro) {
     const auto limita = [this](double v) {
         return static_cast<int>(std::clamp(v, 0.0, static_cast<double>(lato_)));
     };
@@ -74,7 +74,7 @@ void TrattoIcona::Segna(double x0, double y0, double x1, double y1, const Dentro
         }
 }
 
-void TrattoIcona::Poligono(std::span<const PuntoIcona> punti) {
+void PennelloIcona::Poligono(std::span<const PuntoIcona> punti) {
     if (punti.size() < 3) return;
     const auto perX = [](PuntoIcona a, PuntoIcona b) { return a.x < b.x; };
     const auto perY = [](PuntoIcona a, PuntoIcona b) { return a.y < b.y; };
@@ -84,7 +84,7 @@ void TrattoIcona::Poligono(std::span<const PuntoIcona> punti) {
           [punti](PuntoIcona p) { return DentroPoligono(p, punti); });
 }
 
-void TrattoIcona::Spezzata(std::span<const PuntoIcona> punti, double larghezza) {
+void PennelloIcona::Spezzata(std::span<const PuntoIcona> punti, double larghezza) {
     const double r = larghezza / 2;
     for (std::size_t k = 0; k < punti.size(); ++k) {
         if (k + 1 == punti.size() && k > 0) break;
@@ -94,7 +94,7 @@ void TrattoIcona::Spezzata(std::span<const PuntoIcona> punti, double larghezza) 
     }
 }
 
-void TrattoIcona::Arco(PuntoIcona centro, double raggio, double da, double a, double larghezza) {
+void PennelloIcona::Arco(PuntoIcona centro, double raggio, double da, double a, double larghezza) {
     constexpr double kGradi = 180 / std::numbers::pi;
     const double fuori = raggio + larghezza / 2, interno = std::max(0.0, raggio - larghezza / 2);
     Segna(centro.x - fuori, centro.y - fuori, centro.x + fuori, centro.y + fuori,
@@ -110,12 +110,12 @@ void TrattoIcona::Arco(PuntoIcona centro, double raggio, double da, double a, do
     }
 }
 
-void TrattoIcona::Stendi(std::uint32_t colore) { Componi(colore, false); }
+void PennelloIcona::Stendi(std::uint32_t colore) { Componi(colore, false); }
 
-void TrattoIcona::Sottrai() { Componi(0xFF000000u, true); }
+void PennelloIcona::Sottrai() { Componi(0xFF000000u, true); }
 
 // Source over destination, both premultiplied; equal rounding keeps every channel within its alpha.
-void TrattoIcona::Componi(std::uint32_t colore, bool togli) {
+void PennelloIcona::Componi(std::uint32_t colore, bool togli) {
     for (std::size_t k = 0; k < pixel_.size(); ++k) {
         const auto coperti = static_cast<std::uint32_t>(std::popcount(maschera_[k]));
         maschera_[k] = 0;

@@ -1,4 +1,4 @@
-#include "view/tratti.h"
+#include "view/tipi_linea.h"
 
 namespace telva {
 namespace {
@@ -15,7 +15,7 @@ Tratteggio Normale(int tipo) {
 
 } // namespace
 
-Tratteggio TrattoLinea(int tipo, double quanto) {
+Tratteggio TratteggioLinea(int tipo, double quanto) {
     const Tratteggio normale = Normale(tipo);
     return normale.periodo > 1 ? normale.Ingrandito(quanto) : normale;
 }
