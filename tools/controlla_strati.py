@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """Checks that includes go one way only, that no files include each other in a ring, that Windows
-headers stay in their folders, that no file has grown beyond 600 lines, and that the architecture
-page names every module of the product."""
+headers stay in their folders, that no file has grown beyond 600 lines, that the architecture page
+names every module of the product, and what controlla_casa.py counts."""
 import pathlib
 import re
 import sys
+
+import controlla_casa
 
 RADICE = pathlib.Path(__file__).resolve().parent.parent
 # A file may include what has the same rank or a lower one. Of several rows that fit, the longest
@@ -80,16 +82,18 @@ def anelli(inclusi):
             yield "ring of includes: " + ", ".join(sorted(gruppo))
 
 
-tutti, inclusi = [], {}
+tutti, inclusi, sorgenti = [], {}, {}
 for cartella in sorted({inizio.split("/")[0] for inizio in RANGHI}):
     for file in sorted((RADICE / cartella).rglob("*")):
         if file.suffix in (".h", ".cpp"):
             nome = file.relative_to(RADICE).as_posix()
             inclusi[nome] = []
-            tutti += difetti(nome, file.read_text(encoding="utf-8"), inclusi[nome])
+            sorgenti[nome] = file.read_text(encoding="utf-8")
+            tutti += difetti(nome, sorgenti[nome], inclusi[nome])
 tutti += anelli(inclusi)
+tutti += controlla_casa.difetti(sorgenti)
 indice = INDICE.read_text(encoding="utf-8")
 tutti += sorted({f"{INDICE.name} does not say what {m} holds" for m in map(modulo, inclusi)
                  if m.startswith(PRODOTTO) and not re.search(rf"[`/]{m.rsplit('/', 1)[1]}`", indice)})
-print("\n".join(tutti) if tutti else "layers: clean")
+print("\n".join(tutti) if tutti else "layers and rooms: clean")
 sys.exit(1 if tutti else 0)

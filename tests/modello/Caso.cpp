@@ -192,21 +192,32 @@ PassoCasuale Caso::Casella(int quale) {
     return [=](auto &chi) { chi.Trappola(testo, applica); };
 }
 
+PassoCasuale Caso::Voce(int quale) {
+    const auto menu = [](const std::string &voce) { return [=](auto &chi) { chi.Menu(voce); }; };
+    if (quale == 1) return menu(Testo({"Aggiungi", "Aggiungi", "Rimuovi", "Finestra"}));
+    if (quale > 10) return menu(FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo());
+    const std::string voce =
+        Testo({"", "Ottimizza", "ZoomIn", "ZoomIn", "Sposta", "RimTutto", "Inverti"});
+    if (voce.empty()) return [](auto &chi) { chi.Esc(); };
+    return menu(voce);
+}
+
+PassoCasuale Caso::Risposta(const Modello &m) {
+    const std::string testo = Elenco();
+    if (!m.risposta) return [](auto &chi) { chi.Invio(); };
+    return [=](auto &chi) { chi.Elenco(testo); };
+}
+
 PassoCasuale Caso::Passo(const Modello &m) {
     const int py = Tira(250), px = Tira(160), qx = Tira(160);
     const std::vector<Pixel> strada = {{px, py}, {qx, 99}, {px, py}};
-    const auto menu = [](const std::string &voce) { return [=](auto &chi) { chi.Menu(voce); }; };
-    const auto risposta = [&]() -> PassoCasuale {
-        const std::string testo = Elenco();
-        if (!m.risposta) return [](auto &chi) { chi.Invio(); };
-        return [=](auto &chi) { chi.Elenco(testo); };
-    };
-    if (m.funzione == Modello::Niente && Tira(2))
-        return menu(Testo({"Aggiungi", "Aggiungi", "Rimuovi"}));
-    if (m.risposta && Tira(3) == 0) return risposta();
+    if (m.funzione == Modello::Niente && Tira(2)) {
+        const std::string voce = Testo({"Aggiungi", "Aggiungi", "Rimuovi"});
+        return [=](auto &chi) { chi.Menu(voce); };
+    }
+    if (m.risposta && Tira(3) == 0) return Risposta(m);
     const int quale = Tira(22);
     switch (quale) {
-    case 1: return menu(Testo({"Aggiungi", "Aggiungi", "Rimuovi", "Finestra"}));
     case 2: {
         const int tipo = Una({0, 1, 2, 2, 3, 4});
         return [=](auto &chi) { chi.Tipo(tipo); };
@@ -216,17 +227,13 @@ PassoCasuale Caso::Passo(const Modello &m) {
     case 5:
     case 8: return Casella(quale);
     case 6:
-    case 7: return risposta();
+    case 7: return Risposta(m);
     case 9: return Vista(m, [=](auto &chi) { chi.Trascina(strada); });
-    case 10: {
-        const std::string voce =
-            Testo({"", "Ottimizza", "ZoomIn", "ZoomIn", "Sposta", "RimTutto", "Inverti"});
-        if (voce.empty()) return [](auto &chi) { chi.Esc(); };
-        return menu(voce);
-    }
+    case 1:
+    case 10:
     case 11:
     case 12:
-    case 13: return menu(FormTelva.voci[Tira(FormTelva.voci.size())]->NomeControllo());
+    case 13: return Voce(quale);
     default: break;
     }
     const Punto p = PuntoScelto(m);

@@ -37,6 +37,8 @@ class Caso {
     PassoCasuale Filtri();
     PassoCasuale Vista(const Modello &m, const PassoCasuale &trascina);
     PassoCasuale Casella(int quale);
+    PassoCasuale Voce(int quale);
+    PassoCasuale Risposta(const Modello &m);
     void Nodi(LavoroProva &l);
     void Elementi(LavoroProva &l);
     int Nome();

@@ -20,53 +20,59 @@ double Numero(std::string testo) { // typed, the comma for a point
     return std::strtod(testo.c_str(), nullptr);
 }
 
+Elemento DelNodo(const LavoroProva::Nodo &n) {
+    return {.nome = n.nome,
+            .colore = n.colore,
+            .tipo = n.tipo,
+            .schede = {{"SchVincolo", n.vincolo}},
+            .punti = {n.punto}};
+}
+
+Elemento DellAsta(const LavoroProva::Asta &a, const LavoroProva &lavoro) {
+    const bool scheda = a.sezione > 0 && a.sezione <= std::ssize(lavoro.sezioni);
+    return {.nome = a.nome,
+            .colore = a.colore,
+            .tipo = a.tipo,
+            .schede = {{"Materiale", scheda ? lavoro.sezioni[a.sezione - 1] : 0},
+                       {"SchSezione", a.sezione},
+                       {"SchOrientamento", a.orientamento},
+                       {"SchSvincolo", a.svincolo}},
+            .punti = {lavoro.nodi[a.i].punto, lavoro.nodi[a.j].punto}};
+}
+
+Elemento DelGuscio(const LavoroProva::Guscio &g, const LavoroProva &lavoro) {
+    const bool scheda = g.spessore > 0 && g.spessore <= std::ssize(lavoro.spessori);
+    const LavoroProva::Spessore s =
+        scheda ? lavoro.spessori[g.spessore - 1] : LavoroProva::Spessore{0, 0};
+    Elemento e{.nome = g.nome,
+               .colore = g.colore,
+               .tipo = g.tratto,
+               .schede = {{"Materiale", s.materiale}, {"SchSpessore", g.spessore}},
+               .sottile = scheda && s.valore < 1,
+               .triangolo = g.nodi[3] <= 0}; // node 0 as a corner is drawn, but not picked
+    for (const int nodo : g.nodi)
+        if (nodo >= 0) e.punti.push_back(lavoro.nodi[nodo].punto);
+    return e;
+}
+
+Elemento Continuo(const LavoroProva::ElCont &c, const std::vector<Elemento> &aste) {
+    Elemento e{.nome = c.numero};
+    for (const int nome : c.aste) { // a name that no bar has is taken for a place
+        const auto asta = std::ranges::find(aste, nome, &Elemento::nome);
+        const auto posto = asta == aste.end() ? nome : asta - aste.begin();
+        e.aste.push_back(posto < std::ssize(aste) ? static_cast<int>(posto) : -1);
+        e.rotto = e.rotto || posto < 0 || posto > kUltimaAsta;
+    }
+    return e;
+}
+
 } // namespace
 
 Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro_(lavoro) {
-    const auto punto = [&](int nodo) { return lavoro.nodi[nodo].punto; };
-    for (const auto &n : lavoro.nodi)
-        elementi[Nodi].push_back({.nome = n.nome,
-                                  .colore = n.colore,
-                                  .tipo = n.tipo,
-                                  .schede = {{"SchVincolo", n.vincolo}},
-                                  .punti = {n.punto}});
-    for (const auto &a : lavoro.aste) {
-        const bool scheda = a.sezione > 0 && a.sezione <= std::ssize(lavoro.sezioni);
-        elementi[Aste].push_back(
-            {.nome = a.nome,
-             .colore = a.colore,
-             .tipo = a.tipo,
-             .schede = {{"Materiale", scheda ? lavoro.sezioni[a.sezione - 1] : 0},
-                        {"SchSezione", a.sezione},
-                        {"SchOrientamento", a.orientamento},
-                        {"SchSvincolo", a.svincolo}},
-             .punti = {punto(a.i), punto(a.j)}});
-    }
-    for (const auto &g : lavoro.gusci) {
-        const bool scheda = g.spessore > 0 && g.spessore <= std::ssize(lavoro.spessori);
-        const LavoroProva::Spessore s =
-            scheda ? lavoro.spessori[g.spessore - 1] : LavoroProva::Spessore{0, 0};
-        Elemento e{.nome = g.nome,
-                   .colore = g.colore,
-                   .tipo = g.tratto,
-                   .schede = {{"Materiale", s.materiale}, {"SchSpessore", g.spessore}},
-                   .punti = {punto(g.nodi[0]), punto(g.nodi[1]), punto(g.nodi[2])},
-                   .sottile = scheda && s.valore < 1,
-                   .triangolo = g.nodi[3] <= 0}; // node 0 as a corner is drawn, but not picked
-        if (g.nodi[3] >= 0) e.punti.push_back(punto(g.nodi[3]));
-        elementi[Gusci].push_back(e);
-    }
-    for (const auto &c : lavoro.elementi) {
-        Elemento e{.nome = c.numero};
-        for (const int nome : c.aste) { // a name that no bar has is taken for a place
-            const auto &aste = elementi[Aste];
-            const auto asta = std::ranges::find(aste, nome, &Elemento::nome);
-            const auto posto = asta == aste.end() ? nome : asta - aste.begin();
-            e.aste.push_back(posto < std::ssize(aste) ? static_cast<int>(posto) : -1);
-            e.rotto = e.rotto || posto < 0 || posto > kUltimaAsta;
-        }
-        elementi[Continui].push_back(e);
-    }
+    for (const auto &n : lavoro.nodi) elementi[Nodi].push_back(DelNodo(n));
+    for (const auto &a : lavoro.aste) elementi[Aste].push_back(DellAsta(a, lavoro));
+    for (const auto &g : lavoro.gusci) elementi[Gusci].push_back(DelGuscio(g, lavoro));
+    for (const auto &c : lavoro.elementi) elementi[Continui].push_back(Continuo(c, elementi[Aste]));
 }
 
 void Modello::Dice(const std::string &testo, const char *titolo, int gravita) {

@@ -146,6 +146,8 @@ struct Modello {
     void Numeri(const std::string &proprieta, const std::string &elenco);
     void AzzeraInput();
     void Annulla();
+    void ChiudiFinestra();              // the one that is being drawn
+    void Arma(const std::string &voce); // "ZoomIn" or "Sposta"
     void Interrompi();
     void RimuoviTutto();
     void Inverti();

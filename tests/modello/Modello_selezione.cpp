@@ -299,6 +299,21 @@ void Modello::VoceSelezioni(const std::string &menu, int codice) {
     }
 }
 
+void Modello::ChiudiFinestra() {
+    if (!primoAngolo || modoZoom) return;
+    primoAngolo = false;
+    puntatore = Puntatore::Croce; // it is awaited again
+    RiprendiDiretta();
+}
+
+void Modello::Arma(const std::string &voce) {
+    Annulla();
+    const bool zooma = voce == "ZoomIn";
+    (zooma ? modoZoom : modoSposta) = true;
+    sottoFunAttiva = zooma ? "Zoom" : "Sposta";
+    puntatore = zooma ? Puntatore::Croce : Puntatore::Ridimensiona;
+}
+
 void Modello::Menu(const std::string &voce) {
     for (const Attributi &a : kAttributi) {
         if (voce == a.menu) return; // only opens its own items
@@ -321,18 +336,8 @@ void Modello::Menu(const std::string &voce) {
     if (voce == "RimTutto") RimuoviTutto();
     if (voce == "Inverti") Inverti();
     if (voce == "Interrompi") Interrompi();
-    if (voce == "ZoomIn" || voce == "Sposta" || voce == "Rappresentazione")
-        if (primoAngolo && !modoZoom) { // the window that is being drawn ends
-            primoAngolo = false;
-            puntatore = Puntatore::Croce; // it is awaited again
-            RiprendiDiretta();
-        }
-    if (voce == "ZoomIn" || voce == "Sposta") {
-        Annulla();
-        (voce == "ZoomIn" ? modoZoom : modoSposta) = true;
-        sottoFunAttiva = voce == "ZoomIn" ? "Zoom" : "Sposta";
-        puntatore = voce == "ZoomIn" ? Puntatore::Croce : Puntatore::Ridimensiona;
-    }
+    if (voce == "ZoomIn" || voce == "Sposta" || voce == "Rappresentazione") ChiudiFinestra();
+    if (voce == "ZoomIn" || voce == "Sposta") Arma(voce);
     if (voce == "Ottimizza") Ottimizza();
     if (voce == "VisCoord") {
         coordinate = !coordinate;

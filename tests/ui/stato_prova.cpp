@@ -109,6 +109,11 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
         EXPECT_EQ(d.Anteprima().linee.size(), linee);
         EXPECT_EQ(d.Anteprima().cerchi.size(), cerchi);
     }
+}
+
+TEST_F(StatoProva, CheCosaRestaSenzaIlPuntatoreEConUnaFinestra) {
+    ApriCon(kNodiTipo);
+    Menu("Aggiungi");
     Tipo(kAsteTipo);
     Muovi(50, 0);
     const Sagoma::Linea asta{0, 0, 100, 0};
