@@ -7,8 +7,11 @@
 #include "platform/testo.h"
 #include "view/colori.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <list>
+#include <memory>
 
 namespace telva {
 
@@ -79,12 +82,14 @@ namespace {
 
 // Size and direction of a text: what turns font units into drawing units.
 struct Misura {
-    double ct, st, sx, sy;
+    double ct = 1, st = 0, sx, sy;
 
     Misura(std::int16_t angolo, double base, double altezza) {
-        const double teta = angolo * 4 * std::atan(1.0) / 180;
-        ct = std::cos(teta);
-        st = std::sin(teta);
+        if (angolo != 0) { // few texts are turned
+            const double teta = angolo * 4 * std::atan(1.0) / 180;
+            ct = std::cos(teta);
+            st = std::sin(teta);
+        }
         sx = (1 - SpazioFont / 100.0) * base / kLarghezzaCella;
         sy = altezza / kAltezzaCella;
     }
@@ -97,24 +102,24 @@ struct Misura {
     friend bool operator==(const Misura &, const Misura &) = default;
 };
 
-// The glyphs of the size used last, made into pixels once for all the texts of a picture. Their
+// The glyphs of one size and direction, made into pixels once for all the texts of a picture. Their
 // places are rounded to a quarter of a pixel, so that each glyph has only sixteen shapes; large
 // ones are drawn stroke by stroke.
 class CaratteriInScala {
   public:
     enum class Passata { Contorno, Interno };
 
-    void Disegna(Passata passata, int codice, const Misura &misura, double x, double y,
-                 std::uint32_t colore, RiquadroDisegno &d) {
-        const int penna = std::max(d.DrawWidth, 1);
-        const Chiave chiave{misura, d.ScalaX(),   d.ScalaY(), d.PixelOpzione(kGrande),
-                            penna,  RevisioneFont};
-        if (!(chiave_ == chiave)) {
-            chiave_ = chiave;
-            pronti_.fill(false);
-        }
+    CaratteriInScala(const Misura &misura, const RiquadroDisegno &d) : chiave_(misura, d) {}
+
+    bool Valgono(const Misura &misura, const RiquadroDisegno &d) const {
+        return chiave_ == Chiave(misura, d);
+    }
+
+    void Disegna(Passata passata, int codice, double x, double y, std::uint32_t colore,
+                 RiquadroDisegno &d) {
         Carattere &c = Prepara(codice);
         if (c.tratti.punti.empty()) return;
+        const int penna = chiave_.penna;
         const int ix = InteroVicino(d.XPixel(x) * kFrazioni);
         const int iy = InteroVicino(d.YPixel(y) * kFrazioni);
         const bool vicino = ix > -kLontano && ix < kLontano && iy > -kLontano && iy < kLontano;
@@ -142,10 +147,14 @@ class CaratteriInScala {
     static constexpr double kGrande = 64; // pixels at 100 %
 
     struct Chiave {
-        Misura misura{0, 0, 0};
+        Misura misura;
         double scalaX = 0, scalaY = 0;
         double grande = 0; // pixels from which a glyph is drawn stroke by stroke
         int penna = 0, revisione = -1;
+
+        Chiave(const Misura &m, const RiquadroDisegno &d)
+            : misura(m), scalaX(d.ScalaX()), scalaY(d.ScalaY()), grande(d.PixelOpzione(kGrande)),
+              penna(std::max(d.DrawWidth, 1)), revisione(RevisioneFont) {}
         friend bool operator==(const Chiave &, const Chiave &) = default;
     };
     struct Carattere {
@@ -156,13 +165,10 @@ class CaratteriInScala {
     };
 
     Carattere &Prepara(int codice) {
-        const auto posto = static_cast<std::size_t>(codice);
-        Carattere &c = caratteri_[posto];
-        if (pronti_[posto]) return c;
-        pronti_[posto] = true;
-        c.tratti = {};
-        c.fatti.fill(false);
-        for (Timbro &contorno : c.contorni) contorno.pixel.clear();
+        std::unique_ptr<Carattere> &posto = caratteri_[static_cast<std::size_t>(codice)];
+        if (posto) return *posto;
+        posto = std::make_unique<Carattere>();
+        Carattere &c = *posto;
         const Misura &m = chiave_.misura;
         for (int j = 0; j + 1 < NumPtFont[codice]; j += 2) {
             const double x1 = m.X(codice, j), y1 = m.Y(codice, j);
@@ -179,15 +185,25 @@ class CaratteriInScala {
     }
 
     Chiave chiave_;
-    std::array<bool, 256> pronti_{};
-    std::array<Carattere, 256> caratteri_;
+    std::array<std::unique_ptr<Carattere>, 256> caratteri_;
 };
 
 using Passata = CaratteriInScala::Passata;
 
-CaratteriInScala &Caratteri() {
-    static CaratteriInScala caratteri;
-    return caratteri;
+// Those of the sizes and directions used last, the newest first: names run along their elements,
+// which have few directions, and the axes have a letter size of their own.
+CaratteriInScala &Caratteri(const Misura &misura, const RiquadroDisegno &d) {
+    constexpr std::size_t kTenuti = 8;
+    static std::list<CaratteriInScala> ultimi;
+    const auto trovati = std::find_if(ultimi.begin(), ultimi.end(), [&](const auto &caratteri) {
+        return caratteri.Valgono(misura, d);
+    });
+    if (trovati != ultimi.end())
+        ultimi.splice(ultimi.begin(), ultimi, trovati);
+    else
+        ultimi.emplace_front(misura, d);
+    if (ultimi.size() > kTenuti) ultimi.pop_back();
+    return ultimi.front();
 }
 
 // `scrivi(codice, x, y)` for each character with the place of its cell, up to one that the font's
@@ -202,6 +218,15 @@ void PerCarattere(std::string_view testo, double x, double y, double base, const
         avanzamento += base;
         scrivi(codice, x + avanzamento * misura.ct, y + avanzamento * misura.st);
     }
+}
+
+void DisegnaTesto(Passata passata, std::string_view testo, double x, double y, double base,
+                  const Misura &misura, std::int16_t colore, RiquadroDisegno &d) {
+    CaratteriInScala &caratteri = Caratteri(misura, d);
+    const std::uint32_t rgb = ColoreRGB(colore);
+    PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
+        caratteri.Disegna(passata, codice, ox, oy, rgb, d);
+    });
 }
 
 void RegistraCarattere(int codice, const Misura &m, double ox, double oy,
@@ -221,12 +246,11 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
         return;
     }
     const Misura misura(angolo, base, altezza);
-    const std::uint32_t rgb = ColoreRGB(colore.value_or(0));
+    if (bersaglio)
+        return DisegnaTesto(Passata::Interno, testo, x, y, base, misura, colore.value_or(0),
+                            *bersaglio);
     PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
-        if (bersaglio)
-            Caratteri().Disegna(Passata::Interno, codice, misura, ox, oy, rgb, *bersaglio);
-        else
-            RegistraCarattere(codice, misura, ox, oy, colore);
+        RegistraCarattere(codice, misura, ox, oy, colore);
     });
 }
 
@@ -236,10 +260,7 @@ void DisTestoContornato(std::string_view testo, double x, double y, std::int16_t
     // The outlines first, all of them: none may cut into the character beside it.
     if (base != 0 && altezza != 0 && ModoDisTesto != "gendis") {
         const Misura misura(angolo, base, altezza);
-        PerCarattere(testo, x, y, base, misura, [&](int codice, double ox, double oy) {
-            Caratteri().Disegna(Passata::Contorno, codice, misura, ox, oy, ColoreRGB(kNero),
-                                bersaglio);
-        });
+        DisegnaTesto(Passata::Contorno, testo, x, y, base, misura, kNero, bersaglio);
     }
     DisTesto(testo, x, y, angolo, base, altezza, colore, &bersaglio);
 }
