@@ -131,10 +131,6 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
     if (EstremiInPixel(x1, y1, x2, y2, a, b)) Line(a, b, colore, t);
 }
 
-void RiquadroDisegno::Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
-    superficie_.Traccia(a, b, DrawWidth, APixelRGB(colore), t);
-}
-
 void RiquadroDisegno::LineeTratti(const Tratti &t, double x, double y, std::uint32_t colore) {
     const double px = XPixel(x), py = YPixel(y);
     constexpr double kVicinanza = 1 << 19;

@@ -66,7 +66,9 @@ class RiquadroDisegno : public Controllo {
               const Tratteggio &t);
     void Circle(double x, double y, double raggio, std::uint32_t colore);
     // The same between pixels, for places and radii that many shapes share.
-    void Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t);
+    void Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
+        superficie_.Traccia(a, b, DrawWidth, APixelRGB(colore), t);
+    }
     void Circle(Pixel centro, int raggio, std::uint32_t colore);
     // Radius of a circle in whole pixels, at most Superficie::kRaggioMassimo.
     int RaggioInPixel(double raggio) const;

@@ -12,19 +12,21 @@ inline double NeiLimitiIntero(double v) {
     return v1 < kMassimo ? v1 : kMassimo;
 }
 
-// Towards minus infinity.
-inline int InteroBasso(double v) {
-    v = NeiLimitiIntero(v);
+// Towards minus and plus infinity, of a number that is known to lie within those limits.
+inline int BassoNeiLimiti(double v) {
     const int i = static_cast<int>(v);
     return i - (v < i ? 1 : 0);
 }
-
-// Towards plus infinity.
-inline int InteroAlto(double v) {
-    v = NeiLimitiIntero(v);
+inline int AltoNeiLimiti(double v) {
     const int i = static_cast<int>(v);
     return i + (v > i ? 1 : 0);
 }
+
+// Towards minus infinity.
+inline int InteroBasso(double v) { return BassoNeiLimiti(NeiLimitiIntero(v)); }
+
+// Towards plus infinity.
+inline int InteroAlto(double v) { return AltoNeiLimiti(NeiLimitiIntero(v)); }
 
 // The nearest one, halves upwards: the pixel that a place belongs to.
 inline int InteroVicino(double v) { return InteroBasso(v + 0.5); }

@@ -61,16 +61,17 @@ void Superficie::CopiaZona(const Superficie &altra, const ZonaPixel &zona) {
     }
 }
 
-// A run of pixels, both ends included, that lies inside the surface. Four at a time: wide pens are
-// made of millions of runs of a few pixels each.
+// A run of pixels that lies inside the surface. Four at a time: wide pens are made of millions of
+// runs of a few pixels each.
 void Superficie::Stendi(std::uint32_t *da, std::ptrdiff_t quanti, std::uint32_t colore) {
     if (quanti < 4) {
         for (std::ptrdiff_t k = 0; k < quanti; ++k) da[k] = colore;
         return;
     }
-    const std::uint32_t quattro[4] = {colore, colore, colore, colore};
-    for (std::ptrdiff_t k = 0; k + 4 < quanti; k += 4) std::memcpy(da + k, quattro, sizeof quattro);
-    std::memcpy(da + quanti - 4, quattro, sizeof quattro); // the rest, over what is there already
+    // One store in both bitnesses: a copy of 16 bytes would be four in a 32-bit program.
+    const auto quattro = [colore](std::uint32_t *p) { p[0] = p[1] = p[2] = p[3] = colore; };
+    for (std::ptrdiff_t k = 0; k + 4 < quanti; k += 4) quattro(da + k);
+    quattro(da + quanti - 4); // the rest, over what is there already
 }
 
 void Superficie::Orizzontale(int xDa, int xA, int y, std::uint32_t colore) {
@@ -345,8 +346,8 @@ class Fascia {
     // Whether the row meets the edge, and in which pixel.
     bool ASinistra(int y) const { return y >= sinistraDa_ && y <= sinistraA_; }
     bool ADestra(int y) const { return y >= destraDa_ && y <= destraA_; }
-    int Sinistra(int y) const { return InteroAlto(sinistra_ + (y - sinistraDa_) * pendenza_); }
-    int Destra(int y) const { return InteroBasso(destra_ + (y - destraDa_) * pendenza_); }
+    int Sinistra(int y) const { return AltoNeiLimiti(sinistra_ + (y - sinistraDa_) * pendenza_); }
+    int Destra(int y) const { return BassoNeiLimiti(destra_ + (y - destraDa_) * pendenza_); }
 
   private:
     static constexpr double kMai = -1e300; // the ends of a level line's edges, which no row meets
@@ -363,16 +364,21 @@ void Superficie::Intingi(std::uint32_t colore) {
 }
 
 // Neighbouring shells share a side, and often a bar with it. Remembers the line; the table forgets
-// when another one takes its place.
+// when another one takes its place. It is small, to stay in the cache: far ends are not remembered.
 bool Superficie::GiaTracciata(Pixel a, Pixel b, int larghezza) {
     constexpr std::uint32_t kBitPosti = 14;
-    if (tracciate_.empty()) tracciate_.resize(std::size_t{1} << kBitPosti);
-    std::uint32_t chiave = 0;
+    constexpr int kLontano = 1 << 15;
     for (const int v : {a.x, a.y, b.x, b.y})
-        chiave = (chiave ^ static_cast<std::uint32_t>(v)) * 0x9E3779B1u;
-    Tracciata &t = tracciate_[(chiave ^ chiave >> 15) & ((1u << kBitPosti) - 1)];
-    if (t.giro == giro_ && t.a == a && t.b == b && t.larghezza == larghezza) return true;
-    t = {a, b, larghezza, giro_};
+        if (v < -kLontano || v >= kLontano) return false;
+    if (tracciate_.empty()) tracciate_.resize(std::size_t{1} << kBitPosti);
+    const auto insieme = [](Pixel p) {
+        return static_cast<std::uint32_t>(p.x & 0xFFFF) | static_cast<std::uint32_t>(p.y) << 16;
+    };
+    const std::uint32_t da = insieme(a), fino = insieme(b);
+    const std::uint32_t chiave = (da * 0x9E3779B1u ^ fino) * 0x85EBCA6Bu;
+    Tracciata &t = tracciate_[chiave >> (32 - kBitPosti)];
+    if (t.giro == giro_ && t.da == da && t.fino == fino && t.larghezza == larghezza) return true;
+    t = {da, fino, larghezza, giro_};
     return false;
 }
 
@@ -455,18 +461,6 @@ void Superficie::LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::ui
             if (x >= inizio && ++f == t.periodo) f = 0;
         }
     });
-}
-
-void Superficie::Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                         const Tratteggio &t) {
-    if (larghezza > 1 && t.periodo > 1)
-        LineaLargaTratteggiata(a, b, larghezza, colore, t);
-    else if (larghezza > 1)
-        LineaLarga(a, b, larghezza, colore);
-    else if (t.periodo > 1)
-        LineaTratteggiata(a, b, colore, t);
-    else
-        Linea(a, b, colore);
 }
 
 } // namespace telva

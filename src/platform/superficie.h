@@ -90,7 +90,16 @@ class Superficie {
                                 const Tratteggio &tratteggio);
     // Any pen and pattern: one of the four lines above.
     void Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                 const Tratteggio &tratteggio = kContinuo);
+                 const Tratteggio &tratteggio = kContinuo) {
+        if (larghezza > 1 && tratteggio.periodo > 1)
+            LineaLargaTratteggiata(a, b, larghezza, colore, tratteggio);
+        else if (larghezza > 1)
+            LineaLarga(a, b, larghezza, colore);
+        else if (tratteggio.periodo > 1)
+            LineaTratteggiata(a, b, colore, tratteggio);
+        else
+            Linea(a, b, colore);
+    }
     // Outline of the circle of radius `raggio` (>= 0) drawn with a pen of `larghezza` pixels.
     void Cerchio(Pixel centro, int raggio, int larghezza, std::uint32_t colore);
 
@@ -103,7 +112,7 @@ class Superficie {
     };
     // A wide line in the colour that has not changed since: drawing it again would change nothing.
     struct Tracciata {
-        Pixel a, b;
+        std::uint32_t da = 0, fino = 0; // x in the lower half, y in the upper one
         int larghezza = 0;
         std::uint32_t giro = 0;
     };
