@@ -77,12 +77,8 @@ std::string Argomento(const Lavoro &lavoro) {
 void Installa() {
     std::string radice = fs::absolute(cartella).string();
     std::replace(radice.begin(), radice.end(), '/', '\\');
-    for (const Lavoro &lavoro : {kDecimo, kTerzo, kPieno, kInverso}) {
-        generatore::Parametri p;
-        p.Misura = lavoro.taglia;
-        p.Ordine = lavoro.nomi;
-        generatore::ScriviInstallazione(cartella, lavoro.codice, generatore::Genera(p), radice);
-    }
+    for (const auto &[codice, taglia, nomi] : {kDecimo, kTerzo, kPieno, kInverso})
+        generatore::ScriviInstallazione(cartella, codice, generatore::Genera(taglia, nomi), radice);
     const fs::path font = cartella / "progra" / "font.001";
     fs::remove(font); // not every library can overwrite
     fs::copy_file(TELVA_RISORSE "/font/font.001", font);

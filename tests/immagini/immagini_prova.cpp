@@ -125,7 +125,7 @@ struct Immagini : Banco {
         Installa("dimo01");
         std::string cartella = Radice() + "/lavori/dimo01";
         std::ranges::replace(cartella, '\\', '/');
-        generatore::ScriviLavoro(cartella, generatore::Genera({}));
+        generatore::ScriviLavoro(cartella, generatore::Genera(generatore::Taglia::Campione));
         ASSERT_TRUE(Avvia());
         Misura(640, 480);
     }

@@ -16,10 +16,9 @@ namespace telva::prove {
 struct LavoroPienoProva : Utente {
     LavoroPienoProva() {
         Installa();
-        generatore::Parametri parametri;
-        parametri.Misura = generatore::Taglia::Piena;
         ScriviLavoro(Telaio()); // its folder
-        generatore::ScriviLavoro(Radice() + "/lavori/prova1", generatore::Genera(parametri));
+        generatore::ScriviLavoro(Radice() + "/lavori/prova1",
+                                 generatore::Genera(generatore::Taglia::Piena));
         EXPECT_TRUE(Avvia()) << Detto();
     }
 };

@@ -1,5 +1,5 @@
 // A small random source of our own: the standard distributions differ from one library to the
-// next, and a seed must give the same job everywhere.
+// next, and a job must be the same everywhere.
 #pragma once
 
 #include <cstdint>
@@ -8,25 +8,25 @@ namespace telva::generatore {
 
 class Casuale {
   public:
-    explicit Casuale(std::uint64_t seme) : Stato(seme) {}
+    // From this place of the one sequence on.
+    explicit Casuale(std::uint64_t inizio) : Stato(1 + inizio * kPasso) {}
+
+    // An integer da..a, both included.
+    int Intero(int da, int a) {
+        return da + static_cast<int>(Prossimo() % (static_cast<std::uint64_t>(a - da) + 1));
+    }
+
+  private:
+    static constexpr std::uint64_t kPasso = 0x9E3779B97F4A7C15ULL;
 
     // Next 64 random bits (SplitMix64).
     std::uint64_t Prossimo() {
-        Stato += 0x9E3779B97F4A7C15ULL;
-        std::uint64_t z = Stato;
+        std::uint64_t z = Stato += kPasso;
         z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9ULL;
         z = (z ^ (z >> 27U)) * 0x94D049BB133111EBULL;
         return z ^ (z >> 31U);
     }
 
-    // An integer da..a, both included; da when the range is empty.
-    int Intero(int da, int a) {
-        if (a <= da) return da;
-        const auto ampiezza = static_cast<std::uint64_t>(a - da) + 1;
-        return da + static_cast<int>(Prossimo() % ampiezza);
-    }
-
-  private:
     std::uint64_t Stato;
 };
 

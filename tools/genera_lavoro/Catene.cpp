@@ -1,128 +1,118 @@
 #include "Catene.h"
 
-#include "Lavoro.h"
+#include "model/struttura.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <map>
-#include <optional>
 
 namespace telva::generatore {
 namespace {
 
-using Chiave = std::array<int, 3>; // kind, storey or first line, line
+// What the bars of one chain have in common; the chains stand in this order.
+struct Chiave {
+    int Tipo, Primo, Secondo;
+    std::string Nome; // of the chain
+    auto operator<=>(const Chiave &) const = default;
+};
 using Gruppi = std::map<Chiave, Fila<int>>;
 
+// Of grid lines along Y and along X.
 std::string Numero(int filo) { return std::to_string(filo + 1); }
+std::string Lettera(int filo) { return {static_cast<char>('A' + filo)}; }
 
-// A..Z, then AA, AB, ...
-std::string Lettera(int filo) {
-    const std::string ultima(1, static_cast<char>('A' + filo % 26));
-    return filo < 26 ? ultima : Lettera(filo / 26 - 1) + ultima;
-}
-
-// The chain that a bar is part of; none when its kind is none.
-std::optional<Chiave> ChiaveDi(const AstaGrezza &asta) {
-    const int tipo = static_cast<int>(asta.Tipo);
+// The chain that a bar is part of; one without name when there is none.
+Chiave ChiaveDi(const Asta &asta) {
     const auto [piano, x, y] = asta.Dove;
-    switch (asta.Tipo) {
-    case TipoAsta::Pilastro: return Chiave{tipo, x, y};
-    case TipoAsta::TraveX: return Chiave{tipo, piano, y};
-    case TipoAsta::TraveY: return Chiave{tipo, piano, x};
-    case TipoAsta::Smusso: return Chiave{tipo, piano, 0};
-    case TipoAsta::Cordolo:
-        return x >= 0 || y >= 0 ? std::optional(Chiave{tipo, x, y}) : std::nullopt;
-    case TipoAsta::Puntone: return x >= 0 ? std::optional(Chiave{tipo, x, 0}) : std::nullopt;
-    case TipoAsta::Arcareccio: return Chiave{tipo, y, 0};
-    default: return std::nullopt;
+    const int tipo = asta.Tipo.Numero;
+    const std::string alPiano = " piano " + std::to_string(piano);
+    switch (tipo) {
+    case kPilastro.Numero: return {tipo, x, y, "Pilastro " + Numero(x) + Lettera(y)};
+    case kTraveX.Numero: return {tipo, piano, y, "Trave filo " + Lettera(y) + alPiano};
+    case kTraveY.Numero: return {tipo, piano, x, "Trave filo " + Numero(x) + alPiano};
+    case kSmusso.Numero: return {tipo, piano, 0, "Trave d'angolo, estremità" + alPiano};
+    case kArcareccio.Numero: return {tipo, y, 0, "Arcareccio " + Numero(y)};
+    case kPuntone.Numero:
+        if (x >= 0) return {tipo, x, 0, "Puntone filo " + Numero(x) + " (sommità)"};
+        break;
+    case kCordolo.Numero:
+        if (x >= 0) return {tipo, x, y, "Cordolo filo " + Numero(x)};
+        if (y >= 0) return {tipo, x, y, "Cordolo filo " + Lettera(y)};
+        break;
+    default: break;
     }
+    return {};
 }
 
-std::string NomeDi(const Chiave &chiave) {
-    const std::string piano = " piano " + std::to_string(chiave[1]);
-    switch (static_cast<TipoAsta>(chiave[0])) {
-    case TipoAsta::Pilastro: return "Pilastro " + Numero(chiave[1]) + Lettera(chiave[2]);
-    case TipoAsta::TraveX: return "Trave filo " + Lettera(chiave[2]) + piano;
-    case TipoAsta::TraveY: return "Trave filo " + Numero(chiave[2]) + piano;
-    case TipoAsta::Smusso: return "Trave d'angolo, estremità" + piano;
-    case TipoAsta::Cordolo:
-        return "Cordolo filo " + (chiave[1] >= 0 ? Numero(chiave[1]) : Lettera(chiave[2]));
-    case TipoAsta::Puntone: return "Puntone filo " + Numero(chiave[1]) + " (sommità)";
-    default: return "Arcareccio " + Numero(chiave[1]);
-    }
-}
-
-Gruppi Raggruppa(const Fila<AstaGrezza> &aste) {
+Gruppi Raggruppa(const Fila<Asta> &aste) {
     Gruppi gruppi;
     for (int a = 0; a < aste.Quanti(); ++a)
-        if (const auto chiave = ChiaveDi(aste[a])) gruppi[*chiave].push_back(a);
+        if (const Chiave chiave = ChiaveDi(aste[a]); !chiave.Nome.empty())
+            gruppi[chiave].push_back(a);
     return gruppi;
 }
 
+// As many bars from there on as a continuous element holds.
 Fila<int> Tratto(const Fila<int> &aste, int da) {
-    const int a = std::min(aste.Quanti(), da + MaxAsteElCont);
+    const int a = std::min(aste.Quanti(), da + kAsteElCont);
     return {aste.begin() + da, aste.begin() + a};
 }
 
-Fila<Catena> Naturali(const Gruppi &gruppi) {
-    Fila<Catena> catene;
+Fila<ElCont> Naturali(const Gruppi &gruppi) {
+    Fila<ElCont> catene;
     for (const auto &[chiave, aste] : gruppi)
-        for (int da = 0; da < aste.Quanti(); da += MaxAsteElCont)
-            catene.push_back({NomeDi(chiave) + (da > 0 ? " (più avanti)" : ""), Tratto(aste, da)});
+        for (int da = 0; da < aste.Quanti(); da += kAsteElCont)
+            catene.push_back({chiave.Nome + (da > 0 ? " (più avanti)" : ""), Tratto(aste, da)});
     return catene;
 }
 
 // Consecutive beams in X, taken as long as a continuous element may be.
-Fila<Catena> Graticci(const Gruppi &gruppi, int quanti) {
+Fila<ElCont> Graticci(const Gruppi &gruppi, int quanti) {
     Fila<int> travi;
     for (const auto &[chiave, aste] : gruppi)
-        if (chiave[0] == static_cast<int>(TipoAsta::TraveX)) travi.Aggiungi(aste);
-    const int libere = std::max(0, travi.Quanti() - MaxAsteElCont);
-    Fila<Catena> catene;
+        if (chiave.Tipo == kTraveX.Numero) travi.Aggiungi(aste);
+    const int libere = travi.Quanti() - kAsteElCont;
+    Fila<ElCont> catene;
     for (int g = 0; g < quanti; ++g)
-        catene.push_back(
-            {"Graticcio n. " + Numero(g), Tratto(travi, libere * g / std::max(1, quanti - 1))});
+        catene.push_back({"Graticcio n. " + Numero(g), Tratto(travi, libere * g / (quanti - 1))});
     return catene;
 }
 
-// Spans of the given number of bays along every beam, until enough.
-void AggiungiCampate(Fila<Catena> &catene, const Gruppi &gruppi, const Fila<AstaGrezza> &aste,
-                     int ampiezza, int quante) {
+// Spans of the given number of bays along every beam.
+Fila<ElCont> Campate(const Gruppi &gruppi, const Fila<Asta> &aste, int ampiezza) {
+    Fila<ElCont> catene;
     for (const auto &[chiave, trave] : gruppi) {
-        const bool lungoX = chiave[0] == static_cast<int>(TipoAsta::TraveX);
-        if (!lungoX && chiave[0] != static_cast<int>(TipoAsta::TraveY)) continue;
-        const auto campataDi = [&, lungoX](int a) {
+        const bool lungoX = chiave.Tipo == kTraveX.Numero;
+        if (!lungoX && chiave.Tipo != kTraveY.Numero) continue;
+        const auto campataDi = [&aste, lungoX](int a) {
             return lungoX ? aste[a].Dove.FiloX : aste[a].Dove.FiloY;
         };
         const int ultima = campataDi(trave.back()); // beams run upwards along their line
-        std::map<int, Fila<int>> campate;
-        for (const int a : trave)
-            for (int c = campataDi(a) - ampiezza + 1; c <= campataDi(a); ++c)
-                if (c >= 0 && c + ampiezza - 1 <= ultima) campate[c].push_back(a);
         const auto filo = lungoX ? Numero : Lettera;
-        for (const auto &[inizio, pezzo] : campate) {
-            if (catene.Quanti() >= quante) return;
-            if (pezzo.Quanti() <= MaxAsteElCont)
-                catene.push_back({"Campata " + filo(inizio) + "-" + filo(inizio + ampiezza) +
-                                      NomeDi(chiave).substr(std::string("Trave").size()),
-                                  pezzo});
+        for (int da = 0; da + ampiezza - 1 <= ultima; ++da) {
+            ElCont campata{"Campata " + filo(da) + "-" + filo(da + ampiezza) +
+                               chiave.Nome.substr(std::string("Trave").size()),
+                           {}};
+            std::ranges::copy_if(trave, std::back_inserter(campata.Aste), [&](int a) {
+                return campataDi(a) >= da && campataDi(a) < da + ampiezza;
+            });
+            if (!campata.Aste.empty()) catene.push_back(campata);
         }
     }
+    return catene;
 }
 
 } // namespace
 
-Fila<Catena> Catene(const Fila<AstaGrezza> &aste, int quante) {
+Fila<ElCont> Catene(const Fila<Asta> &aste, int quante) {
     const Gruppi gruppi = Raggruppa(aste);
-    Fila<Catena> catene = Naturali(gruppi);
-    catene.insert(catene.begin() + catene.Quanti() / 2, Catena{"Trave eliminata (è vuota)", {}});
+    Fila<ElCont> catene = Naturali(gruppi);
+    catene.insert(catene.begin() + catene.Quanti() / 2, ElCont{"Trave eliminata (è vuota)", {}});
     if (quante == 0) return catene;
-    const Fila<Catena> lunghi = Graticci(gruppi, std::max(1, quante / 40));
-    if (catene.Quanti() + lunghi.Quanti() > quante)
-        catene.resize(static_cast<std::size_t>(quante - lunghi.Quanti()));
-    catene.Aggiungi(lunghi);
-    for (int ampiezza = 1; catene.Quanti() < quante && ampiezza < 40; ++ampiezza)
-        AggiungiCampate(catene, gruppi, aste, ampiezza, quante);
+    catene.Aggiungi(Graticci(gruppi, quante / 40));
+    for (int ampiezza = 1; catene.Quanti() < quante; ++ampiezza)
+        catene.Aggiungi(Campate(gruppi, aste, ampiezza));
+    catene.resize(static_cast<std::size_t>(quante));
     return catene;
 }
 

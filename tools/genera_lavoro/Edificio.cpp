@@ -7,50 +7,25 @@
 namespace telva::generatore {
 namespace {
 
-constexpr int Cm = 100; // unit of length: hundredths of a cm
-constexpr int AltezzaPorta = 210 * Cm;
-constexpr int LarghezzaTorre = 420 * Cm;
-constexpr int ExtraCorsa = 130 * Cm; // lift tower above the ridge
+constexpr int kCm = 100; // the unit of length is a hundredth of it
+constexpr int kAltezzaPorta = 210 * kCm;
+constexpr int kLarghezzaTorre = 420 * kCm;
+constexpr int kExtraCorsa = 130 * kCm; // lift tower above the ridge
+constexpr int kSporto = 90 * kCm;      // eaves beyond the outer lines
+constexpr int kSbalzo = 140 * kCm;
 
-// A fine grid line, through the corners of the floor panels.
-struct Linea {
-    int Quota, Filo, Campata; // Filo: number of the main line, -1 between two of them
-};
+// A line of the roof, and the fine line below it (that of the outer beam for the eaves).
 struct LineaFalda {
-    int Y, J, Filo; // J: fine line below (that of the outer beam for the eaves)
-    bool Sporto;
+    int Y, J;
 };
-using Pianta = Fila<std::array<int, 2>>;
-
-Fila<int> Somma(const Fila<int> &passi, int inizio) {
-    Fila<int> linee{inizio};
-    for (const int passo : passi) linee.push_back(linee.back() + passo);
-    return linee;
-}
-
-Fila<Linea> Suddividi(const Fila<int> &fili, const Fila<int> &sudd) {
-    Fila<Linea> linee;
-    for (int c = 0; c < sudd.Quanti(); ++c)
-        for (int s = 0; s < sudd[c]; ++s)
-            linee.push_back({fili[c] + (fili[c + 1] - fili[c]) * s / sudd[c], s == 0 ? c : -1, c});
-    linee.push_back({fili.back(), sudd.Quanti(), sudd.Quanti() - 1});
-    return linee;
-}
-
-Fila<int> Principali(const Fila<Linea> &linee) {
-    Fila<int> fili;
-    for (int i = 0; i < linee.Quanti(); ++i)
-        if (linee[i].Filo >= 0) fili.push_back(i);
-    return fili;
-}
+using Coppia = std::array<int, 2>;
+using Pianta = Fila<Coppia>; // points in plan
 
 // Puts every element of a building on its site. Indexes: i and j of fine lines along X and Y, a and
 // b of main lines, k of levels, which are the storeys below them too.
 class Muratore {
   public:
-    explicit Muratore(const Maglia &maglia)
-        : M(maglia), LX(Suddividi(M.FiliX, M.SuddX)), LY(Suddividi(M.FiliY, M.SuddY)),
-          FX(Principali(LX)), FY(Principali(LY)), Piani(M.Quote.Quanti() - 1) {}
+    explicit Muratore(const Maglia &maglia) : M(maglia), Piani(M.Quote.Quanti() - 1) {}
 
     Edificio Costruisci() {
         Cordoli();
@@ -59,183 +34,165 @@ class Muratore {
             Travi(k);
             Solaio(k);
         }
-        for (const auto &nucleo : M.Nuclei) Nucleo(nucleo[0], nucleo[1]);
+        for (const auto &[a, b] : M.Nuclei) Nucleo(FX[a], FY[b], FX[a + 1], FY[b + 1]);
         Controventi();
-        Fila<AstaCandidata> aggiungibili = Secondarie();
+        const int travi = E.Aste.Quanti();
+        Secondarie();
         if (M.Dettagli) {
-            for (const AstaCandidata &a : aggiungibili) C.Asta(a.Tipo, a.I, a.J, a.Dove);
-            aggiungibili.clear();
             Torre();
             Balconi();
             PareteDiTaglio();
+        } else {
+            E.Secondarie = E.Aste.StaccaDa(travi);
         }
         const Fila<LineaFalda> linee = LineeFalda();
         Puntoni(linee);
-        Arcarecci(linee);
-        Manto(linee);
-        aggiungibili.Aggiungi(CrociInterne());
-        return {C, aggiungibili, Tramezzi()};
+        Falde(linee);
+        const int gusci = E.Gusci.Quanti();
+        Tramezzi();
+        E.Tramezzi = E.Gusci.StaccaDa(gusci);
+        return E;
     }
 
   private:
-    Posizione Incrocio(int i, int j, int k) const { return {LX[i].Quota, LY[j].Quota, M.Quote[k]}; }
-
     // The corner bay between the last X line and the first Y line is cut along its diagonal.
     int Smusso() const { return FX[FX.Quanti() - 2]; }
     bool Presente(int i, int j) const { return i <= Smusso() || j >= FY[1] || i - Smusso() <= j; }
 
-    bool InNucleo(int i, int j) const {
-        const std::array<int, 2> campo{LX[i].Campata, LY[j].Campata};
-        return std::find(M.Nuclei.begin(), M.Nuclei.end(), campo) != M.Nuclei.end();
+    Posto Punto(int i, int j, int k) const {
+        if (!Presente(i, j)) return {};
+        return Posizione{LX[i].Quota, LY[j].Quota, M.Quote[k]};
     }
+    // Where main lines cross.
+    Posto Filo(int a, int b, int k) const { return Punto(FX[a], FY[b], k); }
 
-    void Cordolo(int i0, int j0, int i1, int j1, Luogo dove) {
-        if (Presente(i0, j0) && Presente(i1, j1))
-            C.Asta(TipoAsta::Cordolo, Incrocio(i0, j0, 0), Incrocio(i1, j1, 0), dove);
+    bool InNucleo(int i, int j) const {
+        return std::ranges::count(M.Nuclei, std::array{LX[i].Campata, LY[j].Campata}) > 0;
     }
 
     // Ground beams: on the outline only under the small building.
     void Cordoli() {
-        const auto salta = [this](int filo, const Fila<int> &fili) {
-            return M.Dettagli && filo > 0 && filo + 1 < fili.Quanti();
+        const auto corre = [this](int filo, const Fila<int> &fili) {
+            return !M.Dettagli || filo == 0 || filo + 1 == fili.Quanti();
         };
         for (int b = 0; b < FY.Quanti(); ++b)
-            for (int a = 0; a + 1 < FX.Quanti() && !salta(b, FY); ++a)
-                Cordolo(FX[a], FY[b], FX[a + 1], FY[b], {0, -1, b});
+            for (int a = 0; a + 1 < FX.Quanti() && corre(b, FY); ++a)
+                E.Metti(kCordolo, Filo(a, b, 0), Filo(a + 1, b, 0), {0, -1, b});
         for (int a = 0; a < FX.Quanti(); ++a)
-            for (int b = 0; b + 1 < FY.Quanti() && !salta(a, FX); ++b)
-                Cordolo(FX[a], FY[b], FX[a], FY[b + 1], {0, a, -1});
-        Cordolo(Smusso(), FY[0], FX.back(), FY[1], {0});
+            for (int b = 0; b + 1 < FY.Quanti() && corre(a, FX); ++b)
+                E.Metti(kCordolo, Filo(a, b, 0), Filo(a, b + 1, 0), {0, a, -1});
+        E.Metti(kCordolo, Punto(Smusso(), 0, 0), Punto(FX.back(), FY[1], 0), {0});
     }
 
     void Pilastri(int k) {
         for (int b = 0; b < FY.Quanti(); ++b)
-            for (int a = 0; a < FX.Quanti(); ++a)
-                if (Presente(FX[a], FY[b]))
-                    C.Asta(TipoAsta::Pilastro, Incrocio(FX[a], FY[b], k - 1),
-                           Incrocio(FX[a], FY[b], k), {k, a, b});
+            for (int a = 0; a < FX.Quanti(); ++a) {
+                TipoAsta tipo = kPilastro;
+                tipo.Orientamento += (a + b) % 2;
+                if (M.Dettagli && k > 3) tipo.Sezione = kSezionePilastroLeggero;
+                E.Metti(tipo, Filo(a, b, k - 1), Filo(a, b, k), {k, a, b});
+            }
     }
 
     void Travi(int k) {
         for (const int j : FY)
             for (int i = 0; i + 1 < LX.Quanti(); ++i)
-                if (Presente(i, j) && Presente(i + 1, j))
-                    C.Asta(TipoAsta::TraveX, Incrocio(i, j, k), Incrocio(i + 1, j, k),
-                           {k, LX[i].Campata, LY[j].Filo});
+                E.Metti(kTraveX, Punto(i, j, k), Punto(i + 1, j, k),
+                        {k, LX[i].Campata, LY[j].Filo});
         for (const int i : FX)
             for (int j = 0; j + 1 < LY.Quanti(); ++j)
                 if (M.Dettagli && i == 0 && LY[j].Campata == 1)
-                    TraveYConPorta(j, k);
-                else if (Presente(i, j) && Presente(i, j + 1))
-                    C.Asta(TipoAsta::TraveY, Incrocio(i, j, k), Incrocio(i, j + 1, k),
-                           {k, LX[i].Filo, LY[j].Campata});
-        for (int t = 0; t < FY[1]; ++t)
-            C.Asta(TipoAsta::Smusso, Incrocio(Smusso() + t, t, k),
-                   Incrocio(Smusso() + t + 1, t + 1, k), {k});
+                    TraveConPorta(k);
+                else
+                    E.Metti(kTraveY, Punto(i, j, k), Punto(i, j + 1, k),
+                            {k, LX[i].Filo, LY[j].Campata});
+        for (int j = 0, i = Smusso(); j < FY[1]; ++j, ++i)
+            E.Metti(kSmusso, Punto(i, j, k), Punto(i + 1, j + 1, k), {k});
     }
 
     // The beam in front of the lift tower is split where the door jambs stand.
-    void TraveYConPorta(int j, int k) {
-        const Fila<int> y = PortaTorre();
-        for (int t = 0; t + 1 < y.Quanti(); ++t)
-            C.Asta(TipoAsta::TraveY, {LX[0].Quota, y[t], M.Quote[k]},
-                   {LX[0].Quota, y[t + 1], M.Quote[k]}, {k, 0, LY[j].Campata});
+    void TraveConPorta(int k) {
+        const Pianta porta = PortaTorre();
+        for (int p = 0; p + 1 < porta.Quanti(); ++p)
+            E.Metti(kTraveY, Su(porta[p], M.Quote[k]), Su(porta[p + 1], M.Quote[k]), {k, 0, 1});
     }
 
     void Solaio(int k) {
+        const auto inMezzo = [](const Fila<Linea> &linee, int i) {
+            return linee[i].Filo < 0 && linee[i + 1].Filo < 0;
+        };
         for (int j = 0; j + 1 < LY.Quanti(); ++j)
-            for (int i = 0; i + 1 < LX.Quanti(); ++i)
-                if (!InNucleo(i, j)) CampoSolaio(i, j, k);
+            for (int i = 0; i + 1 < LX.Quanti(); ++i) {
+                if (InNucleo(i, j)) continue;
+                if (inMezzo(LX, i) && inMezzo(LY, j) && Presente(i + 1, j))
+                    E.Cavedi.push_back(E.Gusci.Quanti());
+                E.Metti(kSolai[static_cast<std::size_t>((k - 1) % 3)],
+                        {Punto(i, j, k), Punto(i + 1, j, k), Punto(i + 1, j + 1, k),
+                         Punto(i, j + 1, k)},
+                        k);
+            }
     }
-
-    void CampoSolaio(int i, int j, int k) {
-        Fila<Posizione> angoli;
-        for (const auto &[x, y] : Giro(i, j))
-            if (Presente(x, y)) angoli.push_back(Incrocio(x, y, k));
-        if (angoli.size() < 3) return;
-        const bool centrale = i > 0 && j > 0 && LX[i].Filo < 0 && LX[i + 1].Filo < 0 &&
-                              LY[j].Filo < 0 && LY[j + 1].Filo < 0 && angoli.size() == 4;
-        C.Guscio(TipoGuscio::Solaio, angoli, {k, LX[i].Campata, LY[j].Campata}, centrale);
-    }
-
-    // The corners of a panel in order around its edge.
-    static Pianta Giro(int i, int j) { return {{i, j}, {i + 1, j}, {i + 1, j + 1}, {i, j + 1}}; }
 
     void Controventi() {
-        const int ultimaX = FX.Quanti() - 1, ultimaY = FY.Quanti() - 1;
+        const int x = FX.Quanti() - 1, y = FY.Quanti() - 1; // the last lines
         for (int k = 1; k <= Piani; ++k) {
-            Croce(0, 0, true, k);
-            Croce(1, ultimaY, true, k);
-            Croce(ultimaX, ultimaY / 2, false, k);
-            if (!M.Dettagli) Croce(0, ultimaY / 2, false, k);
+            Croce({0, 0}, {1, 0}, k);
+            Croce({1, y}, {2, y}, k);
+            Croce({x, y / 2}, {x, y / 2 + 1}, k);
+            if (!M.Dettagli) Croce({0, y / 2}, {0, y / 2 + 1}, k);
         }
     }
 
-    // Two crossing diagonals in the bay that starts at the given main lines, below level k.
-    void Croce(int a, int b, bool lungoX, int k) {
-        const int i0 = FX[a], i1 = lungoX ? FX[a + 1] : i0;
-        const int j0 = FY[b], j1 = lungoX ? j0 : FY[b + 1];
-        if (!Presente(i0, j0) || !Presente(i1, j1)) return;
-        const Luogo dove = lungoX ? Luogo{k, -1, b} : Luogo{k, a, -1};
-        C.Asta(TipoAsta::Controvento, Incrocio(i0, j0, k - 1), Incrocio(i1, j1, k), dove);
-        C.Asta(TipoAsta::Controvento, Incrocio(i1, j1, k - 1), Incrocio(i0, j0, k), dove);
+    // Two crossing diagonals between two columns.
+    void Croce(const Coppia &p, const Coppia &q, int k) {
+        E.Metti(kControvento, Filo(p[0], p[1], k - 1), Filo(q[0], q[1], k), {k});
+        E.Metti(kControvento, Filo(q[0], q[1], k - 1), Filo(p[0], p[1], k), {k});
     }
 
-    Fila<AstaCandidata> Secondarie() const {
-        Fila<AstaCandidata> tutte;
+    void Secondarie() {
         for (int j = 0; j < LY.Quanti(); ++j)
             for (int k = 1; k <= Piani && LY[j].Filo < 0; ++k)
                 for (int i = 0; i + 1 < LX.Quanti(); ++i)
-                    if (Presente(i, j) && Presente(i + 1, j) && !InNucleo(i, j))
-                        tutte.push_back({TipoAsta::Secondaria,
-                                         Incrocio(i, j, k),
-                                         Incrocio(i + 1, j, k),
-                                         {k, LX[i].Campata, LY[j].Campata}});
-        return tutte;
+                    if (!InNucleo(i, j))
+                        E.Metti(kSecondaria, Punto(i, j, k), Punto(i + 1, j, k), {k});
     }
 
-    Fila<AstaCandidata> CrociInterne() const {
-        Fila<AstaCandidata> tutte;
-        for (int b = 1; b + 1 < FY.Quanti(); ++b)
-            for (int k = 1; k <= Piani; ++k)
-                for (int a = 0; a + 1 < FX.Quanti(); ++a)
-                    for (const auto &[da, verso] : Pianta{{a, a + 1}, {a + 1, a}})
-                        tutte.push_back({TipoAsta::Controvento,
-                                         Incrocio(FX[da], FY[b], k - 1),
-                                         Incrocio(FX[verso], FY[b], k),
-                                         {k, -1, b}});
-        return tutte;
-    }
-
-    Fila<Fila<Posizione>> Tramezzi() const {
-        Fila<Fila<Posizione>> tutti;
-        for (int k = 1; k < Piani; ++k)
+    void Tramezzi() {
+        for (int k = 2; k <= Piani; ++k)
             for (int b = 1; b + 1 < FY.Quanti(); ++b)
-                for (int i = 0; i + 1 < LX.Quanti(); ++i)
-                    if (!InNucleo(i, FY[b]) && !InNucleo(i, FY[b] - 1)) // no wall of a core there
-                        tutti.push_back({Incrocio(i, FY[b], k), Incrocio(i + 1, FY[b], k),
-                                         Incrocio(i + 1, FY[b], k + 1), Incrocio(i, FY[b], k + 1)});
-        return tutti;
+                for (int i = 0, j = FY[b]; i + 1 < LX.Quanti(); ++i)
+                    if (!InNucleo(i, j) && !InNucleo(i, j - 1)) // no wall of a core there
+                        Parete(kGuscioNascosto, Lato(i, j, i + 1, j), k);
     }
 
-    void Parete(TipoGuscio tipo, const Pianta &pianta, int z0, int z1, int piano) {
+    // Of a level; the one above the last floor is the top of the lift tower.
+    int Quota(int k) const {
+        return k <= Piani ? M.Quote[k] : M.Quote.back() + M.AltezzaColmo + kExtraCorsa;
+    }
+
+    static Posizione Su(const Coppia &inPianta, int quota) {
+        return {inPianta[0], inPianta[1], quota};
+    }
+
+    // The walls between the points, one after the other, below level k.
+    void Parete(const TipoGuscio &tipo, const Pianta &pianta, int k) {
+        const int z0 = Quota(k - 1), z1 = Quota(k);
         for (int p = 0; p + 1 < pianta.Quanti(); ++p) {
-            const auto [xa, ya] = pianta[p];
-            const auto [xb, yb] = pianta[p + 1];
-            C.Guscio(tipo, {{xa, ya, z0}, {xb, yb, z0}, {xb, yb, z1}, {xa, ya, z1}}, {piano});
+            const Coppia &da = pianta[p], &a = pianta[p + 1];
+            E.Metti(tipo, {Su(da, z0), Su(a, z0), Su(a, z1), Su(da, z1)}, k);
         }
     }
 
     // Four points in plan: wall, door, wall. The triangles beside the door spare the outer edges,
     // shared with the walls around the corner, a node at the height of the lintel.
     void PareteConPorta(const Pianta &pianta, int k) {
-        const int z0 = M.Quote[k - 1], z1 = M.Quote[k], zp = z0 + AltezzaPorta;
-        const auto nucleo = [&](std::initializer_list<std::array<int, 2>> angoli) {
-            Fila<Posizione> punti;
-            for (const auto &[p, z] : angoli) punti.push_back({pianta[p][0], pianta[p][1], z});
-            C.Guscio(TipoGuscio::Nucleo, punti, {k});
+        const int z0 = M.Quote[k - 1], z1 = M.Quote[k], zp = z0 + kAltezzaPorta;
+        const auto nucleo = [&](const Fila<Coppia> &angoli) { // each a point and its height
+            Fila<Posto> punti;
+            for (const auto &[p, z] : angoli) punti.push_back(Su(pianta[p], z));
+            E.Metti(kNucleo, punti, k);
         };
-        for (const auto &[fuori, dentro] : Pianta{{0, 1}, {3, 2}}) {
+        for (const auto &[fuori, dentro] : {Coppia{0, 1}, Coppia{3, 2}}) {
             nucleo({{fuori, z0}, {dentro, z0}, {dentro, zp}});
             nucleo({{fuori, z0}, {dentro, zp}, {fuori, z1}});
             nucleo({{fuori, z1}, {dentro, zp}, {dentro, z1}});
@@ -243,177 +200,163 @@ class Muratore {
         nucleo({{1, zp}, {2, zp}, {2, z1}, {1, z1}});
     }
 
-    void Nucleo(int campataX, int campataY) {
-        const int i0 = FX[campataX], i1 = FX[campataX + 1];
-        const int j0 = FY[campataY], j1 = FY[campataY + 1];
-        Pianta davanti, dietro, sinistra, destra;
-        for (int i = i0; i <= i1; ++i) {
-            davanti.push_back({LX[i].Quota, LY[j0].Quota});
-            dietro.push_back({LX[i].Quota, LY[j1].Quota});
-        }
-        for (int j = j0; j <= j1; ++j) {
-            sinistra.push_back({LX[i0].Quota, LY[j].Quota});
-            destra.push_back({LX[i1].Quota, LY[j].Quota});
-        }
+    // All points in plan between two corners of a straight side.
+    Pianta Lato(int i0, int j0, int i1, int j1) const {
+        Pianta punti;
+        for (int i = i0; i <= i1; ++i)
+            for (int j = j0; j <= j1; ++j) punti.push_back({LX[i].Quota, LY[j].Quota});
+        return punti;
+    }
+
+    void Nucleo(int i0, int j0, int i1, int j1) {
         for (int k = 1; k <= Piani; ++k) {
-            PareteConPorta(davanti, k);
-            for (const Pianta *lato : {&dietro, &sinistra, &destra})
-                Parete(TipoGuscio::Nucleo, *lato, M.Quote[k - 1], M.Quote[k], k);
+            PareteConPorta(Lato(i0, j0, i1, j0), k);
+            Parete(kNucleo, Lato(i0, j1, i1, j1), k);
+            Parete(kNucleo, Lato(i0, j0, i0, j1), k);
+            Parete(kNucleo, Lato(i1, j0, i1, j1), k);
         }
     }
 
-    Fila<int> PortaTorre() const {
-        const int mezzo = (M.FiliY[1] + M.FiliY[2]) / 2;
-        return {M.FiliY[1], mezzo - 60 * Cm, mezzo + 60 * Cm, M.FiliY[2]};
+    // Where the lift tower touches the building: wall, door, wall.
+    Pianta PortaTorre() const {
+        const int da = M.Y.Quota(1), a = M.Y.Quota(2), mezzo = (da + a) / 2;
+        return {{0, da}, {0, mezzo - 60 * kCm}, {0, mezzo + 60 * kCm}, {0, a}};
     }
 
     void Torre() {
-        const Fila<int> y = PortaTorre();
-        const int lontano = -LarghezzaTorre, mezzo = lontano / 2;
-        const Pianta porta{{0, y[0]}, {0, y[1]}, {0, y[2]}, {0, y[3]}};
-        const Pianta guscio{
-            {0, y[0]},       {mezzo, y[0]}, {lontano, y[0]}, {lontano, (y[0] + y[3]) / 2},
-            {lontano, y[3]}, {mezzo, y[3]}, {0, y[3]}};
+        const int y0 = M.Y.Quota(1), y1 = M.Y.Quota(2);
+        const int lontano = -kLarghezzaTorre, mezzo = lontano / 2;
+        const Pianta guscio{{0, y0},       {mezzo, y0}, {lontano, y0}, {lontano, (y0 + y1) / 2},
+                            {lontano, y1}, {mezzo, y1}, {0, y1}};
         for (int k = 1; k <= Piani; ++k) {
-            Parete(TipoGuscio::Nucleo, guscio, M.Quote[k - 1], M.Quote[k], k);
-            PareteConPorta(porta, k);
+            Parete(kNucleo, guscio, k);
+            PareteConPorta(PortaTorre(), k);
         }
-        const int tetto = M.Quote.back() + M.AltezzaColmo + ExtraCorsa;
-        Parete(TipoGuscio::Nucleo, guscio, M.Quote.back(), tetto, Piani + 1);
-        Parete(TipoGuscio::Nucleo, porta, M.Quote.back(), tetto, Piani + 1);
-        C.Guscio(
-            TipoGuscio::Copertina,
-            {{lontano, y[0], tetto}, {0, y[0], tetto}, {0, y[3], tetto}, {lontano, y[3], tetto}},
-            {Piani + 1});
+        const int k = Piani + 1, z = Quota(k);
+        Parete(kNucleo, guscio, k);
+        Parete(kNucleo, PortaTorre(), k);
+        Piano(kCopertina, {lontano, y0, z}, {0, y1, z}, k);
+    }
+
+    // A horizontal panel between two opposite corners.
+    void Piano(const TipoGuscio &tipo, const Posizione &p, const Posizione &q, int piano) {
+        E.Metti(tipo, {p, Posizione{q.X, p.Y, p.Z}, q, Posizione{p.X, q.Y, p.Z}}, piano);
     }
 
     // The last floor has none: the eaves are there.
     void Balconi() {
-        const int profondo = -140 * Cm;
         for (int k = 2; k < Piani; ++k) {
-            const int z = M.Quote[k];
-            for (int a = 1; a <= 3; ++a)
-                C.Asta(TipoAsta::Mensola, {M.FiliX[a], 0, z}, {M.FiliX[a], profondo, z}, {k});
+            const auto bordo = [this, k](int a, int y) {
+                return Posizione{M.X.Quota(a), y, M.Quote[k]};
+            };
+            for (int a = 1; a <= 3; ++a) E.Metti(kMensola, bordo(a, 0), bordo(a, -kSbalzo), {k});
             for (int a = 1; a <= 2; ++a) {
-                const int x0 = M.FiliX[a], x1 = M.FiliX[a + 1];
-                C.Asta(TipoAsta::Secondaria, {x0, profondo, z}, {x1, profondo, z}, {k});
-                C.Guscio(TipoGuscio::Balcone,
-                         {{x0, profondo, z}, {x1, profondo, z}, {x1, 0, z}, {x0, 0, z}}, {k});
+                E.Metti(kSecondaria, bordo(a, -kSbalzo), bordo(a + 1, -kSbalzo), {k});
+                Piano(kBalcone, bordo(a, -kSbalzo), bordo(a + 1, 0), k);
             }
         }
     }
 
     void PareteDiTaglio() {
-        const Pianta pianta{{M.FiliX[2], M.FiliY.back()}, {M.FiliX[3], M.FiliY.back()}};
         for (int k = 1; k <= Piani; ++k)
-            Parete(TipoGuscio::Parete, pianta, M.Quote[k - 1], M.Quote[k], k);
+            Parete(kParete, Lato(FX[2], FY.back(), FX[3], FY.back()), k);
+    }
+
+    // Y of the ridge: the middle line, or half-way between the two middle ones.
+    int Colmo() const {
+        const int fili = FY.Quanti();
+        return (M.Y.Quota((fili - 1) / 2) + M.Y.Quota(fili / 2)) / 2;
     }
 
     // Lines of the roof from front eaves to back eaves; the ridge gets its own when no main line
     // runs in the middle.
     Fila<LineaFalda> LineeFalda() const {
-        Fila<LineaFalda> linee{{M.FiliY.front() - M.Sporto, 0, -1, true}};
+        Fila<LineaFalda> linee{{M.Y.Quota(0) - kSporto, 0}};
         for (int b = 0; b < FY.Quanti(); ++b) {
-            linee.push_back({M.FiliY[b], FY[b], b, false});
-            if (FY.Quanti() % 2 == 0 && b + 1 == FY.Quanti() / 2)
-                linee.push_back({(M.FiliY[b] + M.FiliY[b + 1]) / 2, FY[b + 1], -1, false});
+            if (2 * b == FY.Quanti()) linee.push_back({Colmo(), FY[b]});
+            linee.push_back({M.Y.Quota(b), FY[b]});
         }
-        linee.push_back({M.FiliY.back() + M.Sporto, FY.back(), -1, true});
+        linee.push_back({M.Y.Fine() + kSporto, FY.back()});
         return linee;
     }
 
-    Posizione InFalda(int i, const LineaFalda &linea) const {
-        const int meta = M.FiliY.Quanti() / 2;
-        const bool traDue = M.FiliY.Quanti() % 2 == 0;
-        const std::int64_t colmo = traDue ? (M.FiliY[meta - 1] + M.FiliY[meta]) / 2 : M.FiliY[meta];
-        const std::int64_t gronda = linea.Y <= colmo ? M.FiliY.front() : M.FiliY.back();
+    // Where a main line along Y crosses a line of the roof.
+    Posto InFalda(int a, const LineaFalda &linea) const {
+        if (!Presente(FX[a], linea.J)) return {};
+        const std::int64_t colmo = Colmo();
+        const std::int64_t gronda = linea.Y <= colmo ? M.Y.Quota(0) : M.Y.Fine();
         const std::int64_t salita = M.AltezzaColmo * (linea.Y - gronda) / (colmo - gronda);
-        return {LX[i].Quota, linea.Y, M.Quote.back() + static_cast<int>(salita)};
+        return Posizione{M.X.Quota(a), linea.Y, M.Quote.back() + static_cast<int>(salita)};
     }
 
     void Puntoni(const Fila<LineaFalda> &linee) {
-        for (int a = 0; a < FX.Quanti(); ++a) {
-            const int i = FX[a];
+        const int k = Piani + 1, ultimo = FX.Quanti() - 1;
+        for (int a = 0; a <= ultimo; ++a) {
             for (int l = 0; l + 1 < linee.Quanti(); ++l)
-                if (Presente(i, linee[l].J) && Presente(i, linee[l + 1].J))
-                    C.Asta(TipoAsta::Puntone, InFalda(i, linee[l]), InFalda(i, linee[l + 1]),
-                           {Piani + 1, a, -1});
+                E.Metti(kPuntone, InFalda(a, linee[l]), InFalda(a, linee[l + 1]), {k, a, -1});
             for (int b = 1; b + 1 < FY.Quanti(); ++b)
-                C.Asta(TipoAsta::Monaco, Incrocio(i, FY[b], Piani),
-                       InFalda(i, {M.FiliY[b], FY[b], b, false}), {Piani + 1, a, b});
+                E.Metti(kMonaco, Filo(a, b, Piani), InFalda(a, {M.Y.Quota(b), FY[b]}), {k});
         }
-        C.Asta(TipoAsta::Puntone, InFalda(Smusso(), linee[1]), InFalda(FX.back(), linee[2]),
-               {Piani + 1}); // hip over the chamfer
+        // the hip over the chamfer
+        E.Metti(kPuntone, InFalda(ultimo - 1, linee[1]), InFalda(ultimo, linee[2]), {k});
     }
 
-    // The outer lines have the beams of the last floor: no purlin there.
-    void Arcarecci(const Fila<LineaFalda> &linee) {
-        for (int l = 0; l < linee.Quanti(); ++l)
-            for (int a = 0; a + 1 < FX.Quanti() && l != 1 && l + 2 != linee.Quanti(); ++a)
-                if (Presente(FX[a], linee[l].J) && Presente(FX[a + 1], linee[l].J))
-                    C.Asta(TipoAsta::Arcareccio, InFalda(FX[a], linee[l]),
-                           InFalda(FX[a + 1], linee[l]), {Piani + 1, -1, l});
-    }
-
-    void Manto(const Fila<LineaFalda> &linee) {
-        for (int l = 0; l + 1 < linee.Quanti(); ++l)
+    // Purlins, and panels between them. The outer lines have the beams of the last floor instead.
+    void Falde(const Fila<LineaFalda> &linee) {
+        const int ultima = linee.Quanti() - 1, piano = Piani + 1;
+        for (int l = 0; l <= ultima; ++l)
             for (int a = 0; a + 1 < FX.Quanti(); ++a) {
-                Fila<Posizione> angoli;
-                for (const auto &[x, y] : Giro(a, l))
-                    if (Presente(FX[x], linee[y].J)) angoli.push_back(InFalda(FX[x], linee[y]));
-                if (angoli.size() < 3) continue;
-                const bool vetro = (a + l) % 4 == 3 && !linee[l].Sporto && !linee[l + 1].Sporto;
-                C.Guscio(vetro ? TipoGuscio::Lucernario : TipoGuscio::Falda, angoli,
-                         {Piani + 1, a, l});
+                const Posto p = InFalda(a, linee[l]), q = InFalda(a + 1, linee[l]);
+                if (l != 1 && l != ultima - 1) E.Metti(kArcareccio, p, q, {piano, -1, l});
+                if (l == ultima) continue;
+                const bool vetro = (a + l) % 4 == 3 && l > 0 && l < ultima - 1;
+                const Posto s = InFalda(a, linee[l + 1]), r = InFalda(a + 1, linee[l + 1]);
+                E.Metti(vetro ? kLucernario : kFalda, {p, q, r, s}, piano);
             }
     }
 
     const Maglia &M;
-    Cantiere C;
-    Fila<Linea> LX, LY;
-    Fila<int> FX, FY; // fine line of each main line
+    Edificio E;
+    const Fila<Linea> &LX = M.X.Linee, &LY = M.Y.Linee;
+    const Fila<int> &FX = M.X.Fili, &FY = M.Y.Fili;
     int Piani;
 };
 
 } // namespace
 
-Maglia MagliaCampione(Casuale &caso) {
-    const int estremo = (540 + 30 * caso.Intero(-1, 1)) * Cm;
-    const int interno = (480 + 30 * caso.Intero(-1, 1)) * Cm;
-    const int fronte = (540 + 30 * caso.Intero(-1, 1)) * Cm;
-    const int interpiano = (310 + 10 * caso.Intero(0, 3)) * Cm;
-    return {.FiliX = Somma({estremo, interno, interno, estremo}, 0),
-            .FiliY = Somma({fronte, 420 * Cm, fronte}, 0),
-            .SuddX = {1, 1, 1, 2},
-            .SuddY = {2, 1, 1},
-            .Quote = Somma({420 * Cm, interpiano, interpiano, interpiano, interpiano}, 0),
-            .AltezzaColmo = 250 * Cm,
-            .Sporto = 90 * Cm,
+Asse::Asse(const Fila<int> &campate, const Fila<int> &campi, int inizio) {
+    for (int c = 0; c < campate.Quanti(); ++c) {
+        Fili.push_back(Linee.Quanti());
+        for (int s = 0; s < campi[c]; ++s)
+            Linee.push_back({inizio + campate[c] * s / campi[c], s == 0 ? c : -1, c});
+        inizio += campate[c];
+    }
+    Fili.push_back(Linee.Quanti());
+    Linee.push_back({inizio, campate.Quanti(), campate.Quanti() - 1});
+}
+
+Maglia MagliaCampione() {
+    return {.X{{570 * kCm, 480 * kCm, 480 * kCm, 570 * kCm}, {1, 1, 1, 2}},
+            .Y{{510 * kCm, 420 * kCm, 510 * kCm}, {2, 1, 1}},
+            .Quote = {0, 420 * kCm, 760 * kCm, 1100 * kCm, 1440 * kCm, 1780 * kCm},
+            .AltezzaColmo = 250 * kCm,
             .Dettagli = true};
 }
 
-Maglia MagliaGrande(int campateX, int campateY, int piani, Casuale &caso) {
-    const auto centrati = [&caso](int quanti) {
-        Fila<int> passi;
-        for (int n = 0; n < quanti; ++n) passi.push_back((390 + 30 * caso.Intero(0, 3)) * Cm);
-        return Somma(passi, -std::accumulate(passi.begin(), passi.end(), 0) / 2);
+Maglia MagliaGrande(const Dimensioni &dimensioni, Casuale &caso) {
+    const auto centrato = [&caso](int quante) {
+        Fila<int> campate;
+        for (int n = 0; n < quante; ++n) campate.push_back((390 + 30 * caso.Intero(0, 3)) * kCm);
+        const Fila<int> campi(campate.size(), 3);
+        return Asse(campate, campi, -std::accumulate(campate.begin(), campate.end(), 0) / 2);
     };
-    Maglia m;
-    m.FiliX = centrati(campateX);
-    m.FiliY = centrati(campateY);
-    m.SuddX.assign(static_cast<std::size_t>(campateX), 3);
-    m.SuddY.assign(static_cast<std::size_t>(campateY), 3);
-    for (int k = 0; k <= piani; ++k) m.Quote.push_back(k * 300 * Cm);
-    for (int x = std::min(2, campateX / 2); x + 1 < campateX; x += 5) {
-        if (campateY < 8) {
-            m.Nuclei.push_back({x, campateY / 2});
-        } else {
-            m.Nuclei.push_back({x, campateY / 4});
-            m.Nuclei.push_back({x, 3 * campateY / 4});
-        }
-    }
-    m.AltezzaColmo = (m.FiliY.back() - m.FiliY.front()) / 8;
-    m.Sporto = 90 * Cm;
+    const auto &[x, y, piani] = dimensioni;
+    Maglia m{.X = centrato(x), .Y = centrato(y)};
+    for (int k = 0; k <= piani; ++k) m.Quote.push_back(k * 300 * kCm);
+    for (int a = 2; a + 1 < x; a += 5)
+        for (const int b : y < 8 ? Fila<int>{y / 2} : Fila<int>{y / 4, 3 * y / 4})
+            m.Nuclei.push_back({a, b});
+    m.AltezzaColmo = (m.Y.Linee.back().Quota - m.Y.Quota(0)) / 8;
     return m;
 }
 

@@ -1,41 +1,90 @@
 // Geometry of the buildings: frame, floors, bracings, lift cores and pitched roof on a grid.
 #pragma once
 
-#include "Cantiere.h"
 #include "Casuale.h"
+#include "Lavoro.h"
+
+#include <map>
+#include <optional>
 
 namespace telva::generatore {
 
-// The grid of a building. Lengths are hundredths of a cm, lines and levels ascend.
+// A fine grid line, through the corners of the floor panels.
+struct Linea {
+    int Quota, Filo, Campata; // Filo: number of the main line, -1 between two of them
+};
+
+// All grid lines of one direction, ascending.
+struct Asse {
+    Fila<Linea> Linee{};
+    Fila<int> Fili{}; // the main ones (columns stand where they cross)
+
+    // Of bays with so many floor panels each.
+    Asse(const Fila<int> &campate, const Fila<int> &campi, int inizio = 0);
+    int Quota(int filo) const { return Linee[Fili[filo]].Quota; }
+    int Fine() const { return Linee.back().Quota; }
+};
+
 struct Maglia {
-    Fila<int> FiliX, FiliY;            // main grid lines (columns stand where they cross)
-    Fila<int> SuddX, SuddY;            // floor panels per bay; last of X = first of Y (chamfer)
-    Fila<int> Quote;                   // level 0 is the foundation
+    Asse X, Y;                         // panels: last bay of X = first of Y (chamfer)
+    Fila<int> Quote{};                 // of the levels, ascending; level 0 is the foundation
     Fila<std::array<int, 2>> Nuclei{}; // bays taken by a lift core
     int AltezzaColmo = 0;              // ridge above the last level
-    int Sporto = 0;                    // eaves beyond the outer lines
     bool Dettagli = false; // lift tower outside, balconies, shear wall, all secondary beams
 };
 
-// A handsome small building of five storeys; the seed moves spans and heights a little.
-Maglia MagliaCampione(Casuale &caso);
+// A handsome small building of five storeys.
+Maglia MagliaCampione();
 
-// A regular large building around the origin, with panels of a third of the span.
-Maglia MagliaGrande(int campateX, int campateY, int piani, Casuale &caso);
-
-struct AstaCandidata {
-    TipoAsta Tipo = TipoAsta::Secondaria;
-    Posizione I, J;
-    Luogo Dove;
+// How many bays and storeys.
+struct Dimensioni {
+    int X, Y, Piani;
 };
 
-struct Edificio {
-    Cantiere Elementi;
-    // Bars that may be added between nodes that already stand: secondary beams first, then bracings
-    // of the inner frames.
-    Fila<AstaCandidata> Aggiungibili;
-    // Partition panels between two floors, between nodes that already stand.
-    Fila<Fila<Posizione>> Tramezzi;
+// A regular large building around the origin, with panels of a third of the span.
+Maglia MagliaGrande(const Dimensioni &dimensioni, Casuale &caso);
+
+using Posto = std::optional<Posizione>; // nothing: cut away from the building
+
+// The elements of a building; the tables of nodes are not yet those of the file.
+class Edificio {
+  public:
+    Fila<Posizione> Nodi;
+    Fila<Asta> Aste;
+    Fila<Guscio> Gusci;
+    // What a large building may have besides or lack, between nodes that stand anyway:
+    Fila<Asta> Secondarie; // beams inside the floor panels
+    Fila<Guscio> Tramezzi; // partition panels between two floors
+    Fila<int> Cavedi;      // middle panels of bays, which can be left out as service shafts
+
+    // Adds a bar, when both of its ends stand.
+    void Metti(const TipoAsta &tipo, const Posto &i, const Posto &j, Luogo dove) {
+        if (!i || !j) return;
+        const int nodoI = IndiceNodo(*i), nodoJ = IndiceNodo(*j);
+        Aste.push_back({nodoI, nodoJ, tipo, dove});
+    }
+
+    // Adds a shell, when at least three of its corners stand; they go round its edge.
+    void Metti(const TipoGuscio &tipo, const Fila<Posto> &angoli, int piano) {
+        Fila<Posizione> presenti;
+        for (const Posto &angolo : angoli)
+            if (angolo) presenti.push_back(*angolo);
+        if (presenti.size() < 3) return;
+        Guscio guscio{{-1, -1, -1, -1}, tipo, piano};
+        auto nodo = guscio.Nodi.begin();
+        for (const Posizione &p : presenti) *nodo++ = IndiceNodo(p);
+        Gusci.push_back(guscio);
+    }
+
+  private:
+    // Index of the node at this position, made when there is none.
+    int IndiceNodo(const Posizione &p) {
+        const auto [posto, nuovo] = Indici.try_emplace(p, Nodi.Quanti());
+        if (nuovo) Nodi.push_back(p);
+        return posto->second;
+    }
+
+    std::map<Posizione, int> Indici;
 };
 
 Edificio Costruisci(const Maglia &maglia);

@@ -1,92 +1,139 @@
 #include "Generatore.h"
 
-#include "Aspetto.h"
 #include "Casuale.h"
 #include "Catene.h"
-#include "Completa.h"
 #include "Edificio.h"
+#include "model/struttura.h"
+#include "model/tabelle_cond.h"
 
 #include <algorithm>
-#include <functional>
 #include <numeric>
-#include <stdexcept>
 
 namespace telva::generatore {
 namespace {
 
-// How large every table of the job becomes.
+constexpr int kMaxNome = 32000;
+constexpr int kLunghezzaPalo = 150 * 100; // one segment
+
+struct Conteggi {
+    int Punti = 0, Nodi = 0, Aste = 0, Gusci = 0, ElCont = 0;
+};
+
+// What a job of each size holds.
 struct Misure {
-    Obiettivi Conteggi; // all zero: the natural counts of the sample
-    FuoriVista Fuori{.Nodi = 3, .Aste = 8, .Gusci = 6};
-    int PuntiLiberi = 6; // points that no node uses
-    int ElCont = 0, Spessori = SpessoriCampione, Sezioni = SezioniCampione, Testi = 4;
+    const char *Titolo;
+    Dimensioni Campate{}; // of a large building
+    std::uint64_t Primo;  // of the random numbers
+    Conteggi Tutti{};     // elements of each kind; none: as the building comes
+    Conteggi FuoriVista;  // of them: nodes absent, bars and shells absent or hidden; points free
+    Schede Quante;
 };
 
-Misure MisureDi(int nodi, int gusci) {
-    const auto parte = [nodi](int pieno, int minimo) {
-        return std::max(minimo, (pieno * nodi + MaxNodi / 2) / MaxNodi);
-    };
-    const int assenti = nodi / 200 + 1;
-    return {.Conteggi = {nodi, nodi, gusci},
-            .Fuori = {.Nodi = assenti, .Aste = 2 * assenti, .Gusci = 2 * (gusci / 200 + 1)},
-            .PuntiLiberi = assenti, // so that there are as many points as nodes
-            .ElCont = parte(MaxElCont, 10),
-            .Spessori = parte(MaxSpessori, SpessoriCampione),
-            .Sezioni = parte(MaxSezioni, 9),
-            .Testi = parte(MaxTesti, 4)};
+// By Taglia.
+constexpr std::array<Misure, 4> kMisure{{
+    {.Titolo = "Edificio campione, unità A",
+     .Primo = 4,
+     .FuoriVista = {.Punti = 6, .Nodi = 3, .Aste = 8, .Gusci = 6},
+     .Quante = {.Spessori = 8, .Sezioni = 14, .Testi = 4}},
+    {.Titolo = "Edificio di prova, un decimo della capacità",
+     .Campate = {.X = 6, .Y = 5, .Piani = 6},
+     .Primo = 26,
+     .Tutti = {.Nodi = 2000, .Aste = 2000, .Gusci = 1600, .ElCont = 200},
+     .FuoriVista = {.Punti = 11, .Nodi = 11, .Aste = 22, .Gusci = 18},
+     .Quante = {.Spessori = 10, .Sezioni = 10, .Testi = 20}},
+    {.Titolo = "Edificio di prova, un terzo della capacità",
+     .Campate = {.X = 9, .Y = 7, .Piani = 10},
+     .Primo = 144,
+     .Tutti = {.Nodi = 6667, .Aste = 6667, .Gusci = 5333, .ElCont = 667},
+     .FuoriVista = {.Punti = 34, .Nodi = 34, .Aste = 68, .Gusci = 54},
+     .Quante = {.Spessori = 33, .Sezioni = 33, .Testi = 67}},
+    {.Titolo = "Edificio di prova, piena capacità",
+     .Campate = {.X = 16, .Y = 9, .Piani = 13},
+     .Primo = 488,
+     .Tutti = {.Nodi = kNodi, .Aste = kAste, .Gusci = kGusci, .ElCont = kElCont},
+     .FuoriVista = {.Punti = 101, .Nodi = 101, .Aste = 202, .Gusci = 162},
+     .Quante = {.Spessori = kSchedeSpessore, .Sezioni = kSchedeSezione, .Testi = kTesti}},
+}};
+
+// So many of them at equal distances.
+template <class T>
+Fila<T> Scelti(const Fila<T> &tutti, int quanti) {
+    Fila<T> scelti;
+    for (int s = 0; s < quanti; ++s) scelti.push_back(tutti[s * tutti.Quanti() / quanti]);
+    return scelti;
 }
 
-Misure MisureDi(Taglia taglia) {
-    switch (taglia) {
-    case Taglia::Decimo: return MisureDi(MaxNodi / 10, MaxGusci / 10);
-    case Taglia::Terzo: return MisureDi(MaxNodi / 3, MaxGusci / 3);
-    case Taglia::Piena: return MisureDi(MaxNodi, MaxGusci);
-    case Taglia::Campione: break;
+// Puts the extra items among the others at equal distances, both in their order.
+template <class T>
+Fila<T> Distribuisci(const Fila<T> &tutti, const Fila<T> &extra) {
+    Fila<T> misti = tutti;
+    for (int e = extra.Quanti(); e-- > 0;) // from behind: the places in front stay
+        misti.insert(misti.begin() + tutti.Quanti() * (e + 1) / (extra.Quanti() + 1), extra[e]);
+    return misti;
+}
+
+// One more pile segment under every foot of the building, until there are enough of them.
+void AggiungiPali(Edificio &e, int quanti) {
+    Fila<Posizione> teste;
+    for (const Posizione &p : e.Nodi)
+        if (p.Z == 0) teste.push_back(p);
+    for (int n = 0; n < quanti; ++n) {
+        Posizione &testa = teste[n % teste.Quanti()];
+        const Posizione punta{testa.X, testa.Y, testa.Z - kLunghezzaPalo};
+        e.Metti(kPalo, testa, punta, {0});
+        testa = punta;
     }
-    return {};
 }
 
-struct Dimensioni {
-    int X, Y, Piani;
-    int Nodi() const { return (3 * X + 1) * (3 * Y + 1) * Piani; }
-};
-
-// Large buildings in the proportions of a real one, the nearest to the wanted size first.
-Fila<Dimensioni> Possibili(int nodi) {
-    Fila<Dimensioni> tutte;
-    for (int x = 3; x <= 18; ++x)
-        for (int y = std::max(2, x / 2); y <= x * 3 / 4 + 1; ++y)
-            for (int piani = std::max(2, x * 3 / 5); piani <= std::min(13, x + 1); ++piani)
-                if (const Dimensioni d{x, y, piani}; d.Nodi() < nodi) tutte.push_back(d);
-    std::ranges::stable_sort(tutte, std::greater(), &Dimensioni::Nodi);
-    return tutte;
+// Adds piles and secondary beams and leaves out panels, until the building holds so many elements.
+void Completa(Edificio &e, const Misure &misure) {
+    const Conteggi &tutti = misure.Tutti, &fuori = misure.FuoriVista;
+    AggiungiPali(e, tutti.Nodi - fuori.Nodi - e.Nodi.Quanti());
+    e.Secondarie.StaccaDa(tutti.Aste - fuori.Aste - e.Aste.Quanti());
+    e.Aste.Aggiungi(e.Secondarie);
+    const int troppi = e.Gusci.Quanti() - (tutti.Gusci - fuori.Gusci);
+    const Fila<int> via = Scelti(e.Cavedi, troppi);
+    for (auto g = via.rbegin(); g != via.rend(); ++g) e.Gusci.erase(e.Gusci.begin() + *g);
 }
 
-Edificio CostruisciGrande(const Misure &misure, Casuale &caso) {
-    for (const Dimensioni &d : Possibili(misure.Conteggi.Nodi)) {
-        Edificio edificio = Costruisci(MagliaGrande(d.X, d.Y, d.Piani, caso));
-        if (Completa(edificio, misure.Conteggi, misure.Fuori)) return edificio;
+// Adds absent and hidden bars (diagonals of floor panels) and shells by turns.
+void AggiungiFuoriVista(Edificio &e, const Conteggi &quanti) {
+    Fila<Guscio> campi;
+    for (const Guscio &g : e.Gusci)
+        if (g.Tipo.Spessore == kSolai[0].Spessore && g.Nodi[3] >= 0) campi.push_back(g);
+    Fila<Asta> diagonali;
+    for (const auto &[nodi, tipo, piano, nome] : Scelti(campi, quanti.Aste))
+        if (diagonali.Quanti() % 2 == 0)
+            diagonali.push_back({nodi[1], nodi[3], kAstaAssente, {piano}, 0});
+        else
+            diagonali.push_back({nodi[0], nodi[2], kAstaNascosta, {piano}});
+    e.Aste = Distribuisci(e.Aste, diagonali);
+
+    Fila<Guscio> pannelli = Scelti(e.Tramezzi, quanti.Gusci);
+    for (int p = 0; p < pannelli.Quanti(); ++p) {
+        pannelli[p].Piano = 1;
+        if (p % 2 == 1) continue;
+        pannelli[p].Tipo = kGuscioAssente;
+        pannelli[p].Nome = 0;
     }
-    throw std::invalid_argument("nessun edificio ha questo numero di elementi");
+    e.Gusci = Distribuisci(e.Gusci, pannelli);
 }
 
-Punto InCm(const Posizione &p) { return {p.X / 100.0, p.Y / 100.0, p.Z / 100.0}; }
-
-// Unique ascending names 1..MaxNome with gaps; a large table ends exactly at MaxNome.
+// Unique ascending names 1..kMaxNome with gaps; a large table ends exactly at kMaxNome.
 Fila<int> NomiCrescenti(int quanti, Casuale &caso) {
-    int liberi = MaxNome - quanti;
-    const int salto = std::clamp(liberi * 12 / std::max(1, quanti), 2, 12);
+    int liberi = kMaxNome - quanti;
+    const int salto = std::clamp(liberi * 12 / quanti, 2, 12);
     Fila<int> nomi;
     for (int i = 0, nome = 0; i < quanti; ++i) {
         const int buco = caso.Intero(1, 10) == 1 ? std::min(liberi, caso.Intero(1, salto)) : 0;
         liberi -= buco;
         nomi.push_back(nome += 1 + buco);
     }
-    if (quanti > MaxNome / 2) nomi.back() = MaxNome;
+    if (quanti > kMaxNome / 2) nomi.back() = kMaxNome;
     return nomi;
 }
 
-Fila<int> Nomina(int quanti, Nomi ordine, Casuale &caso) {
+Fila<int> NomiDati(int quanti, Nomi ordine, Casuale &caso) {
     Fila<int> nomi = NomiCrescenti(quanti, caso);
     if (ordine == Nomi::Inversi) return {nomi.rbegin(), nomi.rend()};
     int da = caso.Intero(5, 30);
@@ -99,138 +146,108 @@ Fila<int> Nomina(int quanti, Nomi ordine, Casuale &caso) {
     }
 }
 
-// Points run along the verticals of the building while nodes run floor by floor; the free points
-// stand in between. Gives the point of each node.
-Fila<int> MettiPunti(const Fila<Posizione> &nodi, int liberi, Lavoro &lavoro) {
-    Fila<int> ordine(nodi.size()), punto(nodi.size());
-    std::iota(ordine.begin(), ordine.end(), 0);
-    std::sort(ordine.begin(), ordine.end(), [&](int a, int b) { return nodi[a] < nodi[b]; });
-    Posizione ultima;
-    for (const int n : Distribuisci(ordine, Fila<int>(static_cast<std::size_t>(liberi), -1))) {
-        if (n >= 0) punto[n] = static_cast<int>(lavoro.Punti.size());
-        if (n >= 0) ultima = nodi[n];
-        // a free one is a construction point above or below a real one
-        lavoro.Punti.push_back(
-            InCm(n >= 0 ? ultima : Posizione{ultima.X, ultima.Y, ultima.Z / 2 + 12345}));
-    }
-    return punto;
-}
-
-// Gives the index of each node in its table.
-Fila<int> MettiNodi(const Cantiere &cantiere, const Misure &misure, Lavoro &lavoro) {
-    const Fila<int> punto = MettiPunti(cantiere.Nodi, misure.PuntiLiberi, lavoro);
-    const int quanti = cantiere.Nodi.Quanti(), numAssenti = misure.Fuori.Nodi;
-    struct NodoInFile {
-        int Grezzo;
-        bool Assente; // a deleted node left on the point of another one
-    };
-    Fila<NodoInFile> presenti, assenti;
-    for (int n = 0; n < quanti; ++n) presenti.push_back({n, false});
-    for (int a = 0; a < numAssenti; ++a) assenti.push_back({a * quanti / numAssenti, true});
-    const Fila<Nodo> aspetti = AspettoNodi(cantiere);
-    Fila<int> indice(cantiere.Nodi.size());
-    for (const auto &[n, assente] : Distribuisci(presenti, assenti)) {
-        if (!assente) indice[n] = static_cast<int>(lavoro.Nodi.size());
-        Nodo &nodo = lavoro.Nodi.emplace_back(aspetti[n]);
-        nodo.IndicePunto = punto[n];
-        nodo.Nome = assente ? 0 : 1;
-    }
-    return indice;
-}
-
-// Envelope: beams hang below their axis, everything else is on it.
-Punto Ingombro(const Punto &asse, TipoAsta tipo) {
-    const bool trave = tipo == TipoAsta::TraveX || tipo == TipoAsta::TraveY ||
-                       tipo == TipoAsta::Secondaria || tipo == TipoAsta::Smusso;
-    return {asse.X, asse.Y, trave ? asse.Z - 25 : asse.Z};
-}
-
-void MettiAste(const Cantiere &cantiere, int sezioni, const Fila<int> &indice, Lavoro &lavoro) {
-    for (const AstaGrezza &grezza : cantiere.Aste) {
-        Asta &asta = lavoro.Aste.emplace_back(AspettoAsta(grezza, sezioni));
-        asta.NodoI = indice[grezza.I];
-        asta.NodoJ = indice[grezza.J];
-        asta.Nome = grezza.Tipo == TipoAsta::Eliminata ? 0 : 1;
-        asta.IngI = Ingombro(InCm(cantiere.Nodi[grezza.I]), grezza.Tipo);
-        asta.IngJ = Ingombro(InCm(cantiere.Nodi[grezza.J]), grezza.Tipo);
-    }
-}
-
-// A fourth corner 0 could be mistaken for a missing one: such a shell starts from that corner.
-void MettiGusci(const Cantiere &cantiere, int spessori, const Fila<int> &indice, Lavoro &lavoro) {
-    for (const GuscioGrezzo &grezzo : cantiere.Gusci) {
-        Guscio &guscio = lavoro.Gusci.emplace_back(AspettoGuscio(grezzo, spessori));
-        std::transform(grezzo.Nodi.begin(), grezzo.Nodi.end(), guscio.Nodi.begin(),
-                       [&](int n) { return n < 0 ? -1 : indice[n]; });
-        if (guscio.Nodi[3] == 0)
-            std::rotate(guscio.Nodi.begin(), guscio.Nodi.begin() + 3, guscio.Nodi.end());
-        guscio.Nome = grezzo.Tipo == TipoGuscio::Eliminato ? 0 : 1;
-    }
-}
-
-// Gives names to the elements marked as present (name 1).
+// Gives names to the elements that are present.
 template <class T>
-void NominaTabella(std::vector<T> &tabella, Nomi ordine, Casuale &caso) {
+void Nomina(Fila<T> &tabella, Nomi ordine, Casuale &caso) {
     const auto presenti = std::ranges::count_if(tabella, [](const T &e) { return e.Nome > 0; });
-    const Fila<int> nomi = Nomina(static_cast<int>(presenti), ordine, caso);
+    const Fila<int> nomi = NomiDati(static_cast<int>(presenti), ordine, caso);
     auto nome = nomi.begin();
     for (T &elemento : tabella)
         if (elemento.Nome > 0) elemento.Nome = *nome++;
 }
 
-void MettiElCont(const Cantiere &cantiere, int quanti, Nomi ordine, Casuale &caso, Lavoro &lavoro) {
-    const Fila<Catena> catene = Catene(cantiere.Aste, quanti);
-    const Fila<int> numeri = Nomina(catene.Quanti(), ordine, caso);
-    for (int c = 0; c < catene.Quanti(); ++c) {
-        ElCont elemento{numeri[c], c % 5 + 1, catene[c].Nome, {}};
-        for (const int a : catene[c].Aste)
-            elemento.Aste.push_back(lavoro.Aste[static_cast<std::size_t>(a)].Nome);
-        lavoro.ElementiContinui.push_back(elemento);
-    }
+// What each node belongs to, from its height and from the elements that meet there.
+Fila<Ruolo> Ruoli(const Edificio &e) {
+    Fila<Ruolo> ruoli(e.Nodi.size(), Ruolo::Rete);
+    for (const Guscio &g : e.Gusci)
+        for (const int n : g.Nodi)
+            if (n >= 0) ruoli[n] = std::max(ruoli[n], g.Tipo.Nodi);
+    for (const Asta &a : e.Aste)
+        for (const int n : {a.I, a.J}) ruoli[n] = std::max(ruoli[n], a.Tipo.Nodi);
+    for (int n = 0; n < ruoli.Quanti(); ++n)
+        if (e.Nodi[n].Z <= 0) ruoli[n] = e.Nodi[n].Z < 0 ? Ruolo::Palo : Ruolo::Base;
+    return ruoli;
 }
 
-const char *TitoloDi(Taglia misura) {
-    switch (misura) {
-    case Taglia::Decimo: return "Edificio di prova, un decimo della capacità";
-    case Taglia::Terzo: return "Edificio di prova, un terzo della capacità";
-    case Taglia::Piena: return "Edificio di prova, piena capacità";
-    case Taglia::Campione: break;
+// A few nodes of the cores are hidden, some bases are hinged.
+TipoNodo TipoDi(Ruolo ruolo, int n) {
+    switch (ruolo) {
+    case Ruolo::Giunto: return {0, 1, 0};
+    case Ruolo::Base: return {2, 3, n % 4 == 3 ? 2 : 1};
+    case Ruolo::Palo: return {2, 2, 3};
+    case Ruolo::Copertura: return {3, 9, 0};
+    case Ruolo::Nucleo: return {1, n % 5 == 0 ? 10 : 4, 0};
+    case Ruolo::Rete: break;
     }
-    return "Edificio campione, unità A";
+    return {1, 8, 0};
 }
 
-void MettiTesti(int quanti, Lavoro &lavoro) {
-    lavoro.SezioniSaltate[0] = {"1 1 0.00 -2.50", "2 1 0.00 -4.00", "3 2 1.50 0.00"};
-    lavoro.SezioniSaltate[1] = {"1, \"permanente\", 1.3", "2, \"variabile, cat. A\", 1.5"};
-    lavoro.SezioniSaltate[2] = {"Combinazione 1: stato limite ultimo", "",
-                                "Combinazione 2: sisma (più torsione)", "0"};
-    for (int t = 1; t <= quanti; ++t)
-        lavoro.TestiFinali.emplace_back("Nota " + std::to_string(t) + ": quota più alta, foglio " +
-                                            std::to_string(1 + t % 7),
-                                        std::to_string(t) + " 0 1");
+// Points run along the verticals of the building while nodes run floor by floor; the free points
+// stand in between. Gives the point of each node.
+Fila<int> MettiPunti(const Fila<Posizione> &nodi, int liberi, Lavoro &lavoro) {
+    constexpr int kLibero = -1;
+    Fila<int> ordine(nodi.size()), punto(nodi.size());
+    std::iota(ordine.begin(), ordine.end(), 0);
+    std::ranges::sort(ordine, {}, [&](int n) { return nodi[n]; });
+    Posizione ultima;
+    for (const int n : Distribuisci(ordine, Fila<int>(static_cast<std::size_t>(liberi), kLibero))) {
+        if (n == kLibero) { // a construction point above or below a real one
+            lavoro.Punti.push_back({ultima.X, ultima.Y, ultima.Z / 2 + 12345});
+            continue;
+        }
+        punto[n] = lavoro.Punti.Quanti();
+        lavoro.Punti.push_back(ultima = nodi[n]);
+    }
+    return punto;
+}
+
+// The nodes of the site, and absent ones left on the points of others. Gives the place of each node
+// in its table.
+Fila<int> MettiNodi(const Edificio &edificio, const Misure &misure, Lavoro &lavoro) {
+    const Fila<int> punto = MettiPunti(edificio.Nodi, misure.FuoriVista.Punti, lavoro);
+    Fila<Nodo> presenti;
+    for (const Ruolo ruolo : Ruoli(edificio)) {
+        const int n = presenti.Quanti();
+        presenti.push_back({punto[n], TipoDi(ruolo, n)});
+    }
+    Fila<Nodo> assenti = Scelti(presenti, misure.FuoriVista.Nodi);
+    for (Nodo &nodo : assenti) nodo.Nome = 0;
+    lavoro.Nodi = Distribuisci(presenti, assenti);
+    Fila<int> posti;
+    for (int n = 0; n < lavoro.Nodi.Quanti(); ++n)
+        if (lavoro.Nodi[n].Nome > 0) posti.push_back(n);
+    return posti;
+}
+
+void MettiElementi(const Edificio &edificio, const Fila<int> &posti, Lavoro &lavoro) {
+    lavoro.Aste = edificio.Aste;
+    for (Asta &asta : lavoro.Aste) {
+        asta.I = posti[asta.I];
+        asta.J = posti[asta.J];
+    }
+    lavoro.Gusci = edificio.Gusci;
+    for (Guscio &guscio : lavoro.Gusci)
+        for (int &n : guscio.Nodi)
+            if (n >= 0) n = posti[n];
 }
 
 } // namespace
 
-Lavoro Genera(const Parametri &parametri) {
-    Casuale caso(1);
-    const Misure misure = MisureDi(parametri.Misura);
-    Edificio edificio = misure.Conteggi.Nodi > 0 ? CostruisciGrande(misure, caso)
-                                                 : Costruisci(MagliaCampione(caso));
-    AggiungiFuoriVista(edificio, misure.Fuori);
-    const Cantiere &cantiere = edificio.Elementi;
-    Lavoro lavoro;
-    const Fila<int> indice = MettiNodi(cantiere, misure, lavoro);
-    MettiAste(cantiere, misure.Sezioni, indice, lavoro);
-    MettiGusci(cantiere, misure.Spessori, indice, lavoro);
-    NominaTabella(lavoro.Nodi, parametri.Ordine, caso);
-    NominaTabella(lavoro.Aste, parametri.Ordine, caso);
-    NominaTabella(lavoro.Gusci, parametri.Ordine, caso);
-    MettiElCont(cantiere, misure.ElCont, parametri.Ordine, caso, lavoro);
-    lavoro.Spessori = SchedeSpessore(misure.Spessori);
-    lavoro.Sezioni = SchedeSezione(misure.Sezioni);
-    MettiTesti(misure.Testi, lavoro);
-    lavoro.Titolo = TitoloDi(parametri.Misura);
+Lavoro Genera(Taglia taglia, Nomi ordine) {
+    const Misure &misure = kMisure.at(static_cast<std::size_t>(taglia));
+    Casuale caso(misure.Primo);
+    const bool campione = taglia == Taglia::Campione;
+    Edificio edificio =
+        Costruisci(campione ? MagliaCampione() : MagliaGrande(misure.Campate, caso));
+    if (!campione) Completa(edificio, misure);
+    AggiungiFuoriVista(edificio, misure.FuoriVista);
+    Lavoro lavoro{misure.Titolo, misure.Quante};
+    MettiElementi(edificio, MettiNodi(edificio, misure, lavoro), lavoro);
+    lavoro.ElementiContinui = Catene(lavoro.Aste, misure.Tutti.ElCont);
+    Nomina(lavoro.Nodi, ordine, caso);
+    Nomina(lavoro.Aste, ordine, caso);
+    Nomina(lavoro.Gusci, ordine, caso);
+    Nomina(lavoro.ElementiContinui, ordine, caso);
     return lavoro;
 }
 

@@ -1,5 +1,5 @@
 // Generates the complete model of a job: a plausible building, small or up to the full capacity of
-// every table. The same parameters give the same model on every platform.
+// every table. The same model on every platform.
 #pragma once
 
 #include "Lavoro.h"
@@ -13,12 +13,6 @@ enum class Nomi {
     Inversi // strictly descending in file order: the worst case for whoever sorts them
 };
 
-struct Parametri {
-    Taglia Misura = Taglia::Campione;
-    Nomi Ordine = Nomi::Misti;
-};
-
-// Builds the model.
-Lavoro Genera(const Parametri &parametri);
+Lavoro Genera(Taglia taglia, Nomi ordine = Nomi::Misti);
 
 } // namespace telva::generatore

@@ -1,75 +1,81 @@
-// One job as data: what the generator builds and the writer writes.
+// One job as data, table by table in file order: what the generator builds and the writer writes.
 #pragma once
 
+#include "Tipi.h"
+
 #include <array>
+#include <compare>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace telva::generatore {
 
-// Full capacities of the tables of a job.
-inline constexpr int MaxPunti = 20001;
-inline constexpr int MaxNodi = 20001;
-inline constexpr int MaxAste = 20001;
-inline constexpr int MaxGusci = 16001;
-inline constexpr int MaxElCont = 2000;
-inline constexpr int MaxAsteElCont = 300;
-inline constexpr int MaxSpessori = 100;
-inline constexpr int MaxSezioni = 99;
-inline constexpr int MaxTesti = 201;
-inline constexpr int MaxNome = 32000;
-
-// Coordinates are in cm and always whole hundredths, so that they survive text exactly.
-struct Punto {
-    double X = 0, Y = 0, Z = 0;
-    bool operator==(const Punto &) const = default;
+// A vector counted in whole numbers, as the tables of a job are; every index is checked.
+template <class T>
+class Fila : public std::vector<T> {
+  public:
+    using std::vector<T>::vector;
+    T &operator[](int i) { return this->at(static_cast<std::size_t>(i)); }
+    const T &operator[](int i) const { return this->at(static_cast<std::size_t>(i)); }
+    int Quanti() const { return static_cast<int>(this->size()); }
+    void Aggiungi(const Fila &altri) { this->insert(this->end(), altri.begin(), altri.end()); }
+    // Takes away those from the given place on.
+    Fila StaccaDa(int primo) {
+        Fila staccati(this->begin() + primo, this->end());
+        this->erase(this->begin() + primo, this->end());
+        return staccati;
+    }
 };
 
+// Lengths are whole hundredths of a cm, so that equal positions are equal and survive text exactly.
+struct Posizione {
+    int X = 0, Y = 0, Z = 0;
+    auto operator<=>(const Posizione &) const = default;
+};
+
+// Where a bar stands: storey, and main grid lines counted from 0 (-1 = on none of them).
+struct Luogo {
+    int Piano = 0, FiloX = -1, FiloY = -1;
+};
+
+// An element with the name 0 is absent.
 struct Nodo {
-    int IndicePunto = 0, TipoPunto = 0, Colore = 0, Nome = 0, Vincolo = 0;
+    int Punto;
+    TipoNodo Tipo;
+    int Nome = 1;
 };
-
 struct Asta {
-    int NodoI = 0, NodoJ = 0, TipoLinea = 0, Colore = 0;
-    int Nome = 0, Sezione = 0, Svincolo = 0, Orientamento = 0, Dato5 = 0, Dato6 = 0;
-    Punto IngI, IngJ; // envelope points, meaningful only when Nome > 0
+    int I, J; // nodes
+    TipoAsta Tipo;
+    Luogo Dove;
+    int Nome = 1;
 };
-
 struct Guscio {
-    std::array<int, 4> Nodi{}; // node indexes; the fourth of a triangle is -1
-    int Tratteggio = 0, Nome = 0, Spessore = 0;
-    double Valore = 0; // in the file, but of no use to its readers
-    int Colore = 0;
+    std::array<int, 4> Nodi; // the fourth of a triangle is -1
+    TipoGuscio Tipo;
+    int Piano;
+    int Nome = 1;
 };
-
+// A continuous element; its name is the number of its card.
 struct ElCont {
-    int Numero = 0, Dato2 = 0;
-    std::string Nome;      // UTF-8
-    std::vector<int> Aste; // bar names, at most MaxAsteElCont
+    std::string Testo; // UTF-8
+    Fila<int> Aste;    // places in the table of bars
+    int Nome = 1;
 };
 
-struct SchedaSpessore {
-    int Materiale = 0;
-    double Valore = 0; // cm
+// How many property cards there are, and texts at the end of the structure.
+struct Schede {
+    int Spessori = 0, Sezioni = 0, Testi = 0;
 };
 
-struct SchedaSezione {
-    int Materiale = 0;
-};
-
-// One job, table by table in file order. Elements with name 0 are absent.
 struct Lavoro {
-    std::vector<Punto> Punti;
-    std::vector<Nodo> Nodi;
-    std::vector<Asta> Aste;
-    std::vector<Guscio> Gusci;
-    std::vector<ElCont> ElementiContinui;
-    std::vector<SchedaSpessore> Spessori; // card n at entry n-1
-    std::vector<SchedaSezione> Sezioni;   // card n at entry n-1
-    std::array<std::vector<std::string>, 3> SezioniSaltate;
-    std::vector<std::pair<std::string, std::string>> TestiFinali;
     std::string Titolo; // UTF-8
+    Schede Quante;
+    Fila<Posizione> Punti{};
+    Fila<Nodo> Nodi{};
+    Fila<Asta> Aste{};
+    Fila<Guscio> Gusci{};
+    Fila<ElCont> ElementiContinui{};
 };
 
 } // namespace telva::generatore

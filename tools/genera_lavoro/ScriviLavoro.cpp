@@ -3,149 +3,172 @@
 #include "platform/testo.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 #include <cstdlib>
 #include <fstream>
+#include <iomanip>
+#include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace telva::generatore {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string Allineato(const std::string &testo, std::size_t larghezza) {
-    return std::string(std::max(larghezza, testo.size()) - testo.size(), ' ') + testo;
-}
-
-// A number of whole hundredths, written without the C library's locale.
-std::string Decimale(double valore) {
-    const long long centesimi = std::llround(valore * 100);
-    std::string cifre = std::to_string(std::abs(centesimi));
-    if (cifre.size() < 3) cifre.insert(0, 3 - cifre.size(), '0');
-    cifre.insert(cifre.size() - 2, 1, '.');
-    return (centesimi < 0 ? "-" : "") + cifre;
-}
-
 class Testo {
   public:
-    Testo() = default;
-    Testo(std::initializer_list<std::string> righe) {
+    Testo(std::initializer_list<std::string> righe = {}) {
+        Flusso << std::fixed << std::setprecision(2);
         for (const std::string &riga : righe) Riga(riga);
     }
 
-    void Riga(const std::string &utf8) { Contenuto += AWindows1252(utf8) + "\r\n"; }
+    // One line of all these, UTF-8 or numbers; those with a fraction get two decimals.
+    template <class... Parti>
+    void Riga(const Parti &...parti) {
+        (Flusso << ... << parti) << "\r\n";
+    }
 
     // Right-aligned integers on one line.
     void Interi(std::initializer_list<int> valori) {
-        std::string riga;
-        for (const int valore : valori) riga += ' ' + Allineato(std::to_string(valore), 6);
-        Riga(riga);
+        for (const int valore : valori) Flusso << std::setw(7) << valore;
+        Riga();
     }
 
-    void Coordinate(const Punto &p) {
-        std::string riga;
-        for (const double valore : {p.X, p.Y, p.Z}) riga += ' ' + Allineato(Decimale(valore), 10);
-        Riga(riga);
+    void Coordinate(const Posizione &p) {
+        for (const int valore : {p.X, p.Y, p.Z}) Flusso << std::setw(11) << valore / 100.0;
+        Riga();
     }
 
-    void Conteggio(std::size_t quanti, const std::string &cosa = "") {
-        Riga(' ' + Allineato(std::to_string(quanti), 6) + ' ' + cosa);
-    }
+    void Conteggio(int quanti, const char *cosa = "") { Riga(std::setw(7), quanti, ' ', cosa); }
 
-    void Scrivi(const fs::path &file, bool soloSeManca = false) const {
-        if (soloSeManca && fs::exists(file)) return;
+    void Scrivi(const fs::path &file) const {
         std::ofstream uscita(file, std::ios::binary | std::ios::trunc);
-        uscita.write(Contenuto.data(), static_cast<std::streamsize>(Contenuto.size()));
+        uscita << AWindows1252(Flusso.str());
         uscita.close();
         if (!uscita) throw std::runtime_error("impossibile scrivere " + file.string());
     }
+    void ScriviSeManca(const fs::path &file) const {
+        if (!fs::exists(file)) Scrivi(file);
+    }
 
   private:
-    std::string Contenuto;
+    std::ostringstream Flusso;
 };
 
+struct Spessore {
+    int Materiale;
+    double Valore; // cm
+};
+constexpr std::array<Spessore, 8> kSpessori{
+    {{5, 22}, {1, 15}, {2, 30}, {2, 25}, {3, 0.8}, {6, 0.6}, {1, 20}, {3, 1}}};
+// Of the section cards: 1, 2 concretes, 3 steel, 4 glued timber.
+constexpr std::array<int, 12> kMateriali{2, 1, 1, 1, 3, 3, 4, 4, 3, 1, 1, 1};
+
+// Cards repeat with small differences storey by storey, as far as the table reaches.
+template <std::size_t Tipi, class T>
+int Scheda(int tipo, const std::array<T, Tipi> &, int piano, int schede) {
+    if (tipo == 0) return 0;
+    const int passo = static_cast<int>(Tipi), varianti = std::max(1, schede / passo);
+    return (tipo - 1 + passo * (std::max(0, piano - 1) % varianti)) % schede + 1;
+}
+
 void AggiungiGeometria(Testo &t, const Lavoro &l) {
-    t.Conteggio(l.Punti.size(), "punti");
-    for (const Punto &p : l.Punti) t.Coordinate(p);
-    t.Conteggio(l.Nodi.size(), "nodi");
-    for (const Nodo &n : l.Nodi) {
-        t.Interi({n.IndicePunto, n.TipoPunto, n.Colore});
-        t.Interi({n.Nome, n.Vincolo});
+    t.Conteggio(l.Punti.Quanti(), "punti");
+    for (const Posizione &p : l.Punti) t.Coordinate(p);
+    t.Conteggio(l.Nodi.Quanti(), "nodi");
+    for (const auto &[punto, tipo, nome] : l.Nodi) {
+        t.Interi({punto, tipo.Punto, tipo.Colore});
+        t.Interi({nome, tipo.Vincolo});
     }
-    t.Conteggio(l.Aste.size(), "aste");
-    for (const Asta &a : l.Aste) {
-        t.Interi({a.NodoI, a.NodoJ, a.TipoLinea, a.Colore});
-        t.Interi({a.Nome, a.Sezione, a.Svincolo, a.Orientamento, a.Dato5, a.Dato6});
+    t.Conteggio(l.Aste.Quanti(), "aste");
+    for (const auto &[i, j, tipo, dove, nome] : l.Aste) {
+        const int sezione = Scheda(tipo.Sezione, kMateriali, dove.Piano, l.Quante.Sezioni);
+        t.Interi({i, j, tipo.Linea, tipo.Colore});
+        t.Interi({nome, sezione, tipo.Svincolo, tipo.Orientamento, dove.Piano, tipo.Svincolo > 0});
     }
-    t.Conteggio(l.Gusci.size(), "gusci");
-    for (const Guscio &g : l.Gusci) {
-        t.Interi({g.Nodi[0], g.Nodi[1], g.Nodi[2], g.Nodi[3]});
-        t.Riga(' ' + std::to_string(g.Tratteggio) + ' ' + std::to_string(g.Nome) + ' ' +
-               std::to_string(g.Spessore) + ' ' + Decimale(g.Valore) + ' ' +
-               std::to_string(g.Colore));
+    t.Conteggio(l.Gusci.Quanti(), "gusci");
+    for (const auto &[nodi, tipo, piano, nome] : l.Gusci) {
+        const int spessore = Scheda(tipo.Spessore, kSpessori, piano, l.Quante.Spessori);
+        const double altro = 0.25 * (piano % 4); // of no use to the readers
+        t.Interi({nodi[0], nodi[1], nodi[2], nodi[3]});
+        t.Riga(' ', tipo.Tratteggio, ' ', nome, ' ', spessore, ' ', altro, ' ', tipo.Colore);
     }
 }
 
 Testo Struttura(const Lavoro &l) {
+    // Sections that Telva passes over: loads, load cases, combinations.
+    static const Fila<Fila<std::string>> saltate{
+        {"1 1 0.00 -2.50", "2 1 0.00 -4.00", "3 2 1.50 0.00"},
+        {"1, \"permanente\", 1.3", "2, \"variabile, cat. A\", 1.5"},
+        {"Combinazione 1: stato limite ultimo", "", "Combinazione 2: sisma (più torsione)", "0"}};
     Testo t{"Struttura - Release 4.0"};
     AggiungiGeometria(t, l);
-    for (const auto &sezione : l.SezioniSaltate) {
-        t.Conteggio(sezione.size());
+    for (const Fila<std::string> &sezione : saltate) {
+        t.Conteggio(sezione.Quanti());
         for (const std::string &riga : sezione) t.Riga(riga);
     }
-    t.Conteggio(l.TestiFinali.size(), "testi");
-    for (const auto &[primo, secondo] : l.TestiFinali) {
-        t.Riga(primo);
-        t.Riga(secondo);
+    t.Conteggio(l.Quante.Testi, "testi");
+    for (int n = 1; n <= l.Quante.Testi; ++n) {
+        t.Riga("Nota ", n, ": quota più alta, foglio ", 1 + n % 7);
+        t.Riga(n, " 0 1");
     }
     return t;
 }
 
+// The envelopes of the bars: beams hang below their axis.
 Testo Ingombri(const Lavoro &l) {
     Testo t;
-    for (const Asta &a : l.Aste) {
-        if (a.Nome <= 0) continue;
-        t.Coordinate(a.IngI);
-        t.Coordinate(a.IngJ);
+    for (const Asta &asta : l.Aste)
+        for (const int nodo : {asta.I, asta.J}) {
+            Posizione p = l.Punti[l.Nodi[nodo].Punto];
+            if (asta.Tipo.Trave) p.Z -= 2500;
+            if (asta.Nome > 0) t.Coordinate(p);
+        }
+    return t;
+}
+
+Testo Spessori(int schede) {
+    Testo t;
+    t.Conteggio(schede);
+    for (int n = 0; n < schede; ++n) {
+        auto [materiale, valore] = kSpessori[static_cast<std::size_t>(n) % kSpessori.size()];
+        if (valore > 1) valore += 0.5 * (n / static_cast<int>(kSpessori.size()));
+        t.Riga(n + 1, ", ", materiale, ", 0, ", valore, ", 1");
     }
     return t;
 }
 
-Testo Spessori(const Lavoro &l) {
+// Card number, shape and material, then four groups of three: sides, areas and inertias. The
+// concretes change place from one set of cards to the next.
+Testo Sezioni(int schede) {
+    constexpr int kTipi = static_cast<int>(kMateriali.size());
     Testo t;
-    t.Conteggio(l.Spessori.size());
-    int numero = 0;
-    for (const SchedaSpessore &s : l.Spessori)
-        t.Riga(std::to_string(++numero) + ", " + std::to_string(s.Materiale) + ", 0, " +
-               Decimale(s.Valore) + ", 1");
-    return t;
-}
-
-// Card number, shape and material, then four groups of three: sides, areas and inertias.
-Testo Sezioni(const Lavoro &l) {
-    Testo t;
-    t.Conteggio(l.Sezioni.size());
-    int numero = 0;
-    for (const SchedaSezione &s : l.Sezioni) {
-        const int lato = 20 + 5 * (++numero % 9);
-        t.Interi({numero, numero % 4, s.Materiale});
+    t.Conteggio(schede);
+    for (int n = 1; n <= schede; ++n) {
+        const auto [variante, tipo] = std::div(n - 1, kTipi);
+        const int materiale = kMateriali[static_cast<std::size_t>(tipo)];
+        const bool altroCalcestruzzo = materiale <= 2 && variante % 2 == 1;
+        const int lato = 20 + 5 * (n % 9);
+        t.Interi({n, n % 4, altroCalcestruzzo ? 3 - materiale : materiale});
         for (const int fattore : {1, 2, 3, 4}) t.Interi({lato, lato * fattore, 0});
     }
     return t;
 }
 
 Testo ElementiContinui(const Lavoro &l) {
-    constexpr std::size_t PerRiga = 15;
+    constexpr int kPerRiga = 15;
     Testo t;
-    t.Conteggio(l.ElementiContinui.size());
+    t.Conteggio(l.ElementiContinui.Quanti());
+    int numero = 0;
     for (const ElCont &e : l.ElementiContinui) {
-        t.Riga(std::to_string(e.Numero) + ", " + std::to_string(e.Dato2) + ", \"" + e.Nome + '"');
-        t.Conteggio(e.Aste.size());
-        for (std::size_t da = 0; da < e.Aste.size(); da += PerRiga) {
-            std::string riga;
-            for (std::size_t a = da; a < std::min(e.Aste.size(), da + PerRiga); ++a)
-                riga += ' ' + std::to_string(e.Aste[a]);
-            t.Riga(riga);
+        t.Riga(e.Nome, ", ", numero++ % 5 + 1, ", \"", e.Testo, '"');
+        t.Conteggio(e.Aste.Quanti());
+        std::string riga;
+        for (int a = 0; a < e.Aste.Quanti(); ++a) {
+            riga += ' ' + std::to_string(l.Aste[e.Aste[a]].Nome);
+            if ((a + 1) % kPerRiga == 0 || a + 1 == e.Aste.Quanti())
+                t.Riga(std::exchange(riga, {}));
         }
     }
     return t;
@@ -164,40 +187,30 @@ Testo OpzioniInterne() {
             "5|PC5|colore degli assi"};
 }
 
-void ScriviImpostazioni(const fs::path &cartella, const std::string &codice,
-                        const std::optional<std::string> &radice) {
-    fs::create_directories(cartella);
-    std::string vista = radice.value_or(kRadicePredefinita);
-    while (!vista.empty() && vista.back() == '\\') vista.pop_back();
-    const std::string lavori = vista + "\\lavori";
-    // Only the first value of the file counts: a comma must stand in quotes.
-    const bool virgola = lavori.find(',') != std::string::npos;
-    Testo({virgola ? '"' + lavori + '"' : lavori}).Scrivi(cartella / "dirlav", !radice);
-    Testo({codice}).Scrivi(cartella / "lavoro", true);
-}
-
 } // namespace
 
 void ScriviLavoro(const fs::path &cartellaLavoro, const Lavoro &lavoro) {
     fs::create_directories(cartellaLavoro);
     Struttura(lavoro).Scrivi(cartellaLavoro / "STRUTTUR.STR");
     Ingombri(lavoro).Scrivi(cartellaLavoro / "Ingombri.tmp");
-    Spessori(lavoro).Scrivi(cartellaLavoro / "spessori");
-    Sezioni(lavoro).Scrivi(cartellaLavoro / "sezioni_");
+    Spessori(lavoro.Quante.Spessori).Scrivi(cartellaLavoro / "spessori");
+    Sezioni(lavoro.Quante.Sezioni).Scrivi(cartellaLavoro / "sezioni_");
     ElementiContinui(lavoro).Scrivi(cartellaLavoro / "el_conti.tmp");
     Testo({lavoro.Titolo, "", "1"}).Scrivi(cartellaLavoro / "TelvaIn.txt"); // no bar is selected
 }
 
-fs::path ScriviInstallazione(const fs::path &cartella, const std::string &codice,
-                             const Lavoro &lavoro, const std::optional<std::string> &radice) {
-    ScriviImpostazioni(cartella / "impostazioni", codice, radice);
-    fs::create_directories(cartella / "progra");
-    fs::create_directories(cartella / "custom");
-    Opzioni().Scrivi(cartella / "custom" / "TelOpzio.txt", true);
-    OpzioniInterne().Scrivi(cartella / "custom" / "TelOpInt.txt", true);
-    fs::path cartellaLavoro = cartella / "lavori" / codice;
-    ScriviLavoro(cartellaLavoro, lavoro);
-    return cartellaLavoro;
+void ScriviInstallazione(const fs::path &cartella, const std::string &codice, const Lavoro &lavoro,
+                         const std::string &radice) {
+    for (const char *nome : {"impostazioni", "progra", "custom"})
+        fs::create_directories(cartella / nome);
+    const std::string lavori = radice + "\\lavori";
+    // Only the first value of the file counts: a comma must stand in quotes.
+    const bool virgola = lavori.find(',') != std::string::npos;
+    Testo({virgola ? '"' + lavori + '"' : lavori}).Scrivi(cartella / "impostazioni" / "dirlav");
+    Testo({codice}).ScriviSeManca(cartella / "impostazioni" / "lavoro");
+    Opzioni().ScriviSeManca(cartella / "custom" / "TelOpzio.txt");
+    OpzioniInterne().ScriviSeManca(cartella / "custom" / "TelOpInt.txt");
+    ScriviLavoro(cartella / "lavori" / codice, lavoro);
 }
 
 } // namespace telva::generatore
