@@ -31,10 +31,13 @@ LavoroProva Struttura() {
 
 } // namespace
 
-fs::path LavoroPiccolo(const Ambiente &amb, const std::string &codice) {
+fs::path LavoroPiccolo(const Ambiente &amb, const std::string &codice, double lontano) {
     const auto cartella = amb.Lavori() / codice;
     fs::remove_all(cartella);
-    std::string struttura = Struttura().Struttura();
+    LavoroProva lavoro = Struttura();
+    for (auto &punto : lavoro.punti)
+        for (double &coordinata : punto) coordinata += lontano;
+    std::string struttura = lavoro.Struttura();
     std::erase(struttura, '\r');
     ScriviFile(cartella / "STRUTTUR.STR", struttura);
     ScriviFile(cartella / "sezioni_", "0\n");

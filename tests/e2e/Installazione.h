@@ -9,8 +9,9 @@ Ambiente Copia(Ambiente amb);
 
 // Makes a small job whose every property is known: nodes 1 to 4 and 20, bars 7, 8, 9, 12, 14,
 // shells 31 to 38, continuous elements 101 to 103; coordinates are whole, so that all lie inside
-// the rounded coordinate intervals.
-std::filesystem::path LavoroPiccolo(const Ambiente &amb, const std::string &codice = "prova1");
+// the rounded coordinate intervals. `lontano` is added to each of them.
+std::filesystem::path LavoroPiccolo(const Ambiente &amb, const std::string &codice = "prova1",
+                                    double lontano = 0);
 
 // Ends the program by Ctrl+E.
 void Esci(Programma &p);

@@ -88,8 +88,10 @@ POINT PostoDelBottone(const Programma &p, const std::string &suggerimento) {
 }
 
 // Makes the job; the argument that opens it.
-std::wstring Prepara(const Ambiente &amb, Genere genere, const std::string &selezione) {
-    ScriviIngresso(LavoroPiccolo(amb), "Prova", selezione, static_cast<int>(genere));
+std::wstring Prepara(const Ambiente &amb, Genere genere, const std::string &selezione,
+                     double lontano) {
+    ScriviIngresso(LavoroPiccolo(amb, "prova1", lontano), "Prova", selezione,
+                   static_cast<int>(genere));
     return amb.Argomento("LAVORO=prova1|");
 }
 
@@ -102,9 +104,9 @@ void ChiudiRiquadro(Programma &p, const RiquadroAtteso &atteso) {
     UGUALE(visto.icona, atteso.icona);
 }
 
-Sessione::Sessione(const Ambiente &amb, Genere genere, const std::string &selezione)
-    : Programma(amb.telva, Prepara(amb, genere, selezione)), lavoro(amb.Lavori() / "prova1"),
-      finestra(Principale()), disegno(Controllo("Disegno")) {
+Sessione::Sessione(const Ambiente &amb, Genere genere, const std::string &selezione, double lontano)
+    : Programma(amb.telva, Prepara(amb, genere, selezione, lontano)),
+      lavoro(amb.Lavori() / "prova1"), finestra(Principale()), disegno(Controllo("Disegno")) {
     Dimensiona(finestra, GetSystemMetrics(SM_CXSCREEN) * 11 / 16,
                GetSystemMetrics(SM_CYSCREEN) * 4 / 5);
     // The nodes are looked for in the new picture: painted at once, and on the screen by the second

@@ -31,9 +31,9 @@ void ChiudiRiquadro(Programma &p, const RiquadroAtteso &atteso);
 // The program on a fresh small job, in a window of about two thirds of the screen.
 class Sessione : public Programma {
   public:
-    // No node may be selected yet.
+    // No node may be selected yet. The job may stand far from the origin.
     explicit Sessione(const Ambiente &amb, Genere genere = Genere::Aste,
-                      const std::string &selezione = "");
+                      const std::string &selezione = "", double lontano = 0);
 
     using Programma::Clic, Programma::Punta, Programma::Rotella;
 

@@ -33,6 +33,16 @@ std::string Posto(HWND finestra) {
            "," + std::to_string(r.bottom);
 }
 
+std::string Appunti() {
+    if (!OpenClipboard(nullptr)) return "(in use)";
+    const HANDLE dato = GetClipboardData(CF_UNICODETEXT);
+    const auto *testo = dato ? static_cast<const wchar_t *>(GlobalLock(dato)) : nullptr;
+    const std::string letto = testo ? Utf8(testo) : "(no text)";
+    if (testo) GlobalUnlock(dato);
+    CloseClipboard();
+    return letto;
+}
+
 } // namespace
 
 SCENARIO(finestra_alla_nascita) {
@@ -180,9 +190,18 @@ SCENARIO(posto_impossibile) {
     }
 }
 
+// Texts are shown cut, and copied whole.
 SCENARIO(testo_smisurato) {
-    ScriviIngresso(LavoroPiccolo(amb), std::string(4000000, 'T'), "2", 0);
+    const auto lavoro = LavoroPiccolo(amb);
+    std::filesystem::remove(lavoro / "STRUTTUR.STR"); // the caller's list comes back as it is
+    const std::string lista(5000, '7');
+    ScriviIngresso(lavoro, std::string(4000000, 'T'), lista, 0);
     Programma p(amb.telva, amb.Argomento("LAVORO=prova1"));
+    p.ChiudiRiquadro();
+    UGUALE(p.Testo("StringaSel"), lista.substr(0, 3999) + "…");
+    p.Clic("StringaSel");
+    p.Premi("Ctrl+C");
+    DIVENTA(p, Appunti(), lista);
     const std::string titolo = p.Testo(p.Principale());
     VERIFICA(titolo.size() > 10 && titolo.size() < 1000);
     p.Clic("Angolo(0)");

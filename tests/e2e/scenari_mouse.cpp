@@ -33,6 +33,18 @@ SCENARIO(mouse_scelta_diretta) {
     DIVENTA(s, s.Visibile("LabCoord"), false);
 }
 
+// In map coordinates single precision would be several pixels off.
+SCENARIO(mouse_lavoro_lontano) {
+    Sessione s(amb, Genere::Nodi, "", 5e8);
+    s.Premi("Ctrl+A");
+    s.FunzioneDiventa("Aggiungi selezione");
+    for (const int nome : {1, 2, 3, 4, 20}) s.Clic(Nodo(nome));
+    s.ListaDiventa("1,1-4,20");
+    s.Scegli(Genere::Aste);
+    s.Clic(Mezzo(2, 4));
+    s.ListaDiventa("8");
+}
+
 // A pick on nothing opens a window by itself, and picking goes on after it.
 SCENARIO(mouse_finestra) {
     Sessione s(amb, Genere::Nodi);

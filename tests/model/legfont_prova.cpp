@@ -1,4 +1,5 @@
 #include "model/legfont_cond.h"
+#include "platform/citazione.h"
 #include "sostegno/Banco.h"
 #include "startup/direttori_cond.h"
 
@@ -8,8 +9,8 @@ using Punti = std::vector<std::array<int, 2>>;
 
 struct Legfont : Banco {
     Legfont() {
-        DirRoot = Radice();
-        DirProgra = Radice() + "\\progra";
+        DirRoot = RadiceLunga();
+        DirProgra = DirRoot + "\\progra";
     }
     void LeggiRighe(const std::string &righe) {
         Scrivi("progra/font.001", righe);
@@ -21,9 +22,9 @@ struct Legfont : Banco {
             punti.push_back({FontX(codice, k), FontY(codice, k)});
         return punti;
     }
-    Messaggio ErroreInLettura() const {
-        return {"Errore in lettura del file " + DirProgra + "\\font.001 !", Gravita::Critica,
-                "Problema"};
+    static std::string File() { return CitaPercorso(DirProgra + "\\font.001"); }
+    static Messaggio ErroreInLettura() {
+        return {"Errore in lettura del file " + File() + " !", Gravita::Critica, "Problema"};
     }
 };
 
@@ -87,8 +88,8 @@ TEST_F(Legfont, SenzaUnNumeroInTestaIlFileEErrato) {
 
 TEST_F(Legfont, SiCercaNellaCartellaDeiProgrammiPoiInQuellaDiBase) {
     LeggiFont();
-    EXPECT_EQ(messaggi, (std::vector<Messaggio>{{"File " + DirProgra + "\\font.001 inesistente!",
-                                                 Gravita::Critica, "Problema"}}));
+    EXPECT_EQ(messaggi, (std::vector<Messaggio>{
+                            {"File " + File() + " inesistente!", Gravita::Critica, "Problema"}}));
     Scrivi("font.001", "0\nA01020304\n");
     LeggiFont();
     EXPECT_EQ(NumPtFont['A'], 2) << "from the root";

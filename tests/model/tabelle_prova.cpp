@@ -1,5 +1,6 @@
 #include "model/struttura.h"
 #include "model/tabelle_cond.h"
+#include "platform/citazione.h"
 #include "sostegno/Banco.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
@@ -9,7 +10,7 @@ namespace telva::prove {
 
 struct Tabelle : Banco {
     Tabelle() {
-        DirLavoro = Radice();
+        DirLavoro = RadiceLunga();
         CaricaMessaggi();
     }
     static std::string Ripetuta(int volte, const std::string &scheda) {
@@ -48,7 +49,8 @@ TEST_F(Tabelle, OltreIlLimiteSiAvvisaESiLeggonoLePrime) {
                                 .troppe = " Troppi elementi continui "}};
     for (const Elenco &e : kElenchi) {
         messaggi.clear();
-        EXPECT_EQ(e.leggi(), " Impossibile leggere il file " + DirLavoro + "\\" + e.file);
+        EXPECT_EQ(e.leggi(),
+                  " Impossibile leggere il file " + CitaPercorso(DirLavoro + "\\" + e.file));
         for (const int numero : {0, 1, e.limite}) {
             Scrivi(e.file, Ripetuta(numero, e.scheda));
             EXPECT_EQ(e.leggi(), "") << e.file;
@@ -119,7 +121,7 @@ TEST_F(Tabelle, UnElementoContinuoErratoSiSpiegaConRigaEMotivo) {
         Scrivi("el_conti.tmp", c.file);
         EXPECT_FALSE(Esegui([] { LeggiElCont(); })) << '"' << c.file << '"';
         EXPECT_EQ(codiceFine, 1) << '"' << c.file << '"';
-        const std::string testo = "File " + DirLavoro + "\\el_conti.tmp, riga " +
+        const std::string testo = "File " + CitaPercorso(DirLavoro + "\\el_conti.tmp") + ", riga " +
                                   std::to_string(c.riga) + ": " + c.motivo;
         EXPECT_EQ(messaggi, (std::vector<Messaggio>{{testo, Gravita::Critica, "ERRORE"}}));
     }

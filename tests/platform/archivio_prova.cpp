@@ -108,6 +108,8 @@ TEST_F(Scritture, UnNomeProvvisorioGiaPresoNonSiTocca) {
     EXPECT_EQ(Leggi("f.txt.~2/dentro.txt"), "");
     EXPECT_EQ(Leggi("altrui.txt"), "altrui");
     EXPECT_EQ(Nomi().count("f.txt.~4"), 0u);
+    Disco &vero = DiscoDelSistema();
+    EXPECT_NE(vero.NumeroProprio(), vero.NumeroProprio()) << "each time another one";
 }
 
 TEST_F(Scritture, UnaCartellaColNomeDelFileNonSiTocca) {

@@ -1,9 +1,11 @@
 #include "platform/citazione.h"
 
+#include "model/struttura.h"
 #include "platform/testo.h"
 #include "sostegno/Banco.h"
 #include "startup/direttori_cond.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/proiezione.h"
 
 namespace telva::prove {
 namespace {
@@ -58,6 +60,9 @@ TEST_F(Banco, NessunMessaggioEPiuLungoDiQuantoSiMostra) {
     FormTelva.Angolo[0].KeyDown(13);
     EXPECT_NE(messaggi.back().testo.find(" " + Volte(59, "x") + "… ("), std::string::npos)
         << "angle";
+    PuntoX[0] = 2e20;
+    FormTelva.Disegno.MouseMove(0, 0, XNodo(0), YNodo(0));
+    EXPECT_EQ(FormTelva.LabCoord.Caption, "2e+20, 0, 0 [N1]");
     FormTelva.IntX[0].Text = lungo;
     FormTelva.IntX[0].KeyDown(13);
     EXPECT_TRUE(messaggi.back().testo.ends_with(" " + Volte(59, "x") + "…")) << "interval";

@@ -100,7 +100,9 @@ TEST_F(TrappolaProva, UnAstaSiPrendeLungoLaSuaLineaEUnPoOltre) {
     Asta({400, 500}, {430, 530});
     Asta({50, 20}, {50.0099, 20}); // seen from its end: a length below 0.01 is none
     Asta({50, 6}, {50.0101, 6});
+    lavoro.elementi = {{7, "Intero", {1}}, {8, "Rotto", {1, 20001}}}; // no bar has that name
     ApriAlPixel();
+    Prende(kElContTipo, 7, {{115, 500}});
     Prende(kAsteTipo, 1, {{115, 504.9}, {134.9, 500}, {95.1, 503}});
     Prende(kAsteTipo, 0, {{115, 505}, {135, 500}, {95, 500}});
     Prende(kAsteTipo, 2, {{434.9, 534.9}, {418, 512}});

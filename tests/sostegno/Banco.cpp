@@ -80,6 +80,12 @@ Banco::~Banco() {
     fs::remove_all(temporanea_, errore);
 }
 
+std::string Banco::RadiceLunga() const {
+    std::string percorso = radice_;
+    for (int n = 0; n < 150; ++n) percorso += "\\.";
+    return percorso;
+}
+
 void Banco::Scrivi(const std::string &relativo, const std::string &byte) const {
     const fs::path file = radice_ + "/" + Barre(relativo);
     fs::create_directories(file.parent_path());

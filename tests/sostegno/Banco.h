@@ -29,6 +29,8 @@ class Banco : public ::testing::Test {
 
     // Paths with "\" as the program sees them: a name below a temporary folder.
     const std::string &Radice() const { return radice_; }
+    // The same folder by a path that no message shows whole.
+    std::string RadiceLunga() const;
     std::string Argomento() const { return "|diroot=" + radice_ + "|"; }
     void Scrivi(const std::string &relativo, const std::string &byte) const;
     std::string Leggi(const std::string &relativo) const; // "<assente>" when it is missing

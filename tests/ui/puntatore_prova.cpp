@@ -164,6 +164,25 @@ TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
         }
 }
 
+// A zoom window that is not shown, because it is flat or a wheel step was refused, moves nothing.
+TEST_F(PuntatoreProva, LaVistaSiSpostaDaQuelloCheSiVede) {
+    ImpostaZoom(50, 50, 50.001, 50.001);
+    Menu("Ridis");
+    Pixel prima = Visto(0);
+    Menu("Sposta");
+    Clic(X(300), Y(200));
+    Clic(X(331), Y(183));
+    EXPECT_EQ(Visto(0), prima + Pixel(31, -17));
+
+    ImpostaZoom(0, 0, 0.11, 0.11);
+    Menu("Ridis");
+    prima = Visto(0);
+    Rotella(1); // refused: the window would be too small
+    EXPECT_EQ(Visto(0), prima);
+    Tasto(39); // the arrow to the right
+    EXPECT_EQ(Visto(0), prima + Pixel(-d.LarghezzaPixel() / 10, 0));
+}
+
 TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
     struct Caso {
         const char *che;

@@ -17,13 +17,13 @@ TEST_F(Proiezione, PiGrecoHaDodiciCifre) {
 
 TEST_F(Proiezione, GliIntervalliSonoGliEstremiInUnitaIntere) {
     PuntoX[0] = -2.5, PuntoX[2] = 202.5; // halves up
-    PuntoY[0] = -0.5, PuntoY[8] = 1e9;
+    PuntoY[0] = -0.5, PuntoY[8] = 2e20;
     PuntoZ[0] = -0.51;
     AggiornaIntervalli(4);
     EXPECT_EQ(FormTelva.IntX[0].Text(), "-2");
     EXPECT_EQ(FormTelva.IntX[1].Text(), "203");
     EXPECT_EQ(FormTelva.IntY[0].Text(), "0");
-    EXPECT_EQ(FormTelva.IntY[1].Text(), "1000000000");
+    EXPECT_EQ(FormTelva.IntY[1].Text(), "2e+20") << "short";
     EXPECT_EQ(FormTelva.IntZ[0].Text(), "-1");
 }
 
