@@ -2,6 +2,8 @@
 #include "Finestre.h"
 #include "Sessione.h"
 
+#include <algorithm>
+
 using namespace telva::prove;
 
 namespace {
@@ -118,7 +120,46 @@ const Tabella kOpzioni =
                                  "Magenta", "Azzurro", "Arancione"}),
             Schiera("LabelBordCol", std::vector<std::string>(10))});
 
+// The lowest row of the screen that the first letter in a control reaches.
+LONG PiedeDelTesto(HWND controllo) {
+    RECT r{};
+    GetClientRect(controllo, &r);
+    MapWindowPoints(controllo, nullptr, reinterpret_cast<POINT *>(&r), 2);
+    const Immagine foto = Schermo(&r);
+    const auto luce = [&](int x, int y) { return foto.In(x, y) & 0xFF; };
+    const auto scuro = [&](int x, int y) { return luce(x, y) * 3 < luce(0, 0) * 2; };
+    int prima = foto.larghezza, piede = 0;
+    for (int x = 0; x < std::min(prima + 4, foto.larghezza); ++x)
+        for (int y = 0; y < foto.altezza; ++y) {
+            if (!scuro(x, y)) continue;
+            prima = std::min(prima, x);
+            piede = std::max(piede, y);
+        }
+    return r.top + piede;
+}
+
+// The box is given the text beside it: a letter and the same letter.
+void VerificaAllineati(const Programma &p, const std::string &etichetta,
+                       const std::string &casella) {
+    const HWND accanto = p.Controllo(etichetta);
+    const std::wstring testo = Largo(p.Testo(accanto));
+    SendMessageW(p.Controllo(casella), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(testo.c_str()));
+    Passo("look at " + etichetta + " beside " + casella);
+    DIVENTA(p, PiedeDelTesto(p.Controllo(casella)), PiedeDelTesto(accanto));
+}
+
 } // namespace
+
+SCENARIO(didascalie_allineate) {
+    Sessione s(amb);
+    s.PuntaInDisparte();
+    VerificaAllineati(s, "LabelAsse(0)", "IntX(0)");
+    VerificaAllineati(s, "LabelAsse(2)", "IntZ(1)");
+    VerificaAllineati(s, "Label1(1)", "Angolo(1)");
+    s.ApriOpzioni();
+    for (const std::string casella : {"SpNonSel", "SpSel", "Raggio"})
+        VerificaAllineati(s, "Label" + casella, casella);
+}
 
 SCENARIO(didascalie_finestra) {
     Sessione s(amb, Genere::Aste, "8");

@@ -13,7 +13,7 @@ void Riga(Etichetta &etichetta, const char *testo, CasellaTesto &casella, double
           double left = 180) {
     constexpr double kColonna = 5340;
     etichetta.Caption = testo;
-    etichetta.Posiziona(left, top + 40, kColonna - left - 90, 225);
+    etichetta.Posiziona(left, top, kColonna - left - 90, 300);
     casella.Posiziona(kColonna, top, 900, 300);
 }
 

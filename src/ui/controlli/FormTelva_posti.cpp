@@ -10,11 +10,6 @@ namespace {
 
 constexpr double kAltezzaBarra = 400;
 constexpr double kDistanzaStato = 90, kStatoMinimo = 900;
-constexpr double kRigaTesto = 210, kBordoCasella = 3; // twips; pixels above a text box's text
-
-// A label beside a text box, as high as brings its text, in the middle, to the height of the box's:
-// the box has its own at the top, as many pixels down at every scale.
-double AltezzaAccanto(const ModuloTelva &f) { return kRigaTesto + ATwip(2 * kBordoCasella, f.dpi); }
 
 // Inside the two frames of the side bar, whose size never changes.
 void DisponiBarraLaterale(ModuloTelva &f) {
@@ -31,7 +26,7 @@ void DisponiBarraLaterale(ModuloTelva &f) {
     Pulsante *tutto[] = {&f.TuttoX, &f.TuttoY, &f.TuttoZ};
     for (int k = 0; k < 3; ++k) {
         const double riga = 1745 + k * 320;
-        f.LabelAsse[k].Posiziona(120, riga, 150, AltezzaAccanto(f));
+        f.LabelAsse[k].Posiziona(120, riga, 150, 290);
         (*campi[k])[0].Posiziona(300, riga, 800, 290);
         (*campi[k])[1].Posiziona(1130, riga, 800, 290);
         tutto[k]->Posiziona(1960, riga, 710, 290);
@@ -59,7 +54,7 @@ void ModuloTelva::Disponi() {
     StringaSel.Posiziona(2200, riga, w - 4464, 290);
     for (int k = 0; k < 3; ++k) {
         const double left = w - 2235 + k * 705;
-        Label1[k].Posiziona(left, riga, 115, AltezzaAccanto(*this));
+        Label1[k].Posiziona(left, riga, 115, 290);
         Label2[k].Posiziona(left + 120, riga + 100, 90, 200);
         Angolo[k].Posiziona(left + 210, riga, 465, 290);
     }
