@@ -144,15 +144,21 @@ bool Leggi(const std::string &testo, int capacita, std::vector<std::int16_t> &nu
     return true;
 }
 
-// One number of the set fits every part; any number fits an element without parts.
-bool StessaScheda(const Elementi &e, int i, NumeroDiParte numeroDi, const Insieme &insieme) {
-    std::optional<std::int16_t> numero; // of the first part
+// True when all parts of an element have one number, which is put into `numero`; so for one without
+// parts, which has none.
+bool NumeroComune(const Elementi &e, int i, NumeroDiParte numeroDi,
+                  std::optional<std::int16_t> &numero) {
     return e.OgniParte(i, [&](int parte) {
         const std::int16_t n = numeroDi(parte);
-        if (numero) return n == *numero;
-        numero = n;
-        return insieme.Contiene(n);
+        if (!numero) numero = n;
+        return n == *numero;
     });
+}
+
+// One number of the set fits every part; any number fits an element without parts.
+bool StessaScheda(const Elementi &e, int i, NumeroDiParte numeroDi, const Insieme &insieme) {
+    std::optional<std::int16_t> numero;
+    return NumeroComune(e, i, numeroDi, numero) && (!numero || insieme.Contiene(*numero));
 }
 
 bool SelezionaPerScheda(std::uint8_t codice, const std::string &testo, Segno segno) {
@@ -184,16 +190,14 @@ std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo) {
     const Elementi &e = ElementiDi(tipo);
     const NumeroDiParte numero = proprieta.numero[tipo];
     std::vector<bool> presenti(INT16_MAX + 1, false);
-    const auto segna = [&](int n) {
-        if (n > 0) presenti[static_cast<std::size_t>(n)] = true;
-        return true;
-    };
     for (int i = 0; i < e.numero; ++i) {
-        if (!Disegnato(e, i)) continue;
+        if (!Disegnato(e, i) || !e.Attivo(i)) continue;
+        std::optional<std::int16_t> n;
         if (proprieta.codice == kNome)
-            segna(e.nomi[i]);
-        else if (numero)
-            e.OgniParte(i, [&](int parte) { return segna(numero(parte)); });
+            n = e.nomi[i];
+        else if (!numero || !NumeroComune(e, i, numero, n))
+            continue;
+        if (n.value_or(0) > 0) presenti[static_cast<std::size_t>(*n)] = true;
     }
     std::vector<int> numeri;
     for (int n = 1; n <= INT16_MAX; ++n)

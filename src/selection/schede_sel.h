@@ -40,8 +40,8 @@ inline constexpr int kAmmesso = -1, kIgnorato = -2;
 // The property of a sub-function code, or nullptr.
 const SchedaProprieta *ProprietaDi(std::uint8_t codice);
 
-// The numbers above 0 that the elements drawn of a kind carry, ascending, each once: what a list
-// for this property can name.
+// The numbers above 0, ascending, each of which marks an element of a kind that is drawn: those
+// that such elements carry, with all their parts, where they can be selected.
 std::vector<int> NumeriPresenti(const SchedaProprieta &proprieta, int tipo);
 
 // Starts the pending property: prompt, title, answer box ready for typing.

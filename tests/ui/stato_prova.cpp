@@ -72,6 +72,20 @@ TEST_F(StatoProva, CheCosaSiPuoScrivere) {
     EXPECT_EQ(Poi(), "orientamenti presenti: -") << "nothing is shown";
 }
 
+TEST_F(StatoProva, UnElementoContinuoContaConLaSchedaDiTutteLeSueAste) {
+    LavoroProva misto = Telaio();
+    misto.elementi = {{10, "", {1, 2}}, {20, "", {3, 7}}, {30, "", {7, 8}}};
+    Apri(misto);
+    Menu("Aggiungi");
+    Tipo(kElContTipo);
+    Menu("SchOrientamento");
+    EXPECT_EQ(Poi(), "orientamenti presenti: 1,7");
+    Intervallo(Estremo::MaxZ, "150"); // of 30 only one bar is left
+    EXPECT_EQ(Poi(), "orientamenti presenti: 1");
+    Menu("Nome");
+    EXPECT_EQ(Poi(), "nomi presenti: da 10 a 20");
+}
+
 TEST_F(StatoProva, CheCosaFarebbeUnClic) {
     ApriCon(kNodiTipo);
     EXPECT_EQ(Poi(), "Ctrl+A aggiunge, Ctrl+T rimuove");
