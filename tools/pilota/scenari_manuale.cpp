@@ -9,70 +9,171 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Immagine Vista(HWND finestra) {
-    RECT r{};
-    GetWindowRect(finestra, &r);
-    return Schermo(&r);
-}
+// The menu items of this session, by the keys that reach them.
+struct Voce {
+    const char *menu, *tasti;
+};
+constexpr Voce kRimuoviTutto{"Alt+O", "m"};
+constexpr Voce kPerFinestra{"Alt+S", "f"};
+constexpr Voce kPerColoreGiallo{"Alt+S", "c Giu Giu Giu Giu Invio"};
+constexpr Voce kPerMateriale{"Alt+S", "m"};
+constexpr Voce kOpzioni{"Alt+Z", "p"};
 
-struct Fotografo {
-    const Ambiente &amb;
-    Programma p{amb.telva, amb.Argomento("LAVORO=dimo01|")};
-    HWND finestra = p.Principale(), disegno = p.Controllo("Disegno");
-    std::vector<std::uint32_t> vista{}; // what the place of the drawing showed last
-
-    // Waits until that place shows something else (a dialog, too) and all stands still.
-    void Cambia(const std::string &foto = {}) {
-        Immagine ora = Vista(finestra), qui;
-        p.Aspetta("another picture " + foto, [&] {
-            qui = Vista(disegno); // between the two of the window, and the same as both in the end
-            const Immagine prima = std::exchange(ora, Vista(finestra));
-            return qui.pixel != vista && prima.pixel == ora.pixel;
-        });
-        vista = qui.pixel;
-        if (!foto.empty()) ScriviBmp(ora, amb.foto / ("manuale_" + foto + ".bmp"));
-    }
-    // A place on the drawing, in thousandths of its width and height.
-    POINT Punto(int x, int y) const {
-        RECT r{};
-        GetClientRect(disegno, &r);
-        return {r.right * x / 1000, r.bottom * y / 1000};
-    }
-    void Rettangolo(POINT da, POINT a, const std::string &aperto, const std::string &chiuso) {
-        p.Clic(disegno, da), p.Punta(disegno, a), Cambia(aperto);
-        p.Clic(disegno, a), Cambia(chiuso);
-    }
-    void Riempi(const std::string &casella, const std::string &testo) {
-        p.Clic(casella), p.Premi("Fine"), p.Premi("Shift+Inizio"), p.Scrivi(casella, testo);
-    }
+// A place on the drawing, in thousandths of its width and height.
+struct Posto {
+    int x, y;
 };
 
-void Selezioni(Fotografo &f) {
-    const auto nulla = [&] { f.p.Menu("Alt+O", "m"), f.Cambia(); };
-    f.p.Premi("Ctrl+A"), f.p.Punta(f.disegno, f.Punto(523, 800));
-    f.p.Menu("Alt+S", "m"), f.p.Scrivi("Risposta", "3,4"), f.p.Premi("Invio"), f.Cambia("elenco");
-    nulla(), f.p.Clic("GusciAtt"), f.Cambia(), f.p.Menu("Alt+S", "f");
-    f.Rettangolo(f.Punto(570, 120), f.Punto(850, 780), "rettangolo", "");
-    f.p.Premi("Ctrl+T"), f.Rettangolo(f.Punto(870, 640), f.Punto(640, 400), "rimuovi", "");
-    nulla(), f.p.Premi("Ctrl+A");
-    f.p.Menu("Alt+S", "c Giu Giu Giu Giu Invio"), f.Cambia("colore");
-    nulla(), f.p.Premi("Ctrl+Z"), f.Rettangolo(f.Punto(570, 400), f.Punto(850, 780), "", "");
-    for (int y : {190, 340, 540}) f.p.Clic(f.disegno, f.Punto(683, y)), f.Cambia();
-    f.p.Clic(f.disegno, f.Punto(619, 312)), f.Cambia("diretta");
-    DIVENTA(f.p, f.p.Testo("StringaSel"), "168,286,322,349");
+// The program on the sample job. A step that changes the picture is over when the drawing (or a
+// dialog over it) shows something else and all stands still.
+class Seduta : public Programma {
+  public:
+    explicit Seduta(const Ambiente &amb)
+        : Programma(amb.telva, amb.Argomento("LAVORO=dimo01|")), foto_(amb.foto) {
+        AspettaDisegno();
+    }
+
+    void AspettaDisegno() {
+        Immagine ora = Vista(finestra_), qui;
+        Aspetta("another picture", [&] {
+            qui = Vista(disegno_); // between two of the window, and the same as both in the end
+            const Immagine prima = std::exchange(ora, Vista(finestra_));
+            return qui.pixel != disegnoVisto_ && prima.pixel == ora.pixel;
+        });
+        disegnoVisto_ = qui.pixel;
+        finestraVista_ = ora;
+    }
+
+    // The window as it stood after the last step that changed it.
+    void Foto(const std::string &nome) const {
+        ScriviBmp(finestraVista_, foto_ / ("manuale_" + nome + ".bmp"));
+    }
+
+    void Scegli(const Voce &voce) { Menu(voce.menu, voce.tasti); }
+    void RimuoviTutto() {
+        Scegli(kRimuoviTutto);
+        AspettaDisegno();
+    }
+    void ClicSu(const std::string &controllo) {
+        Clic(controllo);
+        AspettaDisegno();
+    }
+    void ClicIn(const Posto &posto) {
+        Clic(disegno_, Punto(posto));
+        AspettaDisegno();
+    }
+    void PuntaIn(const Posto &posto) { Punta(disegno_, Punto(posto)); }
+
+    // First corner of a rectangle, and the pointer where the second one is going to be.
+    void ApriRettangolo(const Posto &da, const Posto &a) {
+        Clic(disegno_, Punto(da));
+        PuntaIn(a);
+        AspettaDisegno();
+    }
+    void Rettangolo(const Posto &da, const Posto &a) {
+        ApriRettangolo(da, a);
+        ClicIn(a);
+    }
+
+    // Another text in place of that of a box.
+    void Riscrivi(const std::string &casella, const std::string &testo) {
+        Clic(casella);
+        Premi("Fine");
+        Premi("Shift+Inizio");
+        Scrivi(casella, testo);
+    }
+
+  private:
+    static Immagine Vista(HWND finestra) {
+        RECT r{};
+        GetWindowRect(finestra, &r);
+        return Schermo(&r);
+    }
+    POINT Punto(const Posto &posto) const {
+        RECT r{};
+        GetClientRect(disegno_, &r);
+        return {r.right * posto.x / 1000, r.bottom * posto.y / 1000};
+    }
+
+    fs::path foto_;
+    HWND finestra_ = Principale(), disegno_ = Controllo("Disegno");
+    std::vector<std::uint32_t> disegnoVisto_;
+    Immagine finestraVista_;
+};
+
+void PerElenco(Seduta &s) {
+    s.Premi("Ctrl+A"); // add
+    s.PuntaIn({523, 800});
+    s.Scegli(kPerMateriale);
+    s.Scrivi("Risposta", "3,4");
+    s.Premi("Invio");
+    s.AspettaDisegno();
+    s.Foto("elenco");
+    s.RimuoviTutto();
 }
 
-void Viste(Fotografo &f) {
-    f.Riempi("IntZ(0)", "420"), f.Riempi("IntZ(1)", "760"), f.p.Clic("GusciAtt"), f.Cambia();
-    f.p.Premi("Ctrl+O"), f.Cambia("filtri"), f.p.Clic("TuttoZ"), f.Cambia();
-    for (const char *k : {"IntY(0)", "IntY(1)", "Angolo(0)", "Angolo(1)"}) f.Riempi(k, "0");
-    f.p.Clic("GusciAtt"), f.Cambia("vista"), f.p.Menu("Alt+Z", "p");
-    f.p.Dialogo("Opzioni di rappresentazione");
-    for (const char *k : {"CheckTxtNodi", "CheckTxtAste", "TxtAste(1)", "TxtAste(3)", "TxtAste(4)"})
-        f.p.Clic(k);
-    DIVENTA(f.p, f.p.Spuntato("TxtAste(4)"), false);
-    f.Cambia("opzioni"), f.p.Clic("Salva"), f.p.ChiudiRiquadro(), f.p.Premi("Esc"), f.Cambia();
-    f.p.Premi("Ctrl+Z"), f.Rettangolo(f.Punto(250, 600), f.Punto(550, 950), "", "etichette");
+void PerRettangolo(Seduta &s) {
+    s.ClicSu("GusciAtt"); // no shells
+    s.Scegli(kPerFinestra);
+    s.ApriRettangolo({570, 120}, {850, 780});
+    s.Foto("rettangolo");
+    s.ClicIn({850, 780});
+    s.Premi("Ctrl+T"); // remove
+    s.ApriRettangolo({870, 640}, {640, 400});
+    s.Foto("rimuovi");
+    s.ClicIn({640, 400});
+    s.RimuoviTutto();
+}
+
+void PerColore(Seduta &s) {
+    s.Premi("Ctrl+A");
+    s.Scegli(kPerColoreGiallo);
+    s.AspettaDisegno();
+    s.Foto("colore");
+    s.RimuoviTutto();
+}
+
+void UnoAllaVolta(Seduta &s) {
+    s.Premi("Ctrl+Z"); // zoom
+    s.Rettangolo({570, 400}, {850, 780});
+    for (const Posto &asta : {Posto{683, 190}, {683, 340}, {683, 540}, {619, 312}}) s.ClicIn(asta);
+    s.Foto("diretta");
+    DIVENTA(s, s.Testo("StringaSel"), "168,286,322,349");
+}
+
+void UnPiano(Seduta &s) {
+    s.Riscrivi("IntZ(0)", "420");
+    s.Riscrivi("IntZ(1)", "760");
+    s.ClicSu("GusciAtt"); // shells again
+    s.Premi("Ctrl+O");    // fit
+    s.AspettaDisegno();
+    s.Foto("filtri");
+    s.ClicSu("TuttoZ");
+}
+
+void DiFronte(Seduta &s) {
+    for (const char *casella : {"IntY(0)", "IntY(1)", "Angolo(0)", "Angolo(1)"})
+        s.Riscrivi(casella, "0");
+    s.ClicSu("GusciAtt");
+    s.Foto("vista");
+}
+
+void ConEtichette(Seduta &s) {
+    s.Scegli(kOpzioni);
+    s.Dialogo("Opzioni di rappresentazione");
+    for (const char *spunta :
+         {"CheckTxtNodi", "CheckTxtAste", "TxtAste(1)", "TxtAste(3)", "TxtAste(4)"})
+        s.Clic(spunta);
+    DIVENTA(s, s.Spuntato("TxtAste(4)"), false);
+    s.AspettaDisegno();
+    s.Foto("opzioni");
+    s.Clic("Salva");
+    s.ChiudiRiquadro();
+    s.Premi("Esc");
+    s.AspettaDisegno();
+    s.Premi("Ctrl+Z");
+    s.Rettangolo({250, 600}, {550, 950});
+    s.Foto("etichette");
 }
 
 } // namespace
@@ -84,7 +185,14 @@ SCENARIO(manuale) {
     fs::copy_file(opzioni, prima, fs::copy_options::overwrite_existing);
     const std::shared_ptr<void> fine(nullptr, [&](void *) { fs::rename(prima, opzioni); });
     ScriviIngresso(amb.Lavori() / "dimo01", "Edificio campione, unità A", "", 1);
-    Fotografo f{amb};
-    f.Cambia(), Selezioni(f), Viste(f), f.p.Premi("Ctrl+G");
-    UGUALE(f.p.AttendiFine(), 0U);
+    Seduta s(amb);
+    PerElenco(s);
+    PerRettangolo(s);
+    PerColore(s);
+    UnoAllaVolta(s);
+    UnPiano(s);
+    DiFronte(s);
+    ConEtichette(s);
+    s.Premi("Ctrl+G"); // hand back and leave
+    UGUALE(s.AttendiFine(), 0U);
 }
