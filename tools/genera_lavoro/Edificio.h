@@ -66,14 +66,11 @@ class Edificio {
 
     // Adds a shell, when at least three of its corners stand; they go round its edge.
     void Metti(const TipoGuscio &tipo, const Fila<Posto> &angoli, int piano) {
-        Fila<Posizione> presenti;
-        for (const Posto &angolo : angoli)
-            if (angolo) presenti.push_back(*angolo);
-        if (presenti.size() < 3) return;
         Guscio guscio{{-1, -1, -1, -1}, tipo, piano};
         auto nodo = guscio.Nodi.begin();
-        for (const Posizione &p : presenti) *nodo++ = IndiceNodo(p);
-        Gusci.push_back(guscio);
+        for (const Posto &angolo : angoli)
+            if (angolo) *nodo++ = IndiceNodo(*angolo);
+        if (guscio.Nodi[2] >= 0) Gusci.push_back(guscio);
     }
 
   private:

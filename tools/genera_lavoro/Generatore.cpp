@@ -171,15 +171,10 @@ Fila<Ruolo> Ruoli(const Edificio &e) {
 
 // A few nodes of the cores are hidden, some bases are hinged.
 TipoNodo TipoDi(Ruolo ruolo, int n) {
-    switch (ruolo) {
-    case Ruolo::Giunto: return {0, 1, 0};
-    case Ruolo::Base: return {2, 3, n % 4 == 3 ? 2 : 1};
-    case Ruolo::Palo: return {2, 2, 3};
-    case Ruolo::Copertura: return {3, 9, 0};
-    case Ruolo::Nucleo: return {1, n % 5 == 0 ? 10 : 4, 0};
-    case Ruolo::Rete: break;
-    }
-    return {1, 8, 0};
+    TipoNodo tipo = kTipiNodo.at(static_cast<std::size_t>(ruolo));
+    if (ruolo == Ruolo::Nucleo && n % 5 == 0) tipo.Colore = kColoreNascosto;
+    if (ruolo == Ruolo::Base && n % 4 == 3) tipo.Vincolo = 2;
+    return tipo;
 }
 
 // Points run along the verticals of the building while nodes run floor by floor; the free points
