@@ -80,7 +80,7 @@ void Controlli(HWND finestra, HINSTANCE modulo, int larghezza) {
                                      finestra, nullptr, modulo, nullptr);
     const HFONT font = Font();
     wchar_t testo[] = L"Testo di prova";
-    int x = 8, y = 40, tip_fatti = 0;
+    int x = 8, y = 40, tipFatti = 0;
     for (const Genere &g : kGeneri)
         for (int n = 0; n < g.quanti; ++n) {
             const HWND h = CreateWindowExW(g.esteso, g.classe, testo, kFiglio | g.stile, x, y, 80,
@@ -92,7 +92,7 @@ void Controlli(HWND finestra, HINSTANCE modulo, int larghezza) {
             strumento.hwnd = finestra;
             strumento.uId = reinterpret_cast<UINT_PTR>(h);
             strumento.lpszText = testo;
-            if (tip_fatti++ < kSuggerimenti)
+            if (tipFatti++ < kSuggerimenti)
                 SendMessageW(tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&strumento));
             x += 88;
             if (x + 88 > larghezza) x = 8, y += 28;

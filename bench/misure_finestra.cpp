@@ -154,7 +154,7 @@ class Telva {
 };
 
 enum { kZoom = 3, kRidisegna = 5, kAggiungi = 6, kRimuoviTutto = 8 };
-const char *const nomi[] = {"nodi", "aste", "gusci", "elementi"};
+const char *const kNomi[] = {"nodi", "aste", "gusci", "elementi"};
 
 void Rettangoli(const Telva &t) {
     const POINT angolo = t.Angolo();
@@ -166,7 +166,7 @@ void Rettangoli(const Telva &t) {
             t.Mouse(WM_MOUSEMOVE, angolo.x, angolo.y);
         };
         const auto fai = [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x, angolo.y); };
-        Riga(std::string("Rettangolo/") + nomi[k], Misura(prepara, fai));
+        Riga(std::string("Rettangolo/") + kNomi[k], Misura(prepara, fai));
         prepara();
         fai(); // stays selected
     }
@@ -176,7 +176,7 @@ void Dirette(const Telva &t) {
     const POINT angolo = t.Angolo();
     for (int k = 0; k < 4; ++k) {
         t.Tipo(k);
-        Riga(std::string("Diretta/") + nomi[k],
+        Riga(std::string("Diretta/") + kNomi[k],
              Misura([&] { t.Bottone(kRimuoviTutto); },
                     [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); }));
         t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); // a window left open is closed
@@ -187,7 +187,7 @@ void Liste(Telva &t) {
     for (int k = 0; k < 2; ++k) {
         t.Tipo(k);
         t.PerNome();
-        Riga(std::string("Lista/") + nomi[k],
+        Riga(std::string("Lista/") + kNomi[k],
              Misura([&] { t.Bottone(kRimuoviTutto); }, [&] { t.Lista("1-20000"); }, 9));
     }
 }
@@ -203,7 +203,7 @@ void Anteprime(const Telva &t) {
             t.Mouse(WM_MOUSEMOVE, angolo.x / 2 + ++n % 40, angolo.y / 2);
             t.Dipingi();
         };
-        Riga(std::string("Anteprima/") + nomi[k], Misura([] {}, fai, 45));
+        Riga(std::string("Anteprima/") + kNomi[k], Misura([] {}, fai, 45));
     }
 }
 

@@ -30,8 +30,15 @@ enum Opzione {
     kOpzNomeElCont = 25
 };
 
+// Places in OpzInt, which begin at 1.
+enum OpzioneInterna {
+    kOpzTrappola = 1,      // pixels: how near a click has to come
+    kOpzLunghezzaAssi = 2, // pixels
+    kOpzLettereAssi = 3,   // pixels
+    kOpzColoreAssi = 5
+};
+
 extern Tabella<Valore, 30> Opzioni;
-// 1 = pick aperture; 2, 3 = axis length and letter size (pixels at 100 %); 5 = axis colour code.
 extern Tabella<double, 6> OpzInt;
 
 // The entry as a number (a text by its leading number, nothing as 0); equal to 1.

@@ -80,7 +80,7 @@ std::int16_t UltimoElCont(double x, double y) {
 
 void CalcolaTrappola() {
     const RiquadroDisegno &d = FormTelva.Disegno;
-    TrappolaDis = std::abs(d.PixelOpzione(OpzInt[1]) * d.UnitaPerPixel());
+    TrappolaDis = std::abs(d.PixelOpzione(OpzInt[kOpzTrappola]) * d.UnitaPerPixel());
 }
 
 int PickNodo(int i, double x, double y, double &distanza) {

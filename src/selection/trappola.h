@@ -8,7 +8,7 @@ namespace telva {
 
 extern double TrappolaDis; // the aperture in drawing units at the last search
 
-// Aperture of OpzInt 1 (pixels at 100 %) in drawing units of the present scale, into TrappolaDis.
+// kOpzTrappola in drawing units of the present scale, into TrappolaDis.
 void CalcolaTrappola();
 
 // 1 when the element is within the aperture, else 0; `distanza` is set on a hit.

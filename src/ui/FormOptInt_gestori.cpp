@@ -26,16 +26,17 @@ void Command1_Click() {
 
 void AggiornaOpzioniInterne_(std::int16_t &ok) {
     const std::string &testo = FormOptInt.TextTrappola.Text;
-    OpzInt[1] = testo.empty() ? 0 : std::abs(ParteIntera(ValoreNumerico(ConPunto(testo))));
-    ok = OpzInt[1] == 0 ? 0 : 1;
+    OpzInt[kOpzTrappola] =
+        testo.empty() ? 0 : std::abs(ParteIntera(ValoreNumerico(ConPunto(testo))));
+    ok = OpzInt[kOpzTrappola] == 0 ? 0 : 1;
 }
 
 void MostraTrappola() {
-    FormTelva.Trappola.Caption = "Trappola (" + CitaNumero(OpzInt[1]) + ")...";
+    FormTelva.Trappola.Caption = "Trappola (" + CitaNumero(OpzInt[kOpzTrappola]) + ")...";
 }
 
 void ApriFormOptInt() {
-    FormOptInt.TextTrappola.Text = CitaNumero(OpzInt[1]);
+    FormOptInt.TextTrappola.Text = CitaNumero(OpzInt[kOpzTrappola]);
     FormOptInt.fuoco = &FormOptInt.TextTrappola;
     FormOptInt.MostraModale();
 }

@@ -21,8 +21,8 @@ constexpr double kStaccoLettera = 1.15; // letters stand a little beyond the end
 void DisegnaAssi() {
     RiquadroDisegno &d = FormTelva.Disegno;
     const double unita = d.UnitaPerPixel() * d.PixelOpzione(1);
-    const double lunghezza = std::abs(OpzInt[2] * unita);
-    const double lettera = std::abs(OpzInt[3] * unita);
+    const double lunghezza = std::abs(OpzInt[kOpzLunghezzaAssi] * unita);
+    const double lettera = std::abs(OpzInt[kOpzLettereAssi] * unita);
     const Direzione *assi[3] = {&DirAsseX, &DirAsseY, &DirAsseZ};
     if (lunghezza == 0) return;
     double sinistra = 0, basso = 0;
@@ -33,7 +33,7 @@ void DisegnaAssi() {
     const double bordo = kMarginePixel * unita + lettera;
     const double ox = d.ScaleLeft - sinistra + bordo;
     const double oy = d.ScaleTop + d.ScaleHeight - basso + bordo;
-    const std::int16_t colore = CodiceDaNumero(OpzInt[5]);
+    const std::int16_t colore = CodiceDaNumero(OpzInt[kOpzColoreAssi]);
     d.DrawWidth = d.PennaOpzione(1);
     static constexpr const char *kLettere[3] = {"X", "Y", "Z"};
     for (int k = 0; k < 3; ++k) {

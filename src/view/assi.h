@@ -3,7 +3,7 @@
 namespace telva {
 
 // Axis triad in the lower left corner of the picture, always in sight: segment length and letter
-// size from OpzInt 2 and 3 (pixels), colour code from OpzInt 5. Without lengths, nothing.
+// size and colour code from OpzInt. Without lengths, nothing.
 void DisegnaAssi();
 
 } // namespace telva

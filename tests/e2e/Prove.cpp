@@ -22,7 +22,7 @@ std::map<std::string, Corpo> &Elenco() {
 
 int controlli = 0, errori = 0;
 std::deque<std::string> passi; // the last ones
-constexpr std::size_t passiMostrati = 12;
+constexpr std::size_t kPassiMostrati = 12;
 
 void Errore(const std::string &testo) {
     ++errori;
@@ -118,7 +118,7 @@ int main() {
     if (!amb.foto.empty()) std::filesystem::create_directories(amb.foto);
     alPasso = [](const std::string &passo) {
         passi.push_back(passo);
-        if (passi.size() > passiMostrati) passi.pop_front();
+        if (passi.size() > kPassiMostrati) passi.pop_front();
     };
     return EseguiTutti(amb, Utf8(valori[L"--solo"]));
 }

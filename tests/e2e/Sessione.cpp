@@ -214,12 +214,12 @@ std::vector<std::uint32_t> Sessione::Vista() const {
 
 // What was drawn reaches the screen a little later, so the picture has to rest for a while.
 void Sessione::Fotografa(const std::string &controllo) {
-    constexpr ULONGLONG fermaMs = 100;
+    constexpr ULONGLONG kFermaMs = 100;
     ULONGLONG da = 0;
     fotoDi_ = controllo;
     Aspetta("a picture at rest", [&] {
         if (auto ora = Vista(); da == 0 || ora != std::exchange(foto_, ora)) da = GetTickCount64();
-        return GetTickCount64() - da >= fermaMs;
+        return GetTickCount64() - da >= kFermaMs;
     });
 }
 

@@ -8,11 +8,11 @@ using namespace telva::prove;
 
 namespace {
 
-constexpr auto Adesso = std::chrono::steady_clock::now;
+constexpr auto kAdesso = std::chrono::steady_clock::now;
 
 // One random command, by the messages that a user's hand would cause.
 void UnComando(const Sessione &s, std::mt19937 &caso) {
-    static constexpr UINT tasti[] = {WM_LBUTTONDOWN, WM_MBUTTONDOWN, WM_MBUTTONUP};
+    static constexpr UINT kTasti[] = {WM_LBUTTONDOWN, WM_MBUTTONDOWN, WM_MBUTTONUP};
     const auto tira = [&](unsigned n) { return caso() % n; };
     const LPARAM punto = MAKELPARAM(tira(700), tira(500));
     const std::string genere = "OptElem(" + std::to_string(tira(5)) + ")";
@@ -22,7 +22,7 @@ void UnComando(const Sessione &s, std::mt19937 &caso) {
         break;
     case 1: SendMessageW(s.Controllo(genere), BM_CLICK, 0, 0); break;
     case 2: PostMessageW(s.Controllo("Risposta"), WM_CHAR, '0' + tira(10), 0); break;
-    case 3: SendMessageW(s.disegno, tasti[tira(3)], 0, punto); break;
+    case 3: SendMessageW(s.disegno, kTasti[tira(3)], 0, punto); break;
     default: SendMessageW(s.disegno, WM_MOUSEMOVE, tira(3) ? 0U : MK_MBUTTON, punto);
     }
 }
@@ -64,8 +64,8 @@ SCENARIO(lungo_ucciso_mentre_scrive) {
             lavoro = s.lavoro;
             ScriviFile(lavoro / "TelvaOut.txt", "8\n");
             PostMessageW(s.finestra, WM_COMMAND, 1001, 0);
-            const auto fine = Adesso() + std::chrono::microseconds(caso() % 3000);
-            while (Adesso() < fine) continue;
+            const auto fine = kAdesso() + std::chrono::microseconds(caso() % 3000);
+            while (kAdesso() < fine) continue;
         } // its end comes here, if not by itself
         Programma(amb.telva, amb.Argomento("LAVORO=prova1|")).Principale();
         const auto testo = Scritto(lavoro);

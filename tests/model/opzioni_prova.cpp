@@ -76,7 +76,7 @@ TEST_F(OpzioniProva, LeOpzioniInterneSonoLePrimeCinqueRigheGiuste) {
     }
     Cancella("TelOpInt.txt");
     LeggiOpzInt();
-    EXPECT_EQ(OpzInt[1], 0) << "no file";
+    EXPECT_EQ(OpzInt[kOpzTrappola], 0) << "no file";
 }
 
 } // namespace telva::prove

@@ -211,7 +211,7 @@ PassoCasuale Caso::Risposta(const Modello &m) {
 PassoCasuale Caso::Passo(const Modello &m) {
     const int py = Tira(250), px = Tira(160), qx = Tira(160);
     const std::vector<Pixel> strada = {{px, py}, {qx, 99}, {px, py}};
-    if (m.funzione == Modello::Niente && Tira(2)) {
+    if (m.funzione == Modello::kNiente && Tira(2)) {
         const std::string voce = Testo({"Aggiungi", "Aggiungi", "Rimuovi"});
         return [=](auto &chi) { chi.Menu(voce); };
     }

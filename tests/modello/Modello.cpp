@@ -69,10 +69,11 @@ Elemento Continuo(const LavoroProva::ElCont &c, const std::vector<Elemento> &ast
 } // namespace
 
 Modello::Modello(const LavoroProva &lavoro) : punti(lavoro.punti.size()), lavoro_(lavoro) {
-    for (const auto &n : lavoro.nodi) elementi[Nodi].push_back(DelNodo(n));
-    for (const auto &a : lavoro.aste) elementi[Aste].push_back(DellAsta(a, lavoro));
-    for (const auto &g : lavoro.gusci) elementi[Gusci].push_back(DelGuscio(g, lavoro));
-    for (const auto &c : lavoro.elementi) elementi[Continui].push_back(Continuo(c, elementi[Aste]));
+    for (const auto &n : lavoro.nodi) elementi[kNodi].push_back(DelNodo(n));
+    for (const auto &a : lavoro.aste) elementi[kAste].push_back(DellAsta(a, lavoro));
+    for (const auto &g : lavoro.gusci) elementi[kGusci].push_back(DelGuscio(g, lavoro));
+    for (const auto &c : lavoro.elementi)
+        elementi[kContinui].push_back(Continuo(c, elementi[kAste]));
 }
 
 void Modello::Dice(const std::string &testo, const char *titolo, int gravita) {
@@ -83,12 +84,12 @@ void Modello::Avvio(const Ingresso &ingresso) {
     for (int asse = 0; asse < 3; ++asse) InteroIntervallo(asse);
     Ottimizza();
     tipo = richiesto_ = ingresso.tipo;
-    funzione = Aggiungere;
+    funzione = kAggiungere;
     if (ingresso.lista == "0")
         Attributo("Colore", 10);
     else if (!ingresso.lista.empty())
         Numeri("Nome", ingresso.lista); // a list that is refused selects nothing
-    funzione = Niente;
+    funzione = kNiente;
 }
 
 // --- the view
@@ -144,7 +145,7 @@ bool Modello::Dentro(const Elemento &e) const {
 
 bool Modello::Disegnato(const Elemento &e) const {
     if (e.rotto) return false;
-    const auto asta = [&](int b) { return b >= 0 && Disegnato(elementi[Aste][b]); };
+    const auto asta = [&](int b) { return b >= 0 && Disegnato(elementi[kAste][b]); };
     if (!e.aste.empty()) return std::ranges::any_of(e.aste, asta);
     return e.nome > 0 && e.colore < 10 && e.attivo && !e.sottile;
 }
@@ -162,7 +163,7 @@ Riquadro Modello::Mostrati() const {
         return std::ranges::all_of(punto, [](double v) { return std::abs(v) < 5000; });
     };
     std::size_t primo = 0;
-    if (elementi[Nodi][0].colore >= 10) {
+    if (elementi[kNodi][0].colore >= 10) {
         const auto contato = std::ranges::find_if(lavoro_.punti, vicino);
         if (contato != lavoro_.punti.end()) primo = contato - lavoro_.punti.begin();
     }
@@ -222,7 +223,7 @@ void Modello::ControllaIntervalli() {
 void Modello::Adatta() {
     for (int k = 0; k < 6; ++k) // what is not yet told does not count
         if (Giusto(intervalli[k])) ultimi_[k] = intervalli[k];
-    for (int t = Nodi; t <= Gusci; ++t)
+    for (int t = kNodi; t <= kGusci; ++t)
         for (Elemento &e : elementi[t])
             e.attivo = Dentro(e) && filtri_[t] && filtri_[e.selezionato ? 3 : 4];
     const Riquadro r = Zoomata() ? zoom : Mostrati();

@@ -51,14 +51,14 @@ struct Ingresso {
 };
 
 struct Modello {
-    enum { Nodi, Aste, Gusci, Continui, Pareti }; // kinds
-    enum Funzione { Niente, Aggiungere, Rimuovere };
+    enum { kNodi, kAste, kGusci, kContinui, kPareti }; // kinds
+    enum Funzione { kNiente, kAggiungere, kRimuovere };
 
     explicit Modello(const LavoroProva &lavoro);
 
     // --- what the window has to show
-    int tipo = Nodi;
-    Funzione funzione = Niente;
+    int tipo = kNodi;
+    Funzione funzione = kNiente;
     std::string sotto; // "Finestra", "Diretta", the item of a property that is asked for, or ""
     bool primoAngolo = false, spostaInCorso = false, modoZoom = false, modoSposta = false;
     bool finestraAutomatica = false, lineaSposta = false, risposta = false, coordinate = true;
@@ -172,7 +172,7 @@ struct Modello {
     std::array<std::string, 3> validi_;     // angles that were right
     std::array<bool, 5> filtri_ = {true, true, true, true, true};
     bool ultimoCentrale_ = false; // of the buttons that were pressed
-    int richiesto_ = Nodi;        // kind that the caller asks for
+    int richiesto_ = kNodi;       // kind that the caller asks for
     Punto angolo0_{}, angolo1_{}; // rectangle
     Punto linea0_{};              // where a pan or a drag began
 };
@@ -180,11 +180,11 @@ struct Modello {
 template <class Vale, class Azione>
 void Modello::Segna(Vale vale, Azione azione) {
     const auto asta = [&](int b) {
-        return b >= 0 && elementi[Aste][b].attivo && vale(elementi[Aste][b]);
+        return b >= 0 && elementi[kAste][b].attivo && vale(elementi[kAste][b]);
     };
-    if (tipo == Pareti) return;
+    if (tipo == kPareti) return;
     for (Elemento &e : elementi[tipo]) {
-        bool va = tipo == Continui || (e.attivo && vale(e));
+        bool va = tipo == kContinui || (e.attivo && vale(e));
         for (const int b : e.aste) va = va && asta(b);
         if (va) azione(e);
     }

@@ -80,22 +80,22 @@ int Modello::Scelto(double x, double y) {
         double distanza;
     };
     std::vector<Candidato> candidati;
-    const std::size_t capacita = tipo == Gusci ? 1 : kCandidati;
+    const std::size_t capacita = tipo == kGusci ? 1 : kCandidati;
     const auto prova = [&](const Elemento &e, const Elemento &toccato) {
         const double d = Distanza(toccato, x, y);
         if (d >= 0 && candidati.size() < capacita) candidati.push_back({&e, d});
     };
-    if (tipo == Pareti) return 0;
+    if (tipo == kPareti) return 0;
     for (const Elemento &e : elementi[tipo]) {
-        if (tipo != Continui) prova(e, e);
+        if (tipo != kContinui) prova(e, e);
         for (const int b : e.aste) // a continuous element by each of its bars
-            if (b >= 0 && !e.rotto) prova(e, elementi[Aste][b]);
+            if (b >= 0 && !e.rotto) prova(e, elementi[kAste][b]);
     }
     if (candidati.empty()) return 0;
-    if (tipo == Continui) return candidati.back().e->nome;
+    if (tipo == kContinui) return candidati.back().e->nome;
     for (const auto &[e, d] : candidati)
         for (const auto &[g, dg] : candidati) // equal, but as sums of other numbers
-            if ((tipo == Aste && std::abs(d - dg) < 1e-6 && e->punti != g->punti) ||
+            if ((tipo == kAste && std::abs(d - dg) < 1e-6 && e->punti != g->punti) ||
                 std::abs(d - std::floor(d) - 0.5) < 1e-6)
                 salta = true;
     // The nearest first, as the old sorting had it: what is moved back is rounded to whole numbers.
@@ -106,7 +106,7 @@ int Modello::Scelto(double x, double y) {
                 candidati[k].distanza = std::min(std::nearbyint(candidati[k].distanza), 32767.0);
             }
     for (const Candidato &c : candidati) // rather one that the function changes
-        if (c.e->selezionato != (funzione == Aggiungere)) return c.e->nome;
+        if (c.e->selezionato != (funzione == kAggiungere)) return c.e->nome;
     return candidati[0].e->nome;
 }
 
@@ -128,7 +128,7 @@ std::vector<Elemento *> Modello::NelRettangolo(double margine) {
 void Modello::SelezionaRettangolo() {
     const bool frontale = validi_[0] == "0" && validi_[1] == "0" && validi_[2] == "0";
     if (!frontale && NelRettangolo(0.999) != NelRettangolo(1.001)) salta = true;
-    for (Elemento *e : NelRettangolo(1)) e->selezionato = funzione == Aggiungere;
+    for (Elemento *e : NelRettangolo(1)) e->selezionato = funzione == kAggiungere;
     AggiornaLista();
     RiprendiDiretta();
 }
@@ -159,7 +159,7 @@ void Modello::Muovi(double x, double y) {
     if (primoAngolo && InVista(x, y)) angolo1_ = {x, y};
     if (!coordinate) return;
     labCoord = "";
-    for (const Elemento &e : elementi[Nodi]) {
+    for (const Elemento &e : elementi[kNodi]) {
         if (!labCoord.empty() || Distanza(e, x, y) < 0) continue;
         const auto &[px, py, pz] = lavoro_.punti[e.punti[0]];
         const auto intero = [](double v) {
@@ -201,7 +201,7 @@ void Modello::Premi(double x, double y) {
         primoAngolo = true;
         puntatore = Puntatore::Croce;
         angolo0_ = angolo1_ = {x, y};
-    } else if (!primoAngolo && sotto == "Diretta" && funzione != Niente) {
+    } else if (!primoAngolo && sotto == "Diretta" && funzione != kNiente) {
         const int nome = Scelto(x, y);
         if (nome > 0) return Numeri("Nome", std::to_string(nome));
         finestraAutomatica = true; // nothing there: the click begins a window

@@ -99,7 +99,7 @@ ElencoLetto LeggiElenco(const std::string &elenco, std::size_t capacita) {
 // --- the compact list
 
 void Modello::AggiornaLista() {
-    if (tipo == Pareti) return;
+    if (tipo == kPareti) return;
     std::vector<Elemento> ordinati = elementi[tipo];
     std::ranges::stable_sort(ordinati, {}, &Elemento::nome);
     std::string &lista = liste[tipo] = "";
@@ -125,7 +125,7 @@ void Modello::AggiornaLista() {
 // --- the line of state
 
 std::string Modello::Adesso() const {
-    const int segnati = tipo == Pareti ? Gusci : tipo;
+    const int segnati = tipo == kPareti ? kGusci : tipo;
     int selezionati = 0, nascosti = 0;
     for (const Elemento &e : elementi[segnati]) {
         if (!e.selezionato || e.nome <= 0) continue;
@@ -143,14 +143,14 @@ std::string Modello::Adesso() const {
         testo += ", di cui " + std::to_string(nascosti) + " nascost" +
                  (nascosti == 1 ? singolare : plurale);
     const bool tutti = std::ranges::all_of(filtri_, std::identity{}) &&
-                       std::ranges::all_of(elementi[Nodi], [&](auto &e) { return Dentro(e); });
+                       std::ranges::all_of(elementi[kNodi], [&](auto &e) { return Dentro(e); });
     return tutti ? testo : testo + "; vista filtrata";
 }
 
 std::string Modello::Evidenza() const {
     const auto disegnato = [&](const Elemento &e) { return Disegnato(e); };
     std::string testo = "nessun elemento mostrato: vedere filtri e intervalli";
-    for (const int t : {Nodi, Aste, Gusci})
+    for (const int t : {kNodi, kAste, kGusci})
         if (std::ranges::any_of(elementi[t], disegnato)) testo = "";
     if (richiesto_ == tipo) return testo;
     const Parole &parole = kParole[richiesto_];
@@ -172,7 +172,7 @@ void Modello::Annulla() {
 }
 
 void Modello::Interrompi() {
-    funzione = Niente;
+    funzione = kNiente;
     finestraAutomatica = false;
     abilitate.clear();
     Annulla();
@@ -184,7 +184,7 @@ void Modello::RimuoviTutto() {
     const std::string veraSotto = sotto;
     const bool chiede = risposta; // a list: it goes on
     const std::string prompt = domanda, scritto = testoRisposta;
-    funzione = Rimuovere;
+    funzione = kRimuovere;
     Attributo("Colore", kOgniColore);
     funzione = vera;
     sotto = veraSotto;
@@ -208,12 +208,12 @@ void Modello::Attributo(const std::string &menu, int codice) {
     const Attributi &famiglia = *std::ranges::find(kAttributi, menu, &Attributi::menu);
     AzzeraInput();
     const int vero = tipo;
-    if (tipo == Pareti) tipo = Gusci; // walls are drawn from the shells
+    if (tipo == kPareti) tipo = kGusci; // walls are drawn from the shells
     const auto vale = [&](const Elemento &e) {
         return codice == famiglia.tutti || codice == (menu == "Colore" ? e.colore : e.tipo);
     };
     if (kAbilitate[tipo].contains(menu)) {
-        Segna(vale, [&](Elemento &e) { e.selezionato = funzione == Aggiungere; });
+        Segna(vale, [&](Elemento &e) { e.selezionato = funzione == kAggiungere; });
         AggiornaLista(); // that of the shells, when walls were chosen
     }
     tipo = vero;
@@ -228,13 +228,13 @@ void Modello::Numeri(const std::string &proprieta, const std::string &elenco) {
         return Dice(" Numero fuori dai limiti ammessi (da -32768 a 32767) ", "ERRORE",
                     kEsclamazione);
     if (letto.troppi) return Dice(Messaggi[kMsgTroppiNumeri], "ERRORE", kEsclamazione);
-    const bool suo = tipo == Continui && nomi; // a continuous element's own number
+    const bool suo = tipo == kContinui && nomi; // a continuous element's own number
     for (const int numero : letto.numeri) {
         const auto vale = [&](const Elemento &e) {
             return suo || (nomi ? e.nome : e.schede.at(proprieta)) == numero;
         };
         Segna(vale, [&](Elemento &e) {
-            if (!suo || e.nome == numero) e.selezionato = funzione == Aggiungere;
+            if (!suo || e.nome == numero) e.selezionato = funzione == kAggiungere;
         });
     }
     AggiornaLista();
@@ -265,7 +265,7 @@ void Modello::Invio() {
                         kParole[tipo].molti + " ",
                     "INFORMAZIONE", kInformazione);
     const bool perPareti = sotto == "Materiale" || sotto == "Nome";
-    if (tipo == Pareti && !perPareti) return; // walls have no cards: nothing happens
+    if (tipo == kPareti && !perPareti) return; // walls have no cards: nothing happens
     if (!testoRisposta.empty()) Numeri(sotto, testoRisposta);
 }
 
@@ -273,7 +273,7 @@ void Modello::Invio() {
 
 void Modello::Tipo(int nuovo) {
     tipo = nuovo;
-    if (funzione != Niente) abilitate = kAbilitate[tipo];
+    if (funzione != kNiente) abilitate = kAbilitate[tipo];
 }
 
 void Modello::Trappola(const std::string &testo, bool applica) {
@@ -323,12 +323,12 @@ void Modello::Menu(const std::string &voce) {
     }
     const auto colore = std::ranges::find(kColori, voce) - kColori.begin();
     if (colore < std::ssize(kColori)) return VoceSelezioni("Colore", 1 + static_cast<int>(colore));
-    if (kAbilitate[Pareti].contains(voce)) return VoceSelezioni(voce, 0);
-    salta = (voce == "Interrompi" && funzione == Niente) || voce == "Trappola" || // not this way
+    if (kAbilitate[kPareti].contains(voce)) return VoceSelezioni(voce, 0);
+    salta = (voce == "Interrompi" && funzione == kNiente) || voce == "Trappola" || // not this way
             voce == "Salva" || voce == "Esci";
     if (voce == "Aggiungi" || voce == "Rimuovi") {
         Interrompi();
-        funzione = voce == "Aggiungi" ? Aggiungere : Rimuovere;
+        funzione = voce == "Aggiungi" ? kAggiungere : kRimuovere;
         sotto = "Diretta";
         abilitate = kAbilitate[tipo];
         Didascalia();

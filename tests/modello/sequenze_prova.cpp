@@ -145,7 +145,7 @@ struct SequenzeProva : Utente {
         c.Uguali("MousePointer", forma(f.MousePointer), 0); // no hourglass is left
         c.Uguali("Disegno.MousePointer", forma(d.MousePointer), forma(m.puntatore));
         c.Uguali("FrameCoord.Visible", f.FrameCoord.Visible(), m.coordinate);
-        c.Uguali("Interrompi.Enabled", f.Interrompi.Enabled(), m.funzione != Modello::Niente);
+        c.Uguali("Interrompi.Enabled", f.Interrompi.Enabled(), m.funzione != Modello::kNiente);
         for (const VoceMenu *voce : f.Selezioni.voci)
             c.Uguali(voce->NomeControllo() + ".Enabled", voce->Enabled(),
                      m.abilitate.contains(voce->NomeControllo()));

@@ -153,8 +153,8 @@ TEST_F(SuperficieProva, AncheConGliEstremiLontanissimi) {
 // Equal wide lines in one colour are drawn once: whatever comes between has to make them again.
 TEST_F(SuperficieProva, UnaLineaLargaRestaSopraCioCheEVenutoPrima) {
     constexpr std::uint32_t kAltro = 9;
-    constexpr Pixel a{10, 10}, b{30, 20}, mezzo{20, 15}, sopra{20, 0}, sotto{20, 29};
-    constexpr ZonaPixel tutto{0, 0, 40, 30};
+    const Pixel a{10, 10}, b{30, 20}, mezzo{20, 15}, sopra{20, 0}, sotto{20, 29};
+    const ZonaPixel tutto{0, 0, 40, 30};
     const Tratteggio continuo{1, 1};
     Superficie s, vuota;
     for (Superficie *superficie : {&s, &vuota}) {

@@ -39,7 +39,7 @@ struct TrappolaProva : Banco {
         Apri(lavoro);
         FormTelva.Disegno.Width = FormTelva.Disegno.Height = 15000; // 1000 pixels
         FormTelva.Disegno.Scale(0, 1000, 1000, 0);
-        OpzInt[1] = 5;
+        OpzInt[kOpzTrappola] = 5;
         CodFunAttiva = kAggiungi;
     }
     int Preso(int tipo, Luogo dove) {
@@ -49,9 +49,9 @@ struct TrappolaProva : Banco {
     // A click at each of these places takes `nome`, 0 for nothing; none does without an aperture.
     void Prende(int tipo, int nome, const std::vector<Luogo> &luoghi) {
         for (const Luogo &l : luoghi) {
-            OpzInt[1] = 5;
+            OpzInt[kOpzTrappola] = 5;
             EXPECT_EQ(Preso(tipo, l), nome) << "at " << l.x << ", " << l.y;
-            OpzInt[1] = 0;
+            OpzInt[kOpzTrappola] = 0;
             EXPECT_EQ(Preso(tipo, l), 0) << "without an aperture";
         }
     }

@@ -57,7 +57,7 @@ TEST_F(FormTelvaProva, LaVirgolaEUnPunto) {
     FormOpt.Salva.Click();
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 0.5);
     Trappola("7,9");
-    EXPECT_EQ(OpzInt[1], 7);
+    EXPECT_EQ(OpzInt[kOpzTrappola], 7);
 }
 
 TEST_F(FormTelvaProva, NumeriRifiutatiSenzaStruttura) {

@@ -30,9 +30,9 @@ TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     FormOptInt.TextTrappola.Text = "0";
     FormOptInt.KeyUp(kEsc);
     EXPECT_FALSE(FormOptInt.Mostrata());
-    EXPECT_EQ(OpzInt[1], 20) << "Esc leaves it as it was";
+    EXPECT_EQ(OpzInt[kOpzTrappola], 20) << "Esc leaves it as it was";
     EXPECT_EQ(Detto(), "");
-    OpzInt[1] = 2e20;
+    OpzInt[kOpzTrappola] = 2e20;
     Menu("Trappola");
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "2e+20") << "short in the box";
     FormOptInt.TextTrappola.KeyDown(kInvio);
@@ -84,29 +84,40 @@ struct DialogoRappresentazione : Utente {
 
 TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
     const VoceOpzioni<CasellaSpunta> spunte[] = {
-        {.casella = f.CheckSpGus, .voce = 0},      {.casella = f.CheckTxtNodi, .voce = 7},
-        {.casella = f.CheckTxtAste, .voce = 8},    {.casella = f.CheckTxtGusci, .voce = 9},
-        {.casella = f.TxtNodi[0], .voce = 14},     {.casella = f.TxtNodi[1], .voce = 15},
-        {.casella = f.TxtAste[0], .voce = 16},     {.casella = f.TxtAste[1], .voce = 17},
-        {.casella = f.TxtAste[2], .voce = 18},     {.casella = f.TxtAste[3], .voce = 19},
-        {.casella = f.TxtAste[4], .voce = 20},     {.casella = f.TxtGusci[0], .voce = 21},
-        {.casella = f.TxtGusci[1], .voce = 22},    {.casella = f.TxtGusci[2], .voce = 23},
-        {.casella = f.CheckTxtElCont, .voce = 24}, {.casella = f.TxtElCont, .voce = 25}};
-    for (const auto &[casella, voce] : spunte) {
-        const double opposto = OpzioneAttiva(voce) ? 0 : 1;
-        Cambia(casella.NomeControllo(), voce, opposto, [&] { casella.Premi(); });
+        {.casella = f.CheckSpGus, .voce = kOpzNascondiSottili},
+        {.casella = f.CheckTxtNodi, .voce = kOpzTestiNodi},
+        {.casella = f.CheckTxtAste, .voce = kOpzTestiAste},
+        {.casella = f.CheckTxtGusci, .voce = kOpzTestiGusci},
+        {.casella = f.TxtNodi[0], .voce = kOpzPartiNodi},
+        {.casella = f.TxtNodi[1], .voce = kOpzPartiNodi + 1},
+        {.casella = f.TxtAste[0], .voce = kOpzPartiAste},
+        {.casella = f.TxtAste[1], .voce = kOpzPartiAste + 1},
+        {.casella = f.TxtAste[2], .voce = kOpzPartiAste + 2},
+        {.casella = f.TxtAste[3], .voce = kOpzPartiAste + 3},
+        {.casella = f.TxtAste[4], .voce = kOpzPartiAste + 4},
+        {.casella = f.TxtGusci[0], .voce = kOpzPartiGusci},
+        {.casella = f.TxtGusci[1], .voce = kOpzPartiGusci + 1},
+        {.casella = f.TxtGusci[2], .voce = kOpzPartiGusci + 2},
+        {.casella = f.CheckTxtElCont, .voce = kOpzTestiElCont},
+        {.casella = f.TxtElCont, .voce = kOpzNomeElCont}};
+    for (const VoceOpzioni<CasellaSpunta> &s : spunte) {
+        const double opposto = OpzioneAttiva(s.voce) ? 0 : 1;
+        Cambia(s.casella.NomeControllo(), s.voce, opposto, [&] { s.casella.Premi(); });
     }
-    const VoceOpzioni<CasellaTesto> testi[] = {
-        {.casella = f.SpMinGus, .voce = 1}, {.casella = f.SpNonSel, .voce = 2},
-        {.casella = f.SpSel, .voce = 3},    {.casella = f.Raggio, .voce = 6},
-        {.casella = f.BaseTxt, .voce = 10}, {.casella = f.AltezzaTxt, .voce = 11},
-        {.casella = f.DistTxt, .voce = 13}};
-    for (const auto &[casella, voce] : testi)
-        Cambia(casella.NomeControllo(), voce, 12.5, [&] { casella.Text = "12.5cm"; });
+    const VoceOpzioni<CasellaTesto> testi[] = {{.casella = f.SpMinGus, .voce = kOpzSpessoreMinimo},
+                                               {.casella = f.SpNonSel, .voce = kOpzPennaNonSel},
+                                               {.casella = f.SpSel, .voce = kOpzPennaSel},
+                                               {.casella = f.Raggio, .voce = kOpzRaggioNodo},
+                                               {.casella = f.BaseTxt, .voce = kOpzBaseTesto},
+                                               {.casella = f.AltezzaTxt, .voce = kOpzAltezzaTesto},
+                                               {.casella = f.DistTxt, .voce = kOpzDistanzaTesto}};
+    for (const VoceOpzioni<CasellaTesto> &t : testi)
+        Cambia(t.casella.NomeControllo(), t.voce, 12.5, [&] { t.casella.Text = "12.5cm"; });
     for (const int colore : {9, 0, 4})
-        Cambia(f.LabelCol[colore].NomeControllo(), 12, colore, [&] { f.LabelCol[colore].Click(); });
-    Cambia("EvColNonSel", 5, 0, [&] { f.EvColNonSel.Seleziona(); });
-    Cambia("EvColSel", 5, 1, [&] { f.EvColSel.Seleziona(); });
+        Cambia(f.LabelCol[colore].NomeControllo(), kOpzColoreTesto, colore,
+               [&] { f.LabelCol[colore].Click(); });
+    Cambia("EvColNonSel", kOpzColoreSel, 0, [&] { f.EvColNonSel.Seleziona(); });
+    Cambia("EvColSel", kOpzColoreSel, 1, [&] { f.EvColSel.Seleziona(); });
 }
 
 TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {

@@ -73,7 +73,7 @@ TEST_P(PuntatoreAlPixel, CioCheEDisegnatoSiPrendeLi) {
         f.NodiAtt.Value = nodi;
         f.AsteAtt.Value = !nodi;
         Tipo(nodi ? kNodiTipo : kAsteTipo);
-        OpzInt[1] = nodi ? OpzioneNumero(kOpzRaggioNodo) + 1.5 : 1.5;
+        OpzInt[kOpzTrappola] = nodi ? OpzioneNumero(kOpzRaggioNodo) + 1.5 : 1.5;
         f.GusciAtt.Value = true;
         ConOgniVista([&] {
             for (int py = 0; py < d.AltezzaPixel(); py += 5)
@@ -160,7 +160,7 @@ TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
             MuoviPremuto(X(210), Y(205));
             EXPECT_EQ(Visto(0), prima) << caso.che << (mosso ? ", moved" : "");
             MuoviPremuto(X(215), Y(195));
-            EXPECT_EQ(Visto(0), prima + Pixel(5, -10)) << caso.che << (mosso ? ", moved" : "");
+            EXPECT_EQ(Visto(0), (prima + Pixel{5, -10})) << caso.che << (mosso ? ", moved" : "");
         }
 }
 

@@ -88,7 +88,7 @@ TEST_F(FunzDisegno, LaTernaNonSiSpostaCoiTagliDellaVista) {
     Adatta();
     const Superficie &dopo = Dipingi();
     EXPECT_TRUE(std::equal(prima.Riga(0), prima.Riga(prima.Altezza()), dopo.Riga(0)));
-    OpzInt[2] = 0;
+    OpzInt[kOpzLunghezzaAssi] = 0;
     EXPECT_EQ(Accesi(), 0) << "without lengths";
 }
 

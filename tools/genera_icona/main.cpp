@@ -20,9 +20,9 @@ namespace {
 
 using Byte = std::vector<char>;
 
-constexpr std::array LatiIco = {16, 20, 24, 32, 48, 64, 256};
-constexpr std::array LatiFoglio = {16, 20, 24, 32, 48};
-constexpr std::array<std::string_view, 13> Chiavi = {
+constexpr std::array kLatiIco = {16, 20, 24, 32, 48, 64, 256};
+constexpr std::array kLatiFoglio = {16, 20, 24, 32, 48};
+constexpr std::array<std::string_view, 13> kChiavi = {
     "AggiornaEsci", "Esci",    "Ottimizza",    "Zoom",       "Sposta",     "Ridisegna",
     "Aggiungi",     "Rimuovi", "RimuoviTutto", "InvertiSel", "Interrompi", "AggiungiBarraLat",
     "Telva"};
@@ -88,9 +88,9 @@ Byte FileIco() {
     Byte indice, voci;
     Metti(indice, 0, 2);
     Metti(indice, 1, 2);
-    Metti(indice, LatiIco.size(), 2);
-    const std::size_t inizio = indice.size() + 16 * LatiIco.size();
-    for (const int lato : LatiIco) {
+    Metti(indice, kLatiIco.size(), 2);
+    const std::size_t inizio = indice.size() + 16 * kLatiIco.size();
+    for (const int lato : kLatiIco) {
         const Byte voce = lato < 256 ? VoceBmp(lato) : VocePng(lato);
         for (int k = 0; k < 2; ++k) Metti(indice, static_cast<std::uint32_t>(lato % 256), 1);
         Metti(indice, 0, 2);
@@ -105,15 +105,15 @@ Byte FileIco() {
 }
 
 struct Foglio {
-    static constexpr int Ingrandimento = 4, Margine = 4;
+    static constexpr int kIngrandimento = 4, kMargine = 4;
     int larghezza, altezza;
     std::vector<std::uint32_t> pixel;
 
     void Incolla(std::string_view chiave, int lato, int x0, int y0) {
         const std::vector<std::uint32_t> icona = telva::DisegnaIcona(chiave, lato);
-        for (int y = 0; y < lato * Ingrandimento; ++y)
-            for (int x = 0; x < lato * Ingrandimento; ++x) {
-                const int da = y / Ingrandimento * lato + x / Ingrandimento;
+        for (int y = 0; y < lato * kIngrandimento; ++y)
+            for (int x = 0; x < lato * kIngrandimento; ++x) {
+                const int da = y / kIngrandimento * lato + x / kIngrandimento;
                 const std::uint32_t p = icona[static_cast<std::size_t>(da)];
                 auto &q = pixel[static_cast<std::size_t>((y0 + y) * larghezza + x0 + x)];
                 std::uint32_t nuovo = 0;
@@ -129,18 +129,18 @@ struct Foglio {
 // One row per size, twice: upper half on the light button face, lower half on a dark one.
 Byte FilePpm() {
     int altezza = 0;
-    for (const int lato : LatiFoglio) altezza += lato * Foglio::Ingrandimento + Foglio::Margine;
-    const int passo = LatiFoglio.back() * Foglio::Ingrandimento + Foglio::Margine;
-    Foglio foglio{passo * static_cast<int>(Chiavi.size()), 2 * altezza, {}};
+    for (const int lato : kLatiFoglio) altezza += lato * Foglio::kIngrandimento + Foglio::kMargine;
+    const int passo = kLatiFoglio.back() * Foglio::kIngrandimento + Foglio::kMargine;
+    Foglio foglio{passo * static_cast<int>(kChiavi.size()), 2 * altezza, {}};
     const auto meta = static_cast<std::size_t>(foglio.larghezza * altezza);
     foglio.pixel.assign(meta, 0xF0F0F0u);
     foglio.pixel.resize(2 * meta, 0x202020u);
     int y = 0;
     for (int giro = 0; giro < 2; ++giro)
-        for (const int lato : LatiFoglio) {
-            for (std::size_t k = 0; k < Chiavi.size(); ++k)
-                foglio.Incolla(Chiavi[k], lato, static_cast<int>(k) * passo, y);
-            y += lato * Foglio::Ingrandimento + Foglio::Margine;
+        for (const int lato : kLatiFoglio) {
+            for (std::size_t k = 0; k < kChiavi.size(); ++k)
+                foglio.Incolla(kChiavi[k], lato, static_cast<int>(k) * passo, y);
+            y += lato * Foglio::kIngrandimento + Foglio::kMargine;
         }
     const std::string testa = "P6\n" + std::to_string(foglio.larghezza) + " " +
                               std::to_string(foglio.altezza) + "\n255\n";

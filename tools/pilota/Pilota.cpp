@@ -14,9 +14,9 @@ namespace telva::prove {
 
 namespace {
 
-constexpr DWORD limiteMs = 60000;  // after this a step has failed, on the busiest machine too
-constexpr DWORD sondaggioMs = 3;   // between two looks at a condition
-constexpr ULONGLONG quieteMs = 40; // a window takes input safely after this long without a change
+constexpr DWORD kLimiteMs = 60000;  // after this a step has failed, on the busiest machine too
+constexpr DWORD kSondaggioMs = 3;   // between two looks at a condition
+constexpr ULONGLONG kQuieteMs = 40; // a window takes input safely after this long without a change
 
 std::wstring Classe(HWND finestra) {
     std::array<wchar_t, 256> nome{};
@@ -55,7 +55,7 @@ void OgniFinestra(F visita, HWND madre = nullptr) {
 
 LRESULT Chiedi(HWND finestra, UINT messaggio, WPARAM w = 0, LPARAM l = 0) {
     DWORD_PTR esito = 0;
-    if (!SendMessageTimeoutW(finestra, messaggio, w, l, SMTO_NORMAL, limiteMs, &esito) &&
+    if (!SendMessageTimeoutW(finestra, messaggio, w, l, SMTO_NORMAL, kLimiteMs, &esito) &&
         GetLastError() == ERROR_TIMEOUT)
         Fallisci("'" + Titolo(finestra) + "' gives no answer to message " +
                  std::to_string(messaggio));
@@ -124,12 +124,12 @@ DWORD ContaGdi(HANDLE processo) {
         UCHAR tipo, bandiere;
         ULONG64 utente;
     };
-    constexpr std::size_t tabellaNelPeb = 0xF8;
+    constexpr std::size_t kTabellaNelPeb = 0xF8;
     std::vector<Voce> voci(65536);
     PROCESS_BASIC_INFORMATION info{};
     void *tabella = nullptr;
     if (NtQueryInformationProcess(processo, ProcessBasicInformation, &info, sizeof info, nullptr) ||
-        !ReadProcessMemory(processo, reinterpret_cast<char *>(info.PebBaseAddress) + tabellaNelPeb,
+        !ReadProcessMemory(processo, reinterpret_cast<char *>(info.PebBaseAddress) + kTabellaNelPeb,
                            &tabella, sizeof tabella, nullptr) ||
         !ReadProcessMemory(processo, tabella, voci.data(), voci.size() * sizeof(Voce), nullptr))
         Fallisci("the GDI objects cannot be counted");
@@ -166,13 +166,13 @@ Programma::Programma(const std::wstring &eseguibile, const std::wstring &argomen
 Programma::~Programma() {
     if (!Finito()) {
         TerminateProcess(processo_, 99);
-        WaitForSingleObject(processo_, limiteMs);
+        WaitForSingleObject(processo_, kLimiteMs);
     }
     CloseHandle(processo_);
 }
 
 DWORD Programma::AttendiFine() {
-    if (WaitForSingleObject(processo_, limiteMs) != WAIT_OBJECT_0)
+    if (WaitForSingleObject(processo_, kLimiteMs) != WAIT_OBJECT_0)
         Fallisci("waited a minute for the end of the program; saw " + Stato());
     DWORD codice = 0;
     GetExitCodeProcess(processo_, &codice);
@@ -210,7 +210,7 @@ std::string Programma::Stato() const {
 
 void Programma::Aspetta(const std::string &cosa, const std::function<bool()> &fatto,
                         const std::function<std::string()> &visto) const {
-    for (const ULONGLONG fine = GetTickCount64() + limiteMs;; Sleep(sondaggioMs)) {
+    for (const ULONGLONG fine = GetTickCount64() + kLimiteMs;; Sleep(kSondaggioMs)) {
         const bool finito = Finito(); // asked first, so that what the end brings about still counts
         if (fatto()) return;
         if (finito || GetTickCount64() > fine)
@@ -219,10 +219,10 @@ void Programma::Aspetta(const std::string &cosa, const std::function<bool()> &fa
 }
 
 bool Programma::InMenu() const {
-    constexpr DWORD menu = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE;
+    constexpr DWORD kMenu = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE;
     const auto cime = Cime();
     return std::any_of(cime.begin(), cime.end(), [](HWND f) {
-        return (Filo(f).flags & menu) != 0 || Classe(f) == L"#32768";
+        return (Filo(f).flags & kMenu) != 0 || Classe(f) == L"#32768";
     });
 }
 
@@ -250,7 +250,7 @@ void Programma::Stabile(HWND finestra) {
             visto = ora;
             da = tempo;
         }
-        return visto && tempo - da >= quieteMs;
+        return visto && tempo - da >= kQuieteMs;
     });
     Smaltisci(visto); // what its opening still had to do is done
     stabile_ = visto;
