@@ -9,7 +9,7 @@ namespace telva::generatore {
 class Casuale {
   public:
     // From this place of the one sequence on.
-    explicit Casuale(std::uint64_t inizio) : Stato(1 + inizio * kPasso) {}
+    explicit Casuale(std::uint64_t inizio) : stato_(1 + inizio * kPasso) {}
 
     // An integer da..a, both included.
     int Intero(int da, int a) {
@@ -21,13 +21,13 @@ class Casuale {
 
     // Next 64 random bits (SplitMix64).
     std::uint64_t Prossimo() {
-        std::uint64_t z = Stato += kPasso;
+        std::uint64_t z = stato_ += kPasso;
         z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9ULL;
         z = (z ^ (z >> 27U)) * 0x94D049BB133111EBULL;
         return z ^ (z >> 31U);
     }
 
-    std::uint64_t Stato;
+    std::uint64_t stato_;
 };
 
 } // namespace telva::generatore

@@ -25,149 +25,149 @@ using Pianta = Fila<Coppia>; // points in plan
 // b of main lines, k of levels, which are the storeys below them too.
 class Muratore {
   public:
-    explicit Muratore(const Maglia &maglia) : M(maglia), Piani(M.Quote.Quanti() - 1) {}
+    explicit Muratore(const Maglia &maglia) : m_(maglia), piani_(m_.Quote.Quanti() - 1) {}
 
     Edificio Costruisci() {
         Cordoli();
-        for (int k = 1; k <= Piani; ++k) {
+        for (int k = 1; k <= piani_; ++k) {
             Pilastri(k);
             Travi(k);
             Solaio(k);
         }
-        for (const auto &[a, b] : M.Nuclei) Nucleo(FX[a], FY[b], FX[a + 1], FY[b + 1]);
+        for (const auto &[a, b] : m_.Nuclei) Nucleo(fx_[a], fy_[b], fx_[a + 1], fy_[b + 1]);
         Controventi();
-        const int travi = E.Aste.Quanti();
+        const int travi = e_.Aste.Quanti();
         Secondarie();
-        if (M.Dettagli) {
+        if (m_.Dettagli) {
             Torre();
             Balconi();
             PareteDiTaglio();
         } else {
-            E.Secondarie = E.Aste.StaccaDa(travi);
+            e_.Secondarie = e_.Aste.StaccaDa(travi);
         }
         const Fila<LineaFalda> linee = LineeFalda();
         Puntoni(linee);
         Falde(linee);
-        const int gusci = E.Gusci.Quanti();
+        const int gusci = e_.Gusci.Quanti();
         Tramezzi();
-        E.Tramezzi = E.Gusci.StaccaDa(gusci);
-        return E;
+        e_.Tramezzi = e_.Gusci.StaccaDa(gusci);
+        return e_;
     }
 
   private:
     // The corner bay between the last X line and the first Y line is cut along its diagonal.
-    int Smusso() const { return FX[FX.Quanti() - 2]; }
-    bool Presente(int i, int j) const { return i <= Smusso() || j >= FY[1] || i - Smusso() <= j; }
+    int Smusso() const { return fx_[fx_.Quanti() - 2]; }
+    bool Presente(int i, int j) const { return i <= Smusso() || j >= fy_[1] || i - Smusso() <= j; }
 
     Posto Punto(int i, int j, int k) const {
         if (!Presente(i, j)) return {};
-        return Posizione{LX[i].Quota, LY[j].Quota, M.Quote[k]};
+        return Posizione{lx_[i].Quota, ly_[j].Quota, m_.Quote[k]};
     }
     // Where main lines cross.
-    Posto Filo(int a, int b, int k) const { return Punto(FX[a], FY[b], k); }
+    Posto Filo(int a, int b, int k) const { return Punto(fx_[a], fy_[b], k); }
 
     bool InNucleo(int i, int j) const {
-        return std::ranges::count(M.Nuclei, std::array{LX[i].Campata, LY[j].Campata}) > 0;
+        return std::ranges::count(m_.Nuclei, std::array{lx_[i].Campata, ly_[j].Campata}) > 0;
     }
 
     // Ground beams: on the outline only under the small building.
     void Cordoli() {
         const auto corre = [this](int filo, const Fila<int> &fili) {
-            return !M.Dettagli || filo == 0 || filo + 1 == fili.Quanti();
+            return !m_.Dettagli || filo == 0 || filo + 1 == fili.Quanti();
         };
-        for (int b = 0; b < FY.Quanti(); ++b)
-            for (int a = 0; a + 1 < FX.Quanti() && corre(b, FY); ++a)
-                E.Metti(kCordolo, Filo(a, b, 0), Filo(a + 1, b, 0), {0, -1, b});
-        for (int a = 0; a < FX.Quanti(); ++a)
-            for (int b = 0; b + 1 < FY.Quanti() && corre(a, FX); ++b)
-                E.Metti(kCordolo, Filo(a, b, 0), Filo(a, b + 1, 0), {0, a, -1});
-        E.Metti(kCordolo, Punto(Smusso(), 0, 0), Punto(FX.back(), FY[1], 0), {0});
+        for (int b = 0; b < fy_.Quanti(); ++b)
+            for (int a = 0; a + 1 < fx_.Quanti() && corre(b, fy_); ++a)
+                e_.Metti(kCordolo, Filo(a, b, 0), Filo(a + 1, b, 0), {0, -1, b});
+        for (int a = 0; a < fx_.Quanti(); ++a)
+            for (int b = 0; b + 1 < fy_.Quanti() && corre(a, fx_); ++b)
+                e_.Metti(kCordolo, Filo(a, b, 0), Filo(a, b + 1, 0), {0, a, -1});
+        e_.Metti(kCordolo, Punto(Smusso(), 0, 0), Punto(fx_.back(), fy_[1], 0), {0});
     }
 
     void Pilastri(int k) {
-        for (int b = 0; b < FY.Quanti(); ++b)
-            for (int a = 0; a < FX.Quanti(); ++a) {
+        for (int b = 0; b < fy_.Quanti(); ++b)
+            for (int a = 0; a < fx_.Quanti(); ++a) {
                 TipoAsta tipo = kPilastro;
                 tipo.Orientamento += (a + b) % 2;
-                if (M.Dettagli && k > 3) tipo.Sezione = kSezionePilastroLeggero;
-                E.Metti(tipo, Filo(a, b, k - 1), Filo(a, b, k), {k, a, b});
+                if (m_.Dettagli && k > 3) tipo.Sezione = kSezionePilastroLeggero;
+                e_.Metti(tipo, Filo(a, b, k - 1), Filo(a, b, k), {k, a, b});
             }
     }
 
     void Travi(int k) {
-        for (const int j : FY)
-            for (int i = 0; i + 1 < LX.Quanti(); ++i)
-                E.Metti(kTraveX, Punto(i, j, k), Punto(i + 1, j, k),
-                        {k, LX[i].Campata, LY[j].Filo});
-        for (const int i : FX)
-            for (int j = 0; j + 1 < LY.Quanti(); ++j)
-                if (M.Dettagli && i == 0 && LY[j].Campata == 1)
+        for (const int j : fy_)
+            for (int i = 0; i + 1 < lx_.Quanti(); ++i)
+                e_.Metti(kTraveX, Punto(i, j, k), Punto(i + 1, j, k),
+                         {k, lx_[i].Campata, ly_[j].Filo});
+        for (const int i : fx_)
+            for (int j = 0; j + 1 < ly_.Quanti(); ++j)
+                if (m_.Dettagli && i == 0 && ly_[j].Campata == 1)
                     TraveConPorta(k);
                 else
-                    E.Metti(kTraveY, Punto(i, j, k), Punto(i, j + 1, k),
-                            {k, LX[i].Filo, LY[j].Campata});
-        for (int j = 0, i = Smusso(); j < FY[1]; ++j, ++i)
-            E.Metti(kSmusso, Punto(i, j, k), Punto(i + 1, j + 1, k), {k});
+                    e_.Metti(kTraveY, Punto(i, j, k), Punto(i, j + 1, k),
+                             {k, lx_[i].Filo, ly_[j].Campata});
+        for (int j = 0, i = Smusso(); j < fy_[1]; ++j, ++i)
+            e_.Metti(kSmusso, Punto(i, j, k), Punto(i + 1, j + 1, k), {k});
     }
 
     // The beam in front of the lift tower is split where the door jambs stand.
     void TraveConPorta(int k) {
         const Pianta porta = PortaTorre();
         for (int p = 0; p + 1 < porta.Quanti(); ++p)
-            E.Metti(kTraveY, Su(porta[p], M.Quote[k]), Su(porta[p + 1], M.Quote[k]), {k, 0, 1});
+            e_.Metti(kTraveY, Su(porta[p], m_.Quote[k]), Su(porta[p + 1], m_.Quote[k]), {k, 0, 1});
     }
 
     void Solaio(int k) {
         const auto inMezzo = [](const Fila<Linea> &linee, int i) {
             return linee[i].Filo < 0 && linee[i + 1].Filo < 0;
         };
-        for (int j = 0; j + 1 < LY.Quanti(); ++j)
-            for (int i = 0; i + 1 < LX.Quanti(); ++i) {
+        for (int j = 0; j + 1 < ly_.Quanti(); ++j)
+            for (int i = 0; i + 1 < lx_.Quanti(); ++i) {
                 if (InNucleo(i, j)) continue;
-                if (inMezzo(LX, i) && inMezzo(LY, j) && Presente(i + 1, j))
-                    E.Cavedi.push_back(E.Gusci.Quanti());
-                E.Metti(kSolai[static_cast<std::size_t>((k - 1) % 3)],
-                        {Punto(i, j, k), Punto(i + 1, j, k), Punto(i + 1, j + 1, k),
-                         Punto(i, j + 1, k)},
-                        k);
+                if (inMezzo(lx_, i) && inMezzo(ly_, j) && Presente(i + 1, j))
+                    e_.Cavedi.push_back(e_.Gusci.Quanti());
+                e_.Metti(kSolai[static_cast<std::size_t>((k - 1) % 3)],
+                         {Punto(i, j, k), Punto(i + 1, j, k), Punto(i + 1, j + 1, k),
+                          Punto(i, j + 1, k)},
+                         k);
             }
     }
 
     void Controventi() {
-        const int x = FX.Quanti() - 1, y = FY.Quanti() - 1; // the last lines
-        for (int k = 1; k <= Piani; ++k) {
+        const int x = fx_.Quanti() - 1, y = fy_.Quanti() - 1; // the last lines
+        for (int k = 1; k <= piani_; ++k) {
             Croce({0, 0}, {1, 0}, k);
             Croce({1, y}, {2, y}, k);
             Croce({x, y / 2}, {x, y / 2 + 1}, k);
-            if (!M.Dettagli) Croce({0, y / 2}, {0, y / 2 + 1}, k);
+            if (!m_.Dettagli) Croce({0, y / 2}, {0, y / 2 + 1}, k);
         }
     }
 
     // Two crossing diagonals between two columns.
     void Croce(const Coppia &p, const Coppia &q, int k) {
-        E.Metti(kControvento, Filo(p[0], p[1], k - 1), Filo(q[0], q[1], k), {k});
-        E.Metti(kControvento, Filo(q[0], q[1], k - 1), Filo(p[0], p[1], k), {k});
+        e_.Metti(kControvento, Filo(p[0], p[1], k - 1), Filo(q[0], q[1], k), {k});
+        e_.Metti(kControvento, Filo(q[0], q[1], k - 1), Filo(p[0], p[1], k), {k});
     }
 
     void Secondarie() {
-        for (int j = 0; j < LY.Quanti(); ++j)
-            for (int k = 1; k <= Piani && LY[j].Filo < 0; ++k)
-                for (int i = 0; i + 1 < LX.Quanti(); ++i)
+        for (int j = 0; j < ly_.Quanti(); ++j)
+            for (int k = 1; k <= piani_ && ly_[j].Filo < 0; ++k)
+                for (int i = 0; i + 1 < lx_.Quanti(); ++i)
                     if (!InNucleo(i, j))
-                        E.Metti(kSecondaria, Punto(i, j, k), Punto(i + 1, j, k), {k});
+                        e_.Metti(kSecondaria, Punto(i, j, k), Punto(i + 1, j, k), {k});
     }
 
     void Tramezzi() {
-        for (int k = 2; k <= Piani; ++k)
-            for (int b = 1; b + 1 < FY.Quanti(); ++b)
-                for (int i = 0, j = FY[b]; i + 1 < LX.Quanti(); ++i)
+        for (int k = 2; k <= piani_; ++k)
+            for (int b = 1; b + 1 < fy_.Quanti(); ++b)
+                for (int i = 0, j = fy_[b]; i + 1 < lx_.Quanti(); ++i)
                     if (!InNucleo(i, j) && !InNucleo(i, j - 1)) // no wall of a core there
                         Parete(kGuscioNascosto, Lato(i, j, i + 1, j), k);
     }
 
     // Of a level; the one above the last floor is the top of the lift tower.
     int Quota(int k) const {
-        return k <= Piani ? M.Quote[k] : M.Quote.back() + M.AltezzaColmo + kExtraCorsa;
+        return k <= piani_ ? m_.Quote[k] : m_.Quote.back() + m_.AltezzaColmo + kExtraCorsa;
     }
 
     static Posizione Su(const Coppia &inPianta, int quota) {
@@ -179,18 +179,18 @@ class Muratore {
         const int z0 = Quota(k - 1), z1 = Quota(k);
         for (int p = 0; p + 1 < pianta.Quanti(); ++p) {
             const Coppia &da = pianta[p], &a = pianta[p + 1];
-            E.Metti(tipo, {Su(da, z0), Su(a, z0), Su(a, z1), Su(da, z1)}, k);
+            e_.Metti(tipo, {Su(da, z0), Su(a, z0), Su(a, z1), Su(da, z1)}, k);
         }
     }
 
     // Four points in plan: wall, door, wall. The triangles beside the door spare the outer edges,
     // shared with the walls around the corner, a node at the height of the lintel.
     void PareteConPorta(const Pianta &pianta, int k) {
-        const int z0 = M.Quote[k - 1], z1 = M.Quote[k], zp = z0 + kAltezzaPorta;
+        const int z0 = m_.Quote[k - 1], z1 = m_.Quote[k], zp = z0 + kAltezzaPorta;
         const auto nucleo = [&](const Fila<Coppia> &angoli) { // each a point and its height
             Fila<Posto> punti;
             for (const auto &[p, z] : angoli) punti.push_back(Su(pianta[p], z));
-            E.Metti(kNucleo, punti, k);
+            e_.Metti(kNucleo, punti, k);
         };
         for (const auto &[fuori, dentro] : {Coppia{0, 1}, Coppia{3, 2}}) {
             nucleo({{fuori, z0}, {dentro, z0}, {dentro, zp}});
@@ -204,12 +204,12 @@ class Muratore {
     Pianta Lato(int i0, int j0, int i1, int j1) const {
         Pianta punti;
         for (int i = i0; i <= i1; ++i)
-            for (int j = j0; j <= j1; ++j) punti.push_back({LX[i].Quota, LY[j].Quota});
+            for (int j = j0; j <= j1; ++j) punti.push_back({lx_[i].Quota, ly_[j].Quota});
         return punti;
     }
 
     void Nucleo(int i0, int j0, int i1, int j1) {
-        for (int k = 1; k <= Piani; ++k) {
+        for (int k = 1; k <= piani_; ++k) {
             PareteConPorta(Lato(i0, j0, i1, j0), k);
             Parete(kNucleo, Lato(i0, j1, i1, j1), k);
             Parete(kNucleo, Lato(i0, j0, i0, j1), k);
@@ -219,20 +219,20 @@ class Muratore {
 
     // Where the lift tower touches the building: wall, door, wall.
     Pianta PortaTorre() const {
-        const int da = M.Y.Quota(1), a = M.Y.Quota(2), mezzo = (da + a) / 2;
+        const int da = m_.Y.Quota(1), a = m_.Y.Quota(2), mezzo = (da + a) / 2;
         return {{0, da}, {0, mezzo - 60 * kCm}, {0, mezzo + 60 * kCm}, {0, a}};
     }
 
     void Torre() {
-        const int y0 = M.Y.Quota(1), y1 = M.Y.Quota(2);
+        const int y0 = m_.Y.Quota(1), y1 = m_.Y.Quota(2);
         const int lontano = -kLarghezzaTorre, mezzo = lontano / 2;
         const Pianta guscio{{0, y0},       {mezzo, y0}, {lontano, y0}, {lontano, (y0 + y1) / 2},
                             {lontano, y1}, {mezzo, y1}, {0, y1}};
-        for (int k = 1; k <= Piani; ++k) {
+        for (int k = 1; k <= piani_; ++k) {
             Parete(kNucleo, guscio, k);
             PareteConPorta(PortaTorre(), k);
         }
-        const int k = Piani + 1, z = Quota(k);
+        const int k = piani_ + 1, z = Quota(k);
         Parete(kNucleo, guscio, k);
         Parete(kNucleo, PortaTorre(), k);
         Piano(kCopertina, {lontano, y0, z}, {0, y1, z}, k);
@@ -240,86 +240,86 @@ class Muratore {
 
     // A horizontal panel between two opposite corners.
     void Piano(const TipoGuscio &tipo, const Posizione &p, const Posizione &q, int piano) {
-        E.Metti(tipo, {p, Posizione{q.X, p.Y, p.Z}, q, Posizione{p.X, q.Y, p.Z}}, piano);
+        e_.Metti(tipo, {p, Posizione{q.X, p.Y, p.Z}, q, Posizione{p.X, q.Y, p.Z}}, piano);
     }
 
     // The last floor has none: the eaves are there.
     void Balconi() {
-        for (int k = 2; k < Piani; ++k) {
+        for (int k = 2; k < piani_; ++k) {
             const auto bordo = [this, k](int a, int y) {
-                return Posizione{M.X.Quota(a), y, M.Quote[k]};
+                return Posizione{m_.X.Quota(a), y, m_.Quote[k]};
             };
-            for (int a = 1; a <= 3; ++a) E.Metti(kMensola, bordo(a, 0), bordo(a, -kSbalzo), {k});
+            for (int a = 1; a <= 3; ++a) e_.Metti(kMensola, bordo(a, 0), bordo(a, -kSbalzo), {k});
             for (int a = 1; a <= 2; ++a) {
-                E.Metti(kSecondaria, bordo(a, -kSbalzo), bordo(a + 1, -kSbalzo), {k});
+                e_.Metti(kSecondaria, bordo(a, -kSbalzo), bordo(a + 1, -kSbalzo), {k});
                 Piano(kBalcone, bordo(a, -kSbalzo), bordo(a + 1, 0), k);
             }
         }
     }
 
     void PareteDiTaglio() {
-        for (int k = 1; k <= Piani; ++k)
-            Parete(kParete, Lato(FX[2], FY.back(), FX[3], FY.back()), k);
+        for (int k = 1; k <= piani_; ++k)
+            Parete(kParete, Lato(fx_[2], fy_.back(), fx_[3], fy_.back()), k);
     }
 
     // Y of the ridge: the middle line, or half-way between the two middle ones.
     int Colmo() const {
-        const int fili = FY.Quanti();
-        return (M.Y.Quota((fili - 1) / 2) + M.Y.Quota(fili / 2)) / 2;
+        const int fili = fy_.Quanti();
+        return (m_.Y.Quota((fili - 1) / 2) + m_.Y.Quota(fili / 2)) / 2;
     }
 
     // Lines of the roof from front eaves to back eaves; the ridge gets its own when no main line
     // runs in the middle.
     Fila<LineaFalda> LineeFalda() const {
-        Fila<LineaFalda> linee{{M.Y.Quota(0) - kSporto, 0}};
-        for (int b = 0; b < FY.Quanti(); ++b) {
-            if (2 * b == FY.Quanti()) linee.push_back({Colmo(), FY[b]});
-            linee.push_back({M.Y.Quota(b), FY[b]});
+        Fila<LineaFalda> linee{{m_.Y.Quota(0) - kSporto, 0}};
+        for (int b = 0; b < fy_.Quanti(); ++b) {
+            if (2 * b == fy_.Quanti()) linee.push_back({Colmo(), fy_[b]});
+            linee.push_back({m_.Y.Quota(b), fy_[b]});
         }
-        linee.push_back({M.Y.Fine() + kSporto, FY.back()});
+        linee.push_back({m_.Y.Fine() + kSporto, fy_.back()});
         return linee;
     }
 
     // Where a main line along Y crosses a line of the roof.
     Posto InFalda(int a, const LineaFalda &linea) const {
-        if (!Presente(FX[a], linea.J)) return {};
+        if (!Presente(fx_[a], linea.J)) return {};
         const std::int64_t colmo = Colmo();
-        const std::int64_t gronda = linea.Y <= colmo ? M.Y.Quota(0) : M.Y.Fine();
-        const std::int64_t salita = M.AltezzaColmo * (linea.Y - gronda) / (colmo - gronda);
-        return Posizione{M.X.Quota(a), linea.Y, M.Quote.back() + static_cast<int>(salita)};
+        const std::int64_t gronda = linea.Y <= colmo ? m_.Y.Quota(0) : m_.Y.Fine();
+        const std::int64_t salita = m_.AltezzaColmo * (linea.Y - gronda) / (colmo - gronda);
+        return Posizione{m_.X.Quota(a), linea.Y, m_.Quote.back() + static_cast<int>(salita)};
     }
 
     void Puntoni(const Fila<LineaFalda> &linee) {
-        const int k = Piani + 1, ultimo = FX.Quanti() - 1;
+        const int k = piani_ + 1, ultimo = fx_.Quanti() - 1;
         for (int a = 0; a <= ultimo; ++a) {
             for (int l = 0; l + 1 < linee.Quanti(); ++l)
-                E.Metti(kPuntone, InFalda(a, linee[l]), InFalda(a, linee[l + 1]), {k, a, -1});
-            for (int b = 1; b + 1 < FY.Quanti(); ++b)
-                E.Metti(kMonaco, Filo(a, b, Piani), InFalda(a, {M.Y.Quota(b), FY[b]}), {k});
+                e_.Metti(kPuntone, InFalda(a, linee[l]), InFalda(a, linee[l + 1]), {k, a, -1});
+            for (int b = 1; b + 1 < fy_.Quanti(); ++b)
+                e_.Metti(kMonaco, Filo(a, b, piani_), InFalda(a, {m_.Y.Quota(b), fy_[b]}), {k});
         }
         // the hip over the chamfer
-        E.Metti(kPuntone, InFalda(ultimo - 1, linee[1]), InFalda(ultimo, linee[2]), {k});
+        e_.Metti(kPuntone, InFalda(ultimo - 1, linee[1]), InFalda(ultimo, linee[2]), {k});
     }
 
     // Purlins, and panels between them. The outer lines have the beams of the last floor instead.
     void Falde(const Fila<LineaFalda> &linee) {
-        const int ultima = linee.Quanti() - 1, piano = Piani + 1;
+        const int ultima = linee.Quanti() - 1, piano = piani_ + 1;
         for (int l = 0; l <= ultima; ++l)
-            for (int a = 0; a + 1 < FX.Quanti(); ++a) {
+            for (int a = 0; a + 1 < fx_.Quanti(); ++a) {
                 const Posto p = InFalda(a, linee[l]), q = InFalda(a + 1, linee[l]);
-                if (l != 1 && l != ultima - 1) E.Metti(kArcareccio, p, q, {piano, -1, l});
+                if (l != 1 && l != ultima - 1) e_.Metti(kArcareccio, p, q, {piano, -1, l});
                 if (l == ultima) continue;
                 const bool vetro = (a + l) % 4 == 3 && l > 0 && l < ultima - 1;
                 const Posto s = InFalda(a, linee[l + 1]), r = InFalda(a + 1, linee[l + 1]);
-                E.Metti(vetro ? kLucernario : kFalda, {p, q, r, s}, piano);
+                e_.Metti(vetro ? kLucernario : kFalda, {p, q, r, s}, piano);
             }
     }
 
-    const Maglia &M;
-    Edificio E;
-    const Fila<Linea> &LX = M.X.Linee, &LY = M.Y.Linee;
-    const Fila<int> &FX = M.X.Fili, &FY = M.Y.Fili;
-    int Piani;
+    const Maglia &m_;
+    Edificio e_;
+    const Fila<Linea> &lx_ = m_.X.Linee, &ly_ = m_.Y.Linee;
+    const Fila<int> &fx_ = m_.X.Fili, &fy_ = m_.Y.Fili;
+    int piani_;
 };
 
 } // namespace

@@ -76,12 +76,12 @@ class Edificio {
   private:
     // Index of the node at this position, made when there is none.
     int IndiceNodo(const Posizione &p) {
-        const auto [posto, nuovo] = Indici.try_emplace(p, Nodi.Quanti());
+        const auto [posto, nuovo] = indici_.try_emplace(p, Nodi.Quanti());
         if (nuovo) Nodi.push_back(p);
         return posto->second;
     }
 
-    std::map<Posizione, int> Indici;
+    std::map<Posizione, int> indici_;
 };
 
 Edificio Costruisci(const Maglia &maglia);

@@ -19,24 +19,24 @@ namespace fs = std::filesystem;
 class Testo {
   public:
     Testo(std::initializer_list<std::string> righe = {}) {
-        Flusso << std::fixed << std::setprecision(2);
+        flusso_ << std::fixed << std::setprecision(2);
         for (const std::string &riga : righe) Riga(riga);
     }
 
     // One line of all these, UTF-8 or numbers; those with a fraction get two decimals.
     template <class... Parti>
     void Riga(const Parti &...parti) {
-        (Flusso << ... << parti) << "\r\n";
+        (flusso_ << ... << parti) << "\r\n";
     }
 
     // Right-aligned integers on one line.
     void Interi(std::initializer_list<int> valori) {
-        for (const int valore : valori) Flusso << std::setw(7) << valore;
+        for (const int valore : valori) flusso_ << std::setw(7) << valore;
         Riga();
     }
 
     void Coordinate(const Posizione &p) {
-        for (const int valore : {p.X, p.Y, p.Z}) Flusso << std::setw(11) << valore / 100.0;
+        for (const int valore : {p.X, p.Y, p.Z}) flusso_ << std::setw(11) << valore / 100.0;
         Riga();
     }
 
@@ -44,7 +44,7 @@ class Testo {
 
     void Scrivi(const fs::path &file) const {
         std::ofstream uscita(file, std::ios::binary | std::ios::trunc);
-        uscita << AWindows1252(Flusso.str());
+        uscita << AWindows1252(flusso_.str());
         uscita.close();
         if (!uscita) throw std::runtime_error("impossibile scrivere " + file.string());
     }
@@ -53,7 +53,7 @@ class Testo {
     }
 
   private:
-    std::ostringstream Flusso;
+    std::ostringstream flusso_;
 };
 
 struct Spessore {
