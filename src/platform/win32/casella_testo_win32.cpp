@@ -88,7 +88,7 @@ LRESULT CALLBACK CasellaTestoWin32::Procedura(HWND hwnd, UINT messaggio, WPARAM 
 void CasellaTestoWin32::CentraTesto(const RECT &esterna, RECT &interna) const {
     RECT testo{};
     SendMessageW(hwnd_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&testo));
-    const LONG riga = AltezzaRiga(hwnd_, finestra_.Font(Carattere::Normale));
+    const LONG riga = AltezzaRiga(hwnd_, finestra_.Font(StileFont::Normale));
     const LONG mezzo = (esterna.bottom - esterna.top) / 2 - riga / 2; // as DrawText reckons
     interna.top = std::max(interna.top, esterna.top + mezzo - testo.top);
 }
