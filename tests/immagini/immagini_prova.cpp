@@ -262,20 +262,6 @@ TEST_F(Immagini, NodiDiOgniRaggio) {
     ConfrontaImmagine(pila, "nodi");
 }
 
-TEST_F(Immagini, TernaDegliAssi) {
-    Apri(Telaio());
-    FormTelva.NodiAtt.Value = FormTelva.AsteAtt.Value = FormTelva.GusciAtt.Value = false;
-    Misura(130, 110);
-    const char *const viste[][3] = {{"0", "0", "0"}, {"90", "0", "0"}, {"20", "-40", "110"}};
-    Superficie pila;
-    for (const auto &[a, b, c] : viste) {
-        Angoli(a, b, c);
-        ASSERT_TRUE(ProiettaNodi());
-        Impila(pila, Dipingi());
-    }
-    ConfrontaImmagine(pila, "assi");
-}
-
 TEST_F(Immagini, Etichette) {
     ApriTelaio();
     const std::pair<const char *, int> generi[] = {{"etichette_nodi", kOpzTestiNodi},

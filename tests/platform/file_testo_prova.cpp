@@ -2,6 +2,7 @@
 
 #include "platform/numeri.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace telva::prove {
@@ -153,28 +154,15 @@ TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
 }
 
 TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {
-    struct {
-        const char *testo;
-        double valore;
-    } constexpr kNumeri[] = {{.testo = "00012", .valore = 12},
-                             {.testo = "+7", .valore = 7},
-                             {.testo = "-7", .valore = -7},
-                             {.testo = ".5", .valore = 0.5},
-                             {.testo = "5.", .valore = 5},
-                             {.testo = "-0.1", .valore = -0.1},
-                             {.testo = "123456789012345", .valore = 123456789012345},
-                             {.testo = "1234567890123456", .valore = 1234567890123456},
-                             {.testo = "9007199254740993", .valore = 9007199254740992},
-                             {.testo = "123456789.012345", .valore = 123456789.012345},
-                             {.testo = "0.30000000000000004", .valore = 0.30000000000000004},
-                             {.testo = "1.5D2", .valore = 150},
-                             {.testo = "1e3", .valore = 1000}};
-    for (const auto &n : kNumeri) {
-        FileTesto file = Aperto(n.testo);
+    for (const char *testo :
+         {"00012", "+7", "-7", ".5", "5.", "-0.1", "123456789012345", "1234567890123456",
+          "9007199254740993", "123456789.012345", "0.30000000000000004", "1.5e2"}) {
+        FileTesto file = Aperto(testo);
         double letto = -1;
-        EXPECT_EQ(file.LeggiNumero(letto), Lettura::Riuscita) << n.testo;
-        EXPECT_EQ(letto, n.valore) << n.testo;
+        EXPECT_EQ(file.LeggiNumero(letto), Lettura::Riuscita) << testo;
+        EXPECT_EQ(letto, std::strtod(testo, nullptr)) << testo;
     }
+    EXPECT_EQ(Numeri("1.5D2"), Elenco{"150 @1"});
 }
 
 TEST(FileTesto, SaltareUnValoreLoSaltaIntero) {

@@ -13,26 +13,20 @@ TEST(Numeri, ValoreNumericoLeggeIlPrefissoENumeroStrettoSoloIlTuttoNumero) {
     };
     for (const Caso &c : {Caso{.testo = "", .prefisso = 0, .tuttoNumero = false},
                           {.testo = "-", .prefisso = 0, .tuttoNumero = false},
-                          {.testo = ".", .prefisso = 0, .tuttoNumero = false},
                           {.testo = "nan", .prefisso = 0, .tuttoNumero = false},
                           {.testo = "+-1", .prefisso = 0, .tuttoNumero = false},
                           {.testo = "12", .prefisso = 12, .tuttoNumero = true},
                           {.testo = " 12.5\t", .prefisso = 12.5, .tuttoNumero = true},
-                          {.testo = "-7", .prefisso = -7, .tuttoNumero = true},
                           {.testo = "-.5", .prefisso = -0.5, .tuttoNumero = true},
                           {.testo = "1d3", .prefisso = 1000, .tuttoNumero = true},
                           {.testo = "1D+2", .prefisso = 100, .tuttoNumero = true},
-                          {.testo = "+1D2", .prefisso = 100, .tuttoNumero = true},
                           {.testo = "2e+", .prefisso = 2, .tuttoNumero = false},
-                          {.testo = "12abc", .prefisso = 12, .tuttoNumero = false},
                           {.testo = "1 2\t3", .prefisso = 123, .tuttoNumero = false},
                           {.testo = "- .5x", .prefisso = -0.5, .tuttoNumero = false},
                           {.testo = "0x10", .prefisso = 0, .tuttoNumero = false},
                           {.testo = "1,5", .prefisso = 1, .tuttoNumero = false},
-                          {.testo = "1.2.3", .prefisso = 1.2, .tuttoNumero = false},
                           {.testo = "1e-400", .prefisso = 0, .tuttoNumero = true},
                           {.testo = "1e999", .prefisso = kMassimo, .tuttoNumero = false},
-                          {.testo = "-1e999", .prefisso = -kMassimo, .tuttoNumero = false},
                           {.testo = "1e-99999999999", .prefisso = 0, .tuttoNumero = true}}) {
         EXPECT_EQ(ValoreNumerico(c.testo), c.prefisso) << "prefix of \"" << c.testo << '"';
         const std::optional<double> stretto = NumeroStretto(c.testo);

@@ -193,41 +193,4 @@ TEST_F(LettereProva, LeLettereTimbrateSonoQuelleTracciate) {
     StampateComeTracciate(base, "another font");
 }
 
-// The lit pixels of a digit that begins at a fraction of a pixel.
-struct CifrePiccole : LettereProva {
-    static constexpr int kLato = 14;
-    using Forma = std::array<std::array<bool, kLato>, kLato>;
-
-    Forma Scritta(char cifra, int fase) {
-        const double x = 3 + fase % 4 / 4.0, y = 189 + fase / 4 / 4.0;
-        const std::string testo(1, cifra);
-        const Superficie s = Disegnata(
-            {.testo = testo.c_str(), .x = x, .y = y, .angolo = 0, .base = 6, .altezza = 8});
-        Forma forma;
-        for (int py = 0; py < kLato; ++py)
-            for (int px = 0; px < kLato; ++px) forma[py][px] = s.Leggi(px, py) != 0;
-        return forma;
-    }
-    // How many pixels tell them apart, when one lies over the other as well as it can.
-    static int Differenze(const Forma &a, const Forma &b) {
-        int meno = kLato * kLato;
-        for (int oy = -1; oy <= 1; ++oy)
-            for (int ox = -1; ox <= 1; ++ox) {
-                int conto = 0;
-                for (int y = 1; y + 1 < kLato; ++y)
-                    for (int x = 1; x + 1 < kLato; ++x) conto += a[y][x] != b[y + oy][x + ox];
-                meno = std::min(meno, conto);
-            }
-        return meno;
-    }
-};
-
-TEST_F(CifrePiccole, ZeroSeiEOttoSiDistinguonoAOttoPixel) {
-    for (const auto &[una, altra] : {std::pair{'0', '6'}, {'0', '8'}, {'6', '8'}})
-        for (int fase = 0; fase < 16; ++fase)
-            for (int altraFase = 0; altraFase < 16; ++altraFase)
-                EXPECT_GE(Differenze(Scritta(una, fase), Scritta(altra, altraFase)), 2)
-                    << una << " and " << altra;
-}
-
 } // namespace telva::prove
