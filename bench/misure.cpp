@@ -7,6 +7,7 @@
 // the one to compare.
 #include "Generatore.h"
 #include "ScriviLavoro.h"
+#include "model/elementi.h"
 #include "model/legfont_cond.h"
 #include "model/leggstr_cond.h"
 #include "model/opzioni_cond.h"
@@ -68,17 +69,21 @@ fs::path cartella;
 std::string solo;
 double durata = 300; // milliseconds, of each operation
 
-std::string Argomento(const Lavoro &lavoro) {
+// The folder of the jobs, as the program sees it.
+std::string Radice() {
     std::string radice = fs::absolute(cartella).string();
-    std::replace(radice.begin(), radice.end(), '/', '\\');
-    return "|diroot=" + radice + "|LAVORO=" + lavoro.codice;
+    std::ranges::replace(radice, '/', '\\');
+    return radice;
+}
+
+std::string Argomento(const Lavoro &lavoro) {
+    return "|diroot=" + Radice() + "|LAVORO=" + lavoro.codice;
 }
 
 void Installa() {
-    std::string radice = fs::absolute(cartella).string();
-    std::replace(radice.begin(), radice.end(), '/', '\\');
     for (const auto &[codice, taglia, nomi] : {kDecimo, kTerzo, kPieno, kInverso})
-        generatore::ScriviInstallazione(cartella, codice, generatore::Genera(taglia, nomi), radice);
+        generatore::ScriviInstallazione(cartella, codice, generatore::Genera(taglia, nomi),
+                                        Radice());
     const fs::path font = cartella / "progra" / "font.001";
     fs::remove(font); // not every library can overwrite
     fs::copy_file(TELVA_RISORSE "/font/font.001", font);
@@ -155,6 +160,14 @@ class Banco {
                     quadro_.altezza, tempi.mediana, tempi.processore);
         std::fflush(stdout);
     }
+    // The same for each of the first kinds of elements, which is chosen before.
+    void MisuraTipi(const std::string &nome, int tipi, const Passo &fai,
+                    const Passo &prima = kNiente) const {
+        constexpr const char *kTipi[] = {"nodi", "aste", "gusci", "elementi"};
+        for (int tipo = 0; tipo < tipi; ++tipo)
+            Misura(
+                nome + "/" + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); }, fai, prima);
+    }
     void Letture() const;
     void Ridisegni() const;
     void Selezioni() const;
@@ -168,8 +181,6 @@ class Banco {
     const Quadro &quadro_;
 };
 
-const char *const kTipi[] = {"nodi", "aste", "gusci", "elementi"};
-
 void Tutto(int tipo) {
     FormTelva.OptElem[tipo].Seleziona();
     SelezionaPerColore(kOgniColore, Segno::Messo);
@@ -182,9 +193,10 @@ void SelezionaTutto() {
 
 // Back to nothing selected, so that every round has the same to do.
 void Deseleziona() {
-    for (auto *t : {&SelNodo, &SelAsta}) std::fill_n(t->Dati(), t->Capacita(), std::int16_t{0});
-    std::fill_n(SelGuscio.Dati(), SelGuscio.Capacita(), std::int16_t{0});
-    std::fill_n(SelElCont.Dati(), SelElCont.Capacita(), std::int16_t{0});
+    for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
+        const Elementi &e = ElementiDi(tipo);
+        std::fill_n(e.selezionati, e.numero, std::int16_t{0});
+    }
 }
 
 void LeggiTutto() {
@@ -197,6 +209,26 @@ void LeggiTutto() {
     LeggiElCont();
     LeggiStruttura(ok);
     if (ok != 1) std::fprintf(stderr, "misure: the job cannot be read\n");
+}
+
+// The left button, at a place of the drawing.
+void Premi(double x, double y) {
+    Disegno_MouseDown(1, 0, static_cast<float>(x), static_cast<float>(y));
+}
+
+// The pointer, to a pixel.
+void Punta(double x, double y) {
+    const RiquadroDisegno &d = FormTelva.Disegno;
+    Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(x)), static_cast<float>(d.YDaPixel(y)));
+}
+
+// A move of the mouse to a pixel, as the window does it: the event, the line of state, and what
+// stands over the picture then.
+void Muovi(double x, double y) {
+    RiquadroDisegno &d = FormTelva.Disegno;
+    Punta(x, y);
+    FormTelva.DopoEvento();
+    d.ComponiElastici(d.ZoneElastici(), [](const Superficie &, const ZonaPixel &) {});
 }
 
 void Banco::Letture() const {
@@ -213,84 +245,55 @@ void Banco::Ridisegni() const {
     Misura(
         "Ridisegno/etichette",
         [] {
-            for (const int voce : {7, 8, 9, 24, 25}) Opzioni[voce] = 1.0;
+            for (const int voce :
+                 {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont, kOpzNomeElCont})
+                Opzioni[voce] = 1.0;
         },
         DisegnaStruttura);
 }
 
 void Banco::Selezioni() const {
     const RiquadroDisegno &d = FormTelva.Disegno;
-    for (int tipo = 0; tipo < 4; ++tipo)
-        Misura(
-            std::string("Rettangolo/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
-            [&] {
-                SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight,
-                                  Segno::Messo);
-            },
-            Deseleziona);
-    for (int tipo = 0; tipo < 2; ++tipo)
-        Misura(
-            std::string("Lista/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
-            [] { SelezionaElementoPerNome("1-20000", Segno::Messo); }, Deseleziona);
+    MisuraTipi(
+        "Rettangolo", 4,
+        [&] {
+            SelezionaFinestra(d.ScaleLeft, d.ScaleTop, d.ScaleWidth, -d.ScaleHeight, Segno::Messo);
+        },
+        Deseleziona);
+    MisuraTipi(
+        "Lista", 2, [] { SelezionaElementoPerNome("1-20000", Segno::Messo); }, Deseleziona);
     // A click where the middle element of the table stands.
-    for (int tipo = 0; tipo < 4; ++tipo)
-        Misura(
-            std::string("Diretta/") + kTipi[tipo], [=] { FormTelva.OptElem[tipo].Seleziona(); },
-            [] {
-                const int nodo = NumNodi / 2;
-                Disegno_MouseDown(1, 0, static_cast<float>(XNodo(nodo)),
-                                  static_cast<float>(YNodo(nodo)));
-            },
-            [] {
-                FinisciGesti();
-                Deseleziona();
-                CodSottoFun = kDiretta;
-            });
+    MisuraTipi(
+        "Diretta", 4, [] { Premi(XNodo(NumNodi / 2), YNodo(NumNodi / 2)); },
+        [] {
+            FinisciGesti();
+            Deseleziona();
+            CodSottoFun = kDiretta;
+        });
 }
 
 void Banco::Puntatore() const {
-    const RiquadroDisegno &d = FormTelva.Disegno;
     // Over nothing: every node has to be looked at.
-    Misura("Coordinate", kNiente, [&] {
-        Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(3)),
-                          static_cast<float>(d.YDaPixel(3)));
-    });
-}
-
-// A move of the mouse to a pixel, as the window does it: the event, the line of state, and what
-// stands over the picture then.
-void Muovi(double x, double y) {
-    RiquadroDisegno &d = FormTelva.Disegno;
-    Disegno_MouseMove(0, 0, static_cast<float>(d.XDaPixel(x)), static_cast<float>(d.YDaPixel(y)));
-    FormTelva.DopoEvento();
-    d.ComponiElastici(d.ZoneElastici(), [](const Superficie &, const ZonaPixel &) {});
+    Misura("Coordinate", kNiente, [] { Punta(3, 3); });
 }
 
 // In direct pick, to and fro over the middle of the picture, where most elements lie.
 void Banco::Anteprime() const {
     int mossa = 0;
-    for (int tipo = 0; tipo < 4; ++tipo)
-        Misura(
-            std::string("Anteprima/") + kTipi[tipo],
-            [=] {
-                FormTelva.OptElem[tipo].Seleziona();
-                CodSottoFun = kDiretta;
-            },
-            [&] { Muovi(quadro_.larghezza / 2 + ++mossa % 40, quadro_.altezza / 2); });
+    MisuraTipi(
+        "Anteprima", 4, [&] { Muovi(quadro_.larghezza / 2 + ++mossa % 40, quadro_.altezza / 2); },
+        [] { CodSottoFun = kDiretta; });
 }
 
 // A move of the second corner, or of the second point, from one side of the picture to the other.
 void Banco::Elastici() const {
-    RiquadroDisegno &d = FormTelva.Disegno;
+    const RiquadroDisegno &d = FormTelva.Disegno;
     int mossa = 0;
     const auto muovi = [&] {
         const int scarto = ++mossa % 2 * 7;
         Muovi(quadro_.larghezza - 20 - scarto, quadro_.altezza - 20 - scarto);
     };
-    const auto premi = [&] {
-        Disegno_MouseDown(1, 0, static_cast<float>(d.XDaPixel(10)),
-                          static_cast<float>(d.YDaPixel(10)));
-    };
+    const auto premi = [&] { Premi(d.XDaPixel(10), d.YDaPixel(10)); };
     Misura(
         "Elastici/rettangolo",
         [&] {

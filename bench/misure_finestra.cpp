@@ -64,6 +64,19 @@ Tempi Misura(Prepara prepara, Fai fai, int volte = 15) {
     return Ordina(std::move(tempi));
 }
 
+template <class Fai>
+Tempi Ripeti(Fai fai, int volte = 15) {
+    return Misura([] {}, fai, volte);
+}
+
+// Looks again and again without a pause: the time until then is measured.
+template <class Fatto>
+void Attendi(const char *cosa, Fatto fatto) {
+    const double limite = Adesso() + 20000;
+    while (!fatto())
+        if (Adesso() > limite) throw Fallito(std::string("waited in vain for ") + cosa);
+}
+
 // From the start of the process to the first picture.
 Tempi Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar_t *classe) {
     std::vector<double> tempi;
@@ -102,9 +115,7 @@ class Telva {
         SetWindowTextW(casella, Largo(testo).c_str());
         PostMessageW(casella, WM_KEYDOWN, VK_RETURN, 0);
         const HWND riassunto = p_.Controllo("StringaSel");
-        const double limite = Adesso() + 10000;
-        while (SendMessageW(riassunto, WM_GETTEXTLENGTH, 0, 0) == 0)
-            if (Adesso() > limite) throw Fallito("the list has not come");
+        Attendi("the list", [&] { return SendMessageW(riassunto, WM_GETTEXTLENGTH, 0, 0) != 0; });
     }
     // Emptied, as it may have waited for another list.
     void PerNome() {
@@ -132,9 +143,8 @@ class Telva {
         const LRESULT prima = SendMessageW(spia, BM_GETCHECK, 0, 0);
         for (const MSG &m : messaggi) PostMessageW(disegno_, m.message, m.wParam, m.lParam);
         PostMessageW(spia, BM_SETCHECK, prima == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED, 0);
-        const double limite = Adesso() + 20000;
-        while (SendMessageW(spia, BM_GETCHECK, 0, 0) == prima)
-            if (Adesso() > limite) throw Fallito("the messages have not been handled");
+        Attendi("the messages to be handled",
+                [&] { return SendMessageW(spia, BM_GETCHECK, 0, 0) != prima; });
         SendMessageW(spia, BM_SETCHECK, static_cast<WPARAM>(prima), 0);
     }
     LPARAM SulloSchermo(int x, int y) const {
@@ -154,7 +164,7 @@ class Telva {
 };
 
 enum { kZoom = 3, kRidisegna = 5, kAggiungi = 6, kRimuoviTutto = 8 };
-const char *const kNomi[] = {"nodi", "aste", "gusci", "elementi"};
+const std::string kNomi[] = {"nodi", "aste", "gusci", "elementi"};
 
 void Rettangoli(const Telva &t) {
     const POINT angolo = t.Angolo();
@@ -166,7 +176,7 @@ void Rettangoli(const Telva &t) {
             t.Mouse(WM_MOUSEMOVE, angolo.x, angolo.y);
         };
         const auto fai = [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x, angolo.y); };
-        Riga(std::string("Rettangolo/") + kNomi[k], Misura(prepara, fai));
+        Riga("Rettangolo/" + kNomi[k], Misura(prepara, fai));
         prepara();
         fai(); // stays selected
     }
@@ -176,7 +186,7 @@ void Dirette(const Telva &t) {
     const POINT angolo = t.Angolo();
     for (int k = 0; k < 4; ++k) {
         t.Tipo(k);
-        Riga(std::string("Diretta/") + kNomi[k],
+        Riga("Diretta/" + kNomi[k],
              Misura([&] { t.Bottone(kRimuoviTutto); },
                     [&] { t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); }));
         t.Mouse(WM_LBUTTONDOWN, angolo.x / 2, angolo.y / 2); // a window left open is closed
@@ -187,7 +197,7 @@ void Liste(Telva &t) {
     for (int k = 0; k < 2; ++k) {
         t.Tipo(k);
         t.PerNome();
-        Riga(std::string("Lista/") + kNomi[k],
+        Riga("Lista/" + kNomi[k],
              Misura([&] { t.Bottone(kRimuoviTutto); }, [&] { t.Lista("1-20000"); }, 9));
     }
 }
@@ -203,7 +213,7 @@ void Anteprime(const Telva &t) {
             t.Mouse(WM_MOUSEMOVE, angolo.x / 2 + ++n % 40, angolo.y / 2);
             t.Dipingi();
         };
-        Riga(std::string("Anteprima/") + kNomi[k], Misura([] {}, fai, 45));
+        Riga("Anteprima/" + kNomi[k], Ripeti(fai, 45));
     }
 }
 
@@ -218,7 +228,7 @@ void Elastici(const Telva &t) {
         t.Mouse(WM_MOUSEMOVE, angolo.x - 20 - scarto, angolo.y - 20 - scarto);
         t.Dipingi();
     };
-    Riga("Elastici/rettangolo", Misura([] {}, fai, 45));
+    Riga("Elastici/rettangolo", Ripeti(fai, 45));
     t.Bottone(kRidisegna);
 }
 
@@ -238,16 +248,16 @@ void Trascinamento(const Telva &t) {
         scatti.push_back(
             {nullptr, WM_MOUSEWHEEL, MAKEWPARAM(0, verso), t.SulloSchermo(x, y), 0, {}});
     }
-    Riga("Trascinamento/dieci", Misura([] {}, [&] { t.Raffica(mosse); }, 9));
+    Riga("Trascinamento/dieci", Ripeti([&] { t.Raffica(mosse); }, 9));
     t.Mouse(WM_MBUTTONUP, x, y);
-    Riga("Rotella/dieci", Misura([] {}, [&] { t.Raffica(scatti); }, 9));
+    Riga("Rotella/dieci", Ripeti([&] { t.Raffica(scatti); }, 9));
 }
 
 void Operazioni(Telva &t) {
     t.Bottone(kAggiungi);
-    Riga("Ridisegno/niente", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
+    Riga("Ridisegno/niente", Ripeti([&] { t.Bottone(kRidisegna); }));
     Rettangoli(t);
-    Riga("Ridisegno/tutto", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
+    Riga("Ridisegno/tutto", Ripeti([&] { t.Bottone(kRidisegna); }));
     for (int k = 0; k < 4; ++k) {
         t.Tipo(k);
         t.Bottone(kRimuoviTutto);
@@ -300,7 +310,7 @@ int main() {
             RigaMemoria("Programma/MemoriaMiB", t.p_);
         }
         const Telva t(telva, etichette);
-        Riga("Ridisegno/etichette", Misura([] {}, [&] { t.Bottone(kRidisegna); }));
+        Riga("Ridisegno/etichette", Ripeti([&] { t.Bottone(kRidisegna); }));
     } catch (const std::exception &e) {
         std::fprintf(stderr, "%s\n", e.what());
         return 1;

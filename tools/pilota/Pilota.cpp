@@ -31,14 +31,6 @@ std::string Titolo(HWND finestra) {
     return Utf8(testo.data());
 }
 
-std::string NomeControllo(HWND finestra) {
-    const auto atomo = reinterpret_cast<ULONG_PTR>(GetPropW(finestra, L"TelvaNome"));
-    std::array<wchar_t, 256> nome{};
-    if (atomo == 0 || atomo > 0xFFFF) return {};
-    GlobalGetAtomNameW(static_cast<ATOM>(atomo), nome.data(), 256);
-    return Utf8(nome.data());
-}
-
 template <class F>
 BOOL CALLBACK Passa(HWND finestra, LPARAM visita) {
     return (*reinterpret_cast<F *>(visita))(finestra);
@@ -179,12 +171,16 @@ DWORD Programma::AttendiFine() {
     return codice;
 }
 
+bool Programma::Sua(HWND finestra) const {
+    DWORD pid = 0;
+    GetWindowThreadProcessId(finestra, &pid);
+    return pid == pid_;
+}
+
 std::vector<HWND> Programma::Cime(const std::wstring &classe) const {
     std::vector<HWND> cime;
     OgniFinestra([&](HWND f) {
-        DWORD pid = 0;
-        GetWindowThreadProcessId(f, &pid);
-        if (pid == pid_ && IsWindowVisible(f) && Classe(f).starts_with(classe)) cime.push_back(f);
+        if (Sua(f) && IsWindowVisible(f) && Classe(f).starts_with(classe)) cime.push_back(f);
         return true;
     });
     return cime;
@@ -237,9 +233,7 @@ bool Programma::Pronta(HWND finestra) const {
 void Programma::Stabile(HWND finestra) {
     const auto bersaglio = [&]() -> HWND {
         HWND davanti = finestra ? finestra : GetForegroundWindow();
-        DWORD pid = 0;
-        GetWindowThreadProcessId(davanti, &pid);
-        return pid == pid_ && Pronta(davanti) ? davanti : nullptr;
+        return Sua(davanti) && Pronta(davanti) ? davanti : nullptr;
     };
     if (HWND ora = bersaglio(); ora && ora == stabile_) return;
     HWND visto = nullptr;
@@ -304,7 +298,7 @@ Riquadro Programma::ChiudiRiquadro(const std::string &tasto) {
 HWND Programma::Trova(const std::string &nome) const {
     HWND trovato = nullptr;
     const auto cerca = [&](HWND f) {
-        if (NomeControllo(f) == nome) trovato = f;
+        if (Nome(f) == nome) trovato = f;
         return trovato == nullptr;
     };
     for (HWND cima : Cime())
@@ -356,7 +350,13 @@ POINT Programma::CentroBottone(HWND barra, int indice) const {
     return {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
 }
 
-std::string Programma::Nome(HWND controllo) { return NomeControllo(controllo); }
+std::string Programma::Nome(HWND controllo) {
+    const auto atomo = reinterpret_cast<ULONG_PTR>(GetPropW(controllo, L"TelvaNome"));
+    std::array<wchar_t, 256> nome{};
+    if (atomo == 0 || atomo > 0xFFFF) return {};
+    GlobalGetAtomNameW(static_cast<ATOM>(atomo), nome.data(), 256);
+    return Utf8(nome.data());
+}
 
 std::map<HWND, std::string> Programma::Suggerimenti(HWND cima) const {
     std::array<wchar_t, 2048> testo{};
@@ -377,9 +377,7 @@ std::map<HWND, std::string> Programma::Suggerimenti(HWND cima) const {
         }
     };
     OgniFinestra([&](HWND f) {
-        DWORD pid = 0;
-        GetWindowThreadProcessId(f, &pid);
-        if (pid == pid_ && Classe(f) == L"tooltips_class32") leggi(f);
+        if (Sua(f) && Classe(f) == L"tooltips_class32") leggi(f);
         return true;
     });
     return letti;
@@ -467,14 +465,14 @@ void Programma::Muovi(HWND cima, POINT schermo) const {
 }
 
 POINT Programma::Punta(HWND finestra, POINT dove) {
-    Passo("point at " + NomeControllo(finestra) + " " + std::to_string(dove.x) + "," +
+    Passo("point at " + Nome(finestra) + " " + std::to_string(dove.x) + "," +
           std::to_string(dove.y));
     HWND cima = GetAncestor(finestra, GA_ROOT);
     Stabile(cima);
     Smaltisci(cima); // a window that is still on its way elsewhere arrives first
     POINT schermo{};
     Aspetta(
-        "'" + NomeControllo(finestra) + "' not covered at its place on the screen",
+        "'" + Nome(finestra) + "' not covered at its place on the screen",
         [&] {
             schermo = dove;
             ClientToScreen(finestra, &schermo);

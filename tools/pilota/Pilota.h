@@ -107,6 +107,7 @@ class Programma {
                  const std::function<std::string()> &visto = {}) const;
 
   private:
+    bool Sua(HWND finestra) const;
     std::vector<HWND> Cime(const std::wstring &classe = {}) const;
     std::string Stato() const;
     bool InMenu() const;
