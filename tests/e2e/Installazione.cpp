@@ -79,11 +79,6 @@ Impedito::Impedito(fs::path file, Ostacolo ostacolo) : file_(std::move(file)) {
             CreateFileW(file_.c_str(), GENERIC_READ, insieme, nullptr, OPEN_EXISTING, 0, nullptr);
     };
     switch (ostacolo) {
-    case Ostacolo::Manca: fs::remove(file_); return;
-    case Ostacolo::Cartella:
-        fs::remove(file_);
-        fs::create_directory(file_);
-        return;
     case Ostacolo::Chiuso: prendi(0); return;
     case Ostacolo::SolaLettura: SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_READONLY); return;
     case Ostacolo::Letto: prendi(FILE_SHARE_READ | FILE_SHARE_WRITE); return;
@@ -93,7 +88,6 @@ Impedito::Impedito(fs::path file, Ostacolo ostacolo) : file_(std::move(file)) {
 Impedito::~Impedito() {
     if (preso_) CloseHandle(preso_);
     SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (fs::is_directory(file_)) fs::remove(file_);
 }
 
 } // namespace telva::prove

@@ -22,9 +22,9 @@ std::string Scritto(const std::filesystem::path &lavoro);
 // The job holds nothing but whole files with the names they had.
 void VerificaNessunResto(const std::filesystem::path &lavoro);
 
-// What may keep a file from being opened: it is gone, a folder, in another program's hands, or may
-// only be read; last, in the hands of one that shares it.
-enum class Ostacolo { Manca, Cartella, Chiuso, SolaLettura, Letto };
+// What may keep a file from being opened: it is in another program's hands, or may only be read;
+// last, in the hands of one that shares it.
+enum class Ostacolo { Chiuso, SolaLettura, Letto };
 
 // Puts an obstacle in the way of a file, and takes it away at its end at the latest.
 class Impedito {

@@ -24,32 +24,16 @@ RiquadroAtteso Errore(const std::string &testo) {
 
 } // namespace
 
-// Without |LAVORO= the job is that of the settings file.
-SCENARIO(avvio_con_ogni_lavoro) {
-    const auto impostato =
-        LeggiByte(amb.dati / "impostazioni" / "lavoro").value_or("").substr(0, 6);
-    const auto lavoro = amb.Lavori() / impostato, altro = LavoroPiccolo(amb, "Prova2");
-    ScriviIngresso(lavoro, "Primo", "", 2);
-    ScriviIngresso(altro, "  Città di prova ", " 8,12 ", 1);
-    const struct {
-        fs::path lavoro;
-        std::string argomento, titolo, genere, lista;
-    } avvii[] = {
-        {.lavoro = lavoro, .argomento = "", .titolo = "Primo", .genere = "OptElem(2)", .lista = ""},
-        {.lavoro = altro,
-         .argomento = "lavoro=Prova2|resto",
-         .titolo = "Città di prova",
-         .genere = "OptElem(1)",
-         .lista = "8,12"}};
-    for (const auto &a : avvii) {
-        Programma p(amb.telva, amb.Argomento(a.argomento));
-        UGUALE(p.Testo(p.Principale()), a.titolo + " - " + Utf8(a.lavoro.wstring()));
-        VERIFICA(p.Spuntato(a.genere));
-        UGUALE(p.Testo("StringaSel"), a.lista);
-        p.Premi("Ctrl+G");
-        UGUALE(p.AttendiFine(), 0U);
-        UGUALE(Scritto(a.lavoro), (a.lista.empty() ? " " : a.lista) + "\r\n");
-    }
+SCENARIO(avvio_con_titolo_e_lista) {
+    const auto lavoro = LavoroPiccolo(amb, "Prova2");
+    ScriviIngresso(lavoro, "  Città di prova ", " 8,12 ", 1);
+    Programma p(amb.telva, amb.Argomento("lavoro=Prova2|resto"));
+    UGUALE(p.Testo(p.Principale()), "Città di prova - " + Utf8(lavoro.wstring()));
+    VERIFICA(p.Spuntato("OptElem(1)"));
+    UGUALE(p.Testo("StringaSel"), "8,12");
+    p.Premi("Ctrl+G");
+    UGUALE(p.AttendiFine(), 0U);
+    UGUALE(Scritto(lavoro), "8,12\r\n");
 }
 
 SCENARIO(avvio_sbagliato) {
@@ -73,7 +57,6 @@ SCENARIO(avvio_con_file_impediti) {
         {lavoro / "STRUTTUR.STR", Ostacolo::Chiuso, Errore("Errore nella lettura della struttura")},
         {lavoro / "spessori", Ostacolo::Chiuso,
          Errore(" Impossibile leggere il file " + Utf8((lavoro / "spessori").wstring()))},
-        {font, Ostacolo::Cartella, Errore("File " + Minuscolo(font) + " inesistente!")},
         {font, Ostacolo::Chiuso, Errore("Errore in lettura del file " + Minuscolo(font) + " !")}};
     for (const auto &caso : casi) {
         Passo("put an obstacle in the way of " + Utf8(caso.file.wstring()));
@@ -95,9 +78,7 @@ SCENARIO(uscita_impedita) {
         Ostacolo ostacolo;
         bool rifiutata;
         std::string file; // what it holds afterwards
-    } casi[] = {{.ostacolo = Ostacolo::Manca, .rifiutata = false, .file = "9,14\r\n"},
-                {.ostacolo = Ostacolo::Cartella, .rifiutata = true, .file = "(no file)"},
-                {.ostacolo = Ostacolo::Chiuso, .rifiutata = true, .file = "8\r\n"},
+    } casi[] = {{.ostacolo = Ostacolo::Chiuso, .rifiutata = true, .file = "8\r\n"},
                 {.ostacolo = Ostacolo::SolaLettura, .rifiutata = true, .file = "8\r\n"},
                 {.ostacolo = Ostacolo::Letto, .rifiutata = false, .file = "9,14\r\n"}};
     for (const auto &caso : casi) {

@@ -82,19 +82,3 @@ SCENARIO(dialogo_opzioni) {
     s.Principale();
     s.FotoDiversa(); // drawn with what was saved
 }
-
-SCENARIO(dialogo_opzioni_non_salvate) {
-    const Ambiente mio = Copia(amb);
-    const auto file = mio.dati / "custom" / "TelOpzio.txt";
-    Sessione s(mio);
-    s.ApriOpzioni();
-    s.Spazio("CheckTxtNodi");
-    s.Premi("Alt+F4");
-    s.Principale();
-    s.ApriOpzioni(); // what was not saved is gone
-    DIVENTA(s, s.Spuntato("CheckTxtNodi"), false);
-    fs::create_directory(file); // no file can take this place
-    Salva(s, " Problemi nel salvataggio delle opzioni ");
-    s.Spazio("Chiudi");
-    s.Principale();
-}

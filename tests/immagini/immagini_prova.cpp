@@ -146,14 +146,6 @@ struct Immagini : Banco {
     }
 };
 
-TEST_F(Immagini, LavoroDiFronte) {
-    ApriCampione();
-    Angoli("0", "0", "0");
-    ASSERT_TRUE(ProiettaNodi());
-    Adatta();
-    Confronta("lavoro_fronte");
-}
-
 TEST_F(Immagini, LavoroInAssonometria) {
     ApriCampione();
     for (int b = 0; b < NumAste; b += 7) SelAsta[b] = 1;
@@ -199,21 +191,6 @@ TEST_F(Immagini, Penne) {
     Confronta("penne");
 }
 
-// What is selected lies over the others of its kind, but bars stay below shells.
-TEST_F(Immagini, Evidenza) {
-    Foglio f;
-    f.Linea(10, 10, 90, 90, 1);
-    f.Linea(10, 90, 90, 10, 1);
-    f.Linea(100, 50, 230, 50, 1);
-    f.Quadrilatero(120, 10, 80, 7, 3);
-    f.Quadrilatero(140, 5, 80, 7, 3);
-    const int nodo = f.NodoVisibile(250, 50, 4);
-    f.NodoVisibile(250, 50, 4);
-    ApriFoglio(f, 270, 100);
-    SelAsta[0] = SelAsta[2] = SelGuscio[0] = SelNodo[nodo] = 1;
-    Confronta("evidenza");
-}
-
 TEST_F(Immagini, ColoriDegliElementi) {
     Foglio f;
     for (int colore = 0; colore < 12; ++colore) { // 10 and 11 are hidden
@@ -247,19 +224,6 @@ TEST_F(Immagini, Retini) {
     f.Quadrilatero(500, 200, 120, 6, 5); // partly outside
     ApriFoglio(f, 570, 280);
     Confronta("retini");
-}
-
-TEST_F(Immagini, NodiDiOgniRaggio) {
-    Foglio f;
-    for (int k = 0; k < 8; ++k) f.NodoVisibile(20 + 40 * k, 20, 1 + k);
-    Superficie pila;
-    ApriFoglio(f, 340, 40);
-    for (int k = 1; k < 8; k += 2) SelNodo[k] = 1;
-    for (const int raggio : {0, 1, 4, 13}) {
-        Opzioni[kOpzRaggioNodo] = double(raggio);
-        Impila(pila, Dipingi());
-    }
-    ConfrontaImmagine(pila, "nodi");
 }
 
 TEST_F(Immagini, Etichette) {

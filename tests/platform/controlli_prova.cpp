@@ -11,20 +11,6 @@ struct PariCheConta : Pari {
 
 } // namespace
 
-TEST(Controlli, ITwipDiventanoPixelInteri) {
-    struct Caso {
-        double twip, dpi;
-        int pixel;
-    };
-    for (const Caso &c : {Caso{.twip = 1440, .dpi = 96, .pixel = 96},
-                          {.twip = 22.4, .dpi = 96, .pixel = 1},
-                          {.twip = 22.5, .dpi = 96, .pixel = 2}, // halves up
-                          {.twip = -22.5, .dpi = 96, .pixel = -1},
-                          {.twip = 1440, .dpi = 144, .pixel = 144}})
-        EXPECT_EQ(APixel(c.twip, c.dpi), c.pixel) << c.twip << " twips at " << c.dpi;
-    EXPECT_EQ(ATwip(144, 144), 1440);
-}
-
 TEST(Controlli, IlPariSenteSoloICambiamenti) {
     Modulo modulo{"m"};
     CasellaTesto casella{&modulo, "casella"};

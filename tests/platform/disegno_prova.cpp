@@ -27,19 +27,6 @@ struct RiquadroProva : ::testing::Test {
 
 } // namespace
 
-TEST_F(RiquadroProva, LaScalaPortaLeUnitaNeiPixelEIndietro) {
-    EXPECT_EQ(d.UnitaPerPixel(), 2);
-    EXPECT_EQ(d.XPixel(13), 11.5);
-    EXPECT_EQ(d.YPixel(13), 8.5);
-    EXPECT_EQ(d.XDaPixel(11.5), 13);
-    EXPECT_EQ(d.YDaPixel(8.5), 13);
-    bool fuori = false;
-    EXPECT_EQ(d.InPixel(12.9, 12.9, fuori), (Pixel{11, 9}));
-    EXPECT_EQ(d.InPixel(13, 13, fuori), (Pixel{12, 9})) << "a half goes up";
-    EXPECT_FALSE(fuori);
-    EXPECT_TRUE(d.ScalaImpostata());
-}
-
 TEST_F(RiquadroProva, UnaPosizioneLontanissimaSiFermaAlLimite) {
     constexpr int kLimite = 1 << 28;
     struct Caso {
@@ -103,12 +90,6 @@ TEST_F(RiquadroProva, UnaLineaDaLontanissimoPassaDovePasserebbe) {
             }
         }
     }
-}
-
-TEST_F(RiquadroProva, UnCerchioLontanissimoNonSiVede) {
-    d.Circle(1e300, 0, 20, kRosso);
-    d.Circle(0, std::nan(""), 20, kRosso);
-    EXPECT_EQ(Accesi(), 0);
 }
 
 } // namespace telva::prove

@@ -117,14 +117,4 @@ TEST_F(Etichette, CioCheNonSiDisegnaNonHaEtichetta) {
     }
 }
 
-TEST_F(Etichette, DiUnEtichettaSiVedeCioCheSporgeNelRiquadro) {
-    Parti({kNomeAsta, kMaterialeAsta, kSezione, kOrientamento, kSvincolo});
-    NumNodi = NumAste = NumGusci = NumElCont = 1;
-    NodoJAsta[0] = 3; // upright at x = 0; its long label reaches to x = 30
-    FinestraZoom = {.primaX = 62, .secondaX = 9, .primaY = 65, .secondaY = 35};
-    Adatta();
-    EXPECT_GT(d.ScaleLeft, 1) << "the bar is out of sight";
-    EXPECT_GT(Scrive({kOpzTestiAste}), 499);
-}
-
 } // namespace telva::prove

@@ -1,10 +1,6 @@
 #include "model/legfont_cond.h"
-#include "platform/disegno.h"
 #include "sostegno/Banco.h"
-#include "startup/direttori_cond.h"
-#include "view/colori.h"
 #include "view/salva_dis_cond.h"
-#include <algorithm>
 #include <array>
 
 namespace telva::prove {
@@ -123,74 +119,6 @@ TEST_F(TestiProva, UnCarattereSenzaTrattiAvanzaEUnoFuoriPaginaFinisce) {
     Scrive("accented and control", "\u00E0\x01\x41", 0, 10, 20, {{120, 200}, {125, 220}});
     Scrive("no character of the page", "\u0416\x41", 0, 10, 20, {});
     Scrive("up to there", "A\u0416\x41", 0, 10, 20, {{100, 200}, {105, 220}});
-}
-
-// Small letters are stamped from ready pixels, large ones drawn stroke by stroke.
-struct LettereProva : Banco {
-    Modulo modulo{"prova"};
-    RiquadroDisegno d{&modulo, "Disegno"};
-
-    LettereProva() { // one unit a pixel
-        d.Width = 300 * 15;
-        d.Height = 200 * 15;
-        d.Scale(0, 200, 300, 0);
-        DirProgra = Radice() + "\\progra";
-        Installa();
-        LeggiFont();
-        SpazioFont = 20;
-    }
-    struct Scrittura {
-        const char *testo;
-        double x, y;
-        std::int16_t angolo;
-        double base, altezza;
-    };
-    Superficie Disegnata(const Scrittura &s) {
-        d.Cls();
-        DisTesto(s.testo, s.x, s.y, s.angolo, s.base, s.altezza, std::int16_t{3}, &d);
-        return d.Immagine();
-    }
-    // Line by line, from the display list.
-    Superficie Tracciata(const Scrittura &s) {
-        AzzeraDisegno();
-        DisTesto(s.testo, s.x, s.y, s.angolo, s.base, s.altezza);
-        d.Cls();
-        for (int k = 0; k < NumElemDis; ++k) {
-            const int i = ElemDisIni[k], j = ElemDisFin[k];
-            d.Line(CoordDisX[i], CoordDisY[i], CoordDisX[j], CoordDisY[j], ColoreRGB(3));
-        }
-        return d.Immagine();
-    }
-    void StampateComeTracciate(const Scrittura &s, const char *che) {
-        const Superficie vista = Disegnata(s), attesa = Tracciata(s);
-        const std::uint32_t *inizio = attesa.Riga(0), *fine = attesa.Riga(attesa.Altezza());
-        EXPECT_TRUE(std::equal(inizio, fine, vista.Riga(0))) << s.testo << ", " << che;
-        EXPECT_GT(fine - inizio - std::count(inizio, fine, 0U), 9) << s.testo << ", " << che;
-    }
-};
-
-TEST_F(LettereProva, LeLettereTimbrateSonoQuelleTracciate) {
-    const Scrittura base{.testo = "A8g", .x = 20, .y = 30, .angolo = 0, .base = 9, .altezza = 13.7};
-    Scrittura spostata = base, larga = base, alta = base;
-    spostata.x = 20.25, spostata.y = 30.5, spostata.base = 9.25;
-    larga.testo = alta.testo = "A";
-    larga.base = 14.3;
-    alta.altezza = 21.1;
-    for (const Scrittura &s : {base, spostata, larga, alta, base})
-        StampateComeTracciate(s, "one size after the other");
-    for (const Scrittura &s :
-         {Scrittura{.testo = "Wq", .x = 60, .y = 40, .angolo = 90, .base = 12, .altezza = 17.3},
-          {.testo = "M", .x = 60.75, .y = 40.25, .angolo = 37, .base = 23.3, .altezza = 31.1},
-          {.testo = "M", .x = -6, .y = -4, .angolo = 0, .base = 23.3, .altezza = 31.1},
-          {.testo = "M", .x = 290, .y = 190, .angolo = 0, .base = 23.3, .altezza = 31.1},
-          {.testo = "R2", .x = 20.1, .y = 30.3, .angolo = 0, .base = 110.3, .altezza = 90.7}})
-        StampateComeTracciate(s, "turned, partly outside, or large");
-    StampateComeTracciate(base, "small again");
-    d.Scale(0, 100, 150, 0);
-    StampateComeTracciate(base, "two pixels a unit");
-    Scrivi("progra/font.001", "0\r\nA00309999\r\n");
-    LeggiFont();
-    StampateComeTracciate(base, "another font");
 }
 
 } // namespace telva::prove
