@@ -36,6 +36,15 @@ const std::string kRadice = "c:\\t", kLavoro = kRadice + "\\lavori\\prova1",
 std::vector<std::string> pezzi;          // bytes of each target in this run
 std::map<std::string, std::string> file; // their contents by whole path
 
+constexpr int kSinistro = 1, kCentrale = 4; // mouse buttons
+constexpr int kInvio = 13;
+
+// Of the target of that name.
+std::string &Pezzo(std::string_view nome) {
+    const auto quale = std::ranges::find(Bersagli(), nome, &Bersaglio::nome);
+    return pezzi.at(static_cast<std::size_t>(quale - Bersagli().begin()));
+}
+
 void Esigi(bool vero, const std::string &che) {
     if (!vero) throw std::logic_error(che);
 }
@@ -90,7 +99,7 @@ void ControllaTabelle() {
 }
 
 void Dirigi() {
-    ArgomentoAvvio = pezzi[0];
+    ArgomentoAvvio = Pezzo("argomento");
     Direttori();
     LavoroDaArgomento();
 }
@@ -111,14 +120,14 @@ void Font() {
     FormTelva.Disegno.Posiziona(0, 0, 1500, 1500);
     FormTelva.Disegno.Scale(0, 99, 99, 0);
     FormTelva.Disegno.Cls();
-    const std::string testo = DaWindows1252(pezzi[6].substr(0, 99));
+    const std::string testo = DaWindows1252(Pezzo("font.001").substr(0, 99));
     DisTesto(testo, 9, 50, 20, 5, 8, 1, &FormTelva.Disegno);
 }
 
 void Lista() {
     for (const int capacita : {kCapacitaSchede, kCapacitaNomi}) {
         std::vector<std::int16_t> numeri;
-        LeggiLista(pezzi[12], capacita, numeri);
+        LeggiLista(Pezzo("lista"), capacita, numeri);
         Esigi(numeri.size() <= static_cast<std::size_t>(capacita), "list too long");
     }
 }
@@ -135,7 +144,7 @@ void Usa(Controllo *c, const std::string &testo) {
     if (auto *opzione = dynamic_cast<BottoneOpzione *>(c)) opzione->Seleziona();
     if (auto *casella = dynamic_cast<CasellaTesto *>(c)) {
         casella->Text = testo;
-        if (casella->KeyDown) casella->KeyDown(13);
+        if (casella->KeyDown) casella->KeyDown(kInvio);
     }
 }
 
@@ -154,10 +163,10 @@ void Comanda(const std::string &righe) {
         const int px = numero(1) * 2 - 99, py = numero(2) * 2 - 99;
         const auto x = static_cast<float>(d.XDaPixel(px)), y = static_cast<float>(d.YDaPixel(py));
         switch (numero(0)) {
-        case '1': d.MouseDown(1, 0, x, y); break;
-        case '4': d.MouseDown(4, 0, x, y); break;
+        case '1': d.MouseDown(kSinistro, 0, x, y); break;
+        case '4': d.MouseDown(kCentrale, 0, x, y); break;
         case 'm': d.MouseMove(0, 0, x, y); break;
-        case 't': d.MouseMove(4, 0, x, y); break;
+        case 't': d.MouseMove(kCentrale, 0, x, y); break;
         case 'd': d.DblClick(); break;
         case 'r': FormTelva.Rotella(px); break;
         case 'k': FormTelva.KeyDown(numero(1)); break;
@@ -175,9 +184,9 @@ void Programma() {
     FormOptInt.Chiudi();
     FormTelva.Width = FormTelva.larghezzaMinima; // a small picture is painted sooner
     FormTelva.Height = FormTelva.altezzaMinima;
-    ArgomentoAvvio = pezzi[0];
+    ArgomentoAvvio = Pezzo("argomento");
     Avvia();
-    Comanda(pezzi[13]);
+    Comanda(Pezzo("comandi"));
 }
 
 // Fills the files in; an empty piece is as in the good job, and "-" is a file that is not there.

@@ -21,6 +21,9 @@ struct TrappolaProva : Banco {
         lavoro.nodi.push_back({.punto = punto, .nome = nome});
         return punto;
     }
+    void NodiDa(int primo, const std::vector<Luogo> &luoghi) {
+        for (const Luogo &dove : luoghi) Nodo(dove, primo++);
+    }
     void Asta(Luogo i, Luogo j) {
         const int nodoI = Nodo(i), nodoJ = Nodo(j);
         lavoro.aste.push_back(
@@ -58,20 +61,19 @@ struct TrappolaProva : Banco {
 };
 
 TEST_F(TrappolaProva, DiUnNodoContaLaDistanzaEPoiLOrdine) {
-    const std::vector<std::pair<Luogo, int>> nodi = {
-        {{103, 20}, 1},      {{97, 20}, 2},     // equally far: the first one
-        {{103, 40}, 3},      {{101, 40}, 4},    // the nearest
-        {{105, 60}, 5},      {{104.99, 80}, 6}, // exactly at the aperture is outside
-        {{101, 100}, 7},     {{101, 100}, 8},     {{101, 100}, 9},
-        {{103, 100}, 10},    {{101.4, 120}, 11},  {{101.2, 120}, 12}, // moved back, 1.4 counts as 1
-        {{102.5, 140}, 13},  {{102.25, 140}, 14},                     // 2.5 as 2
-        {{103.5, 160}, 15},  {{103.25, 160}, 16},                     // 3.5 as 4
-        {{102.75, 180}, 17}, {{101.25, 180}, 18}, {{102.875, 180}, 19}};
-    for (const auto &[dove, nome] : nodi) Nodo(dove, nome);
+    constexpr int kNascosto = 7, kSenzaColore = 8, kAssente = 9;
+    NodiDa(1, {{103, 20}, {97, 20}});     // equally far: the first one
+    NodiDa(3, {{103, 40}, {101, 40}});    // the nearest
+    NodiDa(5, {{105, 60}, {104.99, 80}}); // exactly at the aperture is outside
+    NodiDa(kNascosto, {{101, 100}, {101, 100}, {101, 100}, {103, 100}});
+    NodiDa(11, {{101.4, 120}, {101.2, 120}});  // moved back, 1.4 counts as 1
+    NodiDa(13, {{102.5, 140}, {102.25, 140}}); // 2.5 as 2
+    NodiDa(15, {{103.5, 160}, {103.25, 160}}); // 3.5 as 4
+    NodiDa(17, {{102.75, 180}, {101.25, 180}, {102.875, 180}});
     ApriAlPixel();
-    AttNodo[6] = 0;  // 7 is not shown
-    ColNodo[7] = 0;  // 8 has no colour
-    NomeNodo[8] = 0; // 9 is absent
+    AttNodo[kNascosto - 1] = 0; // the name of each node is its place, from 1
+    ColNodo[kSenzaColore - 1] = 0;
+    NomeNodo[kAssente - 1] = 0;
     Prende(kNodiTipo, 1, {{100, 20}});
     Prende(kNodiTipo, 4, {{100, 40}});
     Prende(kNodiTipo, 0, {{100, 60}});
@@ -100,7 +102,8 @@ TEST_F(TrappolaProva, UnAstaSiPrendeLungoLaSuaLineaEUnPoOltre) {
     Asta({400, 500}, {430, 530});
     Asta({50, 20}, {50.0099, 20}); // seen from its end: a length below 0.01 is none
     Asta({50, 6}, {50.0101, 6});
-    lavoro.elementi = {{7, "Intero", {1}}, {8, "Rotto", {1, 20001}}}; // no bar has that name
+    lavoro.elementi = {{.numero = 7, .nome = "Intero", .aste = {1}},
+                       {.numero = 8, .nome = "Rotto", .aste = {1, 20001}}}; // no bar has that name
     ApriAlPixel();
     Prende(kElContTipo, 7, {{115, 500}});
     Prende(kAsteTipo, 1, {{115, 504.9}, {134.9, 500}, {95.1, 503}});

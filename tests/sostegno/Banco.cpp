@@ -175,6 +175,10 @@ void Banco::Apri(const LavoroProva &l, bool frontale) {
     ScriviLavoro(l);
     if (frontale)
         for (int k = 0; k < 3; ++k) FormTelva.Angolo[k].Text = "0";
+    AvviaSenzaDireNulla();
+}
+
+void Banco::AvviaSenzaDireNulla() {
     if (!Avvia() || !messaggi.empty())
         throw std::runtime_error("the start failed: " + ::testing::PrintToString(messaggi));
 }

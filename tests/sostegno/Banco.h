@@ -44,8 +44,9 @@ class Banco : public ::testing::Test {
     // Start-up on the argument string; true when the program goes on, else `codiceFine` is set.
     bool Avvia(const std::string &argomento);
     bool Avvia() { return Avvia(Argomento()); }
-    // Installa, ScriviLavoro and Avvia; angles 0,0,0 when `frontale`. A start that ends the program
-    // or says something ends the test.
+    // A start that ends the program or says something ends the test.
+    void AvviaSenzaDireNulla();
+    // Installa, ScriviLavoro and such a start; angles 0,0,0 when `frontale`.
     void Apri(const LavoroProva &l, bool frontale = true);
     // Runs anything that may end the program; true when it went on.
     bool Esegui(const std::function<void()> &evento);

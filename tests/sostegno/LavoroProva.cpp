@@ -30,28 +30,47 @@ LavoroProva Telaio() {
         for (int colonna = 0; colonna < 3; ++colonna) {
             const int n = riga * 3 + colonna;
             l.punti.push_back({colonna * 100.0, 0, riga * 100.0});
-            l.nodi.push_back({n, n + 1, n % 3 + 1, n % 4, riga});
+            l.nodi.push_back(
+                {.punto = n, .nome = n + 1, .colore = n % 3 + 1, .tipo = n % 4, .vincolo = riga});
         }
     int nome = 0;
     for (int riga = 0; riga < 3; ++riga)
         for (int colonna = 0; colonna < 2; ++colonna) {
             const int i = riga * 3 + colonna;
-            l.aste.push_back({i, i + 1, ++nome, riga + 1, riga, riga % 2 + 1, colonna, riga + 1});
+            l.aste.push_back({.i = i,
+                              .j = i + 1,
+                              .nome = ++nome,
+                              .colore = riga + 1,
+                              .tipo = riga,
+                              .sezione = riga % 2 + 1,
+                              .svincolo = colonna,
+                              .orientamento = riga + 1});
         }
     for (int colonna = 0; colonna < 3; ++colonna)
         for (int riga = 0; riga < 2; ++riga) {
             const int i = riga * 3 + colonna;
-            l.aste.push_back({i, i + 3, ++nome, 5, 4, 2, 0, 7});
+            l.aste.push_back({.i = i,
+                              .j = i + 3,
+                              .nome = ++nome,
+                              .colore = 5,
+                              .tipo = 4,
+                              .sezione = 2,
+                              .orientamento = 7});
         }
     nome = 0;
     for (int riga = 0; riga < 2; ++riga)
         for (int colonna = 0; colonna < 2; ++colonna) {
             const int i = riga * 3 + colonna;
-            l.gusci.push_back({{i, i + 1, i + 4, i + 3}, ++nome, 3 + colonna, nome, riga + 1});
+            ++nome;
+            l.gusci.push_back({.nodi = {i, i + 1, i + 4, i + 3},
+                               .nome = nome,
+                               .colore = 3 + colonna,
+                               .tratto = nome,
+                               .spessore = riga + 1});
         }
     l.elementi = {{10, "Trave bassa", {1, 2}}, {20, "Trave media", {3, 4}}};
-    l.spessori = {{3, 20}, {4, 0.5}};
-    l.sezioni = {1, 2};
+    l.spessori = {{.materiale = 3, .valore = 20}, {.materiale = 4, .valore = 0.5}};
+    l.sezioni = {1, 2}; // materials
     return l;
 }
 
