@@ -2,6 +2,7 @@
 // system for.
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
+#include "sostegno/Schermo.h"
 #include "sostegno/Utente.h"
 #include "startup/avvio.h"
 #include "ui/controlli/FormOpt.h"
@@ -76,22 +77,6 @@ TEST_F(FormTelvaProva, NumeriRifiutatiSenzaStruttura) {
 }
 
 // --- the window system, as far as the forms ask for it
-
-struct Schermo : SistemaFinestre {
-    std::string fatto, fuoco; // what the forms asked for; the control that has the focus then
-    Schermo() { ImpostaSistemaFinestre(this); }
-    ~Schermo() override { ImpostaSistemaFinestre(nullptr); }
-    void Segna(const char *che, const Modulo &m) {
-        fatto += (fatto.empty() ? "" : ", ") + (che + m.NomeControllo());
-        fuoco = m.fuoco ? m.fuoco->NomeControllo() : "";
-    }
-    void Prepara(Modulo &m) override { Segna("prepara ", m); }
-    void Mostra(Modulo &m) override { Segna("mostra ", m); }
-    void MostraModale(Modulo &m) override { Segna("modale ", m); }
-    void Chiudi(Modulo &m) override { Segna("chiudi ", m); }
-    void MostraPopup(Modulo &, VoceMenu &menu) override { fatto += menu.NomeControllo(); }
-    std::string Fatto() { return std::exchange(fatto, ""); }
-};
 
 TEST_F(FormTelvaProva, LaXChiudeLaFinestraEIlDialogoAperto) {
     Schermo schermo;

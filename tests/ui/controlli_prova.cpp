@@ -1,9 +1,11 @@
 // How the three windows are laid out. Names, captions and tips of every control are looked at in
 // the real windows.
+#include "sostegno/Schermo.h"
 #include "sostegno/Utente.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/visibile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,8 +68,24 @@ struct ControlliProva : Utente {
     ControlliProva() { Apri(Telaio()); }
 };
 
+TEST_F(ControlliProva, OgniCasellaDellaFinestraFiltraLaVista) {
+    for (Controllo *c : f.controlli)
+        if (auto *casella = dynamic_cast<CasellaSpunta *>(c)) {
+            SCOPED_TRACE(casella->NomeControllo());
+            EXPECT_TRUE(casella->Click);
+            casella->Value = false;
+            EXPECT_TRUE(VistaFiltrata());
+            casella->Value = true;
+            EXPECT_FALSE(VistaFiltrata());
+        }
+}
+
 TEST_F(ControlliProva, IDialoghi) {
-    for (const Modulo *modulo : std::initializer_list<Modulo *>{&FormOpt, &FormOptInt}) {
+    std::string aperti;
+    Schermo schermo;
+    // Of each of them the scenarios compare every control with a table (didascalie_dialoghi).
+    for (const Modulo *modulo : std::initializer_list<Modulo *>{&FormOptInt, &FormOpt}) {
+        aperti += (aperti.empty() ? "modale " : ", modale ") + modulo->NomeControllo();
         EXPECT_FALSE(modulo->ridimensionabile);
         ControllaCheStiano(*modulo);
         ControllaLeRighe(*modulo);
@@ -77,6 +95,9 @@ TEST_F(ControlliProva, IDialoghi) {
         EXPECT_EQ(colore.Left - bordo.Left, 45);
         EXPECT_EQ(colore.Top - bordo.Top, 45);
     }
+    for (const VoceMenu *v : f.voci)
+        if (v->Enabled && v != &f.Salva && v != &f.Esci) Menu(v->NomeControllo());
+    EXPECT_EQ(schermo.Fatto(), aperti) << "all that a command opens";
 }
 
 TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
