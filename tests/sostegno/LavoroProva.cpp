@@ -24,53 +24,63 @@ std::string LavoroProva::Struttura() const {
     return s.str();
 }
 
+namespace {
+
+void Nodi(LavoroProva &l) {
+    for (int n = 0; n < 9; ++n) {
+        const int riga = n / 3, colonna = n % 3;
+        l.punti.push_back({colonna * 100.0, 0, riga * 100.0});
+        l.nodi.push_back(
+            {.punto = n, .nome = n + 1, .colore = n % 3 + 1, .tipo = n % 4, .vincolo = riga});
+    }
+}
+
+void Aste(LavoroProva &l) {
+    for (int n = 0; n < 6; ++n) { // along x, row by row
+        const int riga = n / 2, colonna = n % 2, i = riga * 3 + colonna;
+        l.aste.push_back({.i = i,
+                          .j = i + 1,
+                          .nome = n + 1,
+                          .colore = riga + 1,
+                          .tipo = riga,
+                          .sezione = riga % 2 + 1,
+                          .svincolo = colonna,
+                          .orientamento = riga + 1});
+    }
+    for (int n = 0; n < 6; ++n) { // along z, column by column
+        const int i = n % 2 * 3 + n / 2;
+        l.aste.push_back({.i = i,
+                          .j = i + 3,
+                          .nome = n + 7,
+                          .colore = 5,
+                          .tipo = 4,
+                          .sezione = 2,
+                          .orientamento = 7});
+    }
+}
+
+void Gusci(LavoroProva &l) {
+    for (int n = 0; n < 4; ++n) {
+        const int riga = n / 2, colonna = n % 2, i = riga * 3 + colonna;
+        l.gusci.push_back({.nodi = {i, i + 1, i + 4, i + 3},
+                           .nome = n + 1,
+                           .colore = 3 + colonna,
+                           .tratto = n + 1,
+                           .spessore = riga + 1});
+    }
+}
+
+} // namespace
+
 LavoroProva Telaio() {
     LavoroProva l;
-    for (int riga = 0; riga < 3; ++riga)
-        for (int colonna = 0; colonna < 3; ++colonna) {
-            const int n = riga * 3 + colonna;
-            l.punti.push_back({colonna * 100.0, 0, riga * 100.0});
-            l.nodi.push_back(
-                {.punto = n, .nome = n + 1, .colore = n % 3 + 1, .tipo = n % 4, .vincolo = riga});
-        }
-    int nome = 0;
-    for (int riga = 0; riga < 3; ++riga)
-        for (int colonna = 0; colonna < 2; ++colonna) {
-            const int i = riga * 3 + colonna;
-            l.aste.push_back({.i = i,
-                              .j = i + 1,
-                              .nome = ++nome,
-                              .colore = riga + 1,
-                              .tipo = riga,
-                              .sezione = riga % 2 + 1,
-                              .svincolo = colonna,
-                              .orientamento = riga + 1});
-        }
-    for (int colonna = 0; colonna < 3; ++colonna)
-        for (int riga = 0; riga < 2; ++riga) {
-            const int i = riga * 3 + colonna;
-            l.aste.push_back({.i = i,
-                              .j = i + 3,
-                              .nome = ++nome,
-                              .colore = 5,
-                              .tipo = 4,
-                              .sezione = 2,
-                              .orientamento = 7});
-        }
-    nome = 0;
-    for (int riga = 0; riga < 2; ++riga)
-        for (int colonna = 0; colonna < 2; ++colonna) {
-            const int i = riga * 3 + colonna;
-            ++nome;
-            l.gusci.push_back({.nodi = {i, i + 1, i + 4, i + 3},
-                               .nome = nome,
-                               .colore = 3 + colonna,
-                               .tratto = nome,
-                               .spessore = riga + 1});
-        }
-    l.elementi = {{10, "Trave bassa", {1, 2}}, {20, "Trave media", {3, 4}}};
+    Nodi(l);
+    Aste(l);
+    Gusci(l);
+    l.elementi = {{.numero = 10, .nome = "Trave bassa", .aste = {1, 2}},
+                  {.numero = 20, .nome = "Trave media", .aste = {3, 4}}};
     l.spessori = {{.materiale = 3, .valore = 20}, {.materiale = 4, .valore = 0.5}};
-    l.sezioni = {1, 2}; // materials
+    l.sezioni = {1, 2};
     return l;
 }
 

@@ -172,7 +172,7 @@ TEST_F(PuntatoreProva, LaVistaSiSpostaDaQuelloCheSiVede) {
     Menu("Sposta");
     Clic(X(300), Y(200));
     Clic(X(331), Y(183));
-    EXPECT_EQ(Visto(0), prima + Pixel(31, -17));
+    EXPECT_EQ(Visto(0), (prima + Pixel{31, -17}));
 
     ImpostaZoom(0, 0, 0.11, 0.11);
     Menu("Ridis");
