@@ -87,21 +87,6 @@ SCENARIO(comandi_che_finiscono) {
     UGUALE(s.AttendiFine(), 0U);
 }
 
-SCENARIO(comandi_della_vista) {
-    Sessione s(amb, Genere::Aste, "8");
-    s.PuntaInDisparte();
-    s.Fotografa("Disegno");
-    for (const std::string spunta : {"NodiAtt", "ElSelez"}) {
-        s.Clic(spunta);
-        s.FotoDiversa();
-        s.Clic(spunta);
-        s.FotoUguale();
-    }
-    s.Riscrivi("IntX(0)", "300");
-    s.Premi("Ctrl+R");
-    DIVENTA(s, s.SiVede(1), false);
-}
-
 // A submenu, items by their access key and by their place, and the answer box.
 SCENARIO(comandi_di_selezione) {
     Sessione s(amb);
@@ -130,12 +115,6 @@ SCENARIO(comandi_di_selezione) {
     ChiudiRiquadro(s, {.titolo = "ERRORE",
                        .testo = " La stringa di selezione comprende troppi elementi ",
                        .icona = "avviso"});
-    s.Scegli(Genere::Nodi); // the kind may change while a question stands
-    s.Clic("Risposta");
-    s.Premi("Invio");
-    ChiudiRiquadro(s, {.titolo = "INFORMAZIONE",
-                       .testo = " La selezione per orientamento non è possibile per i nodi ",
-                       .icona = "informazione"});
 }
 
 // A grey command runs nothing: seen once a later command has had its effect. A grey submenu does
@@ -154,10 +133,7 @@ SCENARIO(comandi_spenti) {
     UGUALE(siApre("Vincolo"), false);
     s.Premi("Ctrl+A");
     s.Menu("Alt+S", "p Esc Esc"); // "Tipo punto"
-    s.Scegli(Genere::Nodi);
-    UGUALE(siApre("Materiale"), false);
-    UGUALE(siApre("Vincolo"), true);
-    s.Premi("Esc"); // without a function every selection is grey
+    s.Premi("Esc");               // without a function every selection is grey
     s.FunzioneDiventa("");
     s.ChiediNomi();
     s.Premi("Ctrl+Z");

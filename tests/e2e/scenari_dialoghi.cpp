@@ -22,28 +22,21 @@ std::vector<std::string> Righe(const fs::path &file) {
 
 SCENARIO(dialogo_trappola) {
     Sessione s(amb, Genere::Nodi);
-    const struct {
-        std::string testo, valore;
-        bool colBottone; // or by Enter
-    } casi[] = {{.testo = "0.9", .valore = "0", .colBottone = false},
-                {.testo = "3x", .valore = "3", .colBottone = true}};
-    for (const auto &caso : casi) {
-        s.ApriTrappola();
-        DIVENTA(s, s.HaFuoco("TextTrappola"), true);
-        s.Riscrivi("TextTrappola", caso.testo);
-        caso.colBottone ? s.Spazio("Command1") : s.Premi("Invio");
-        if (caso.valore == "0")
-            ChiudiRiquadro(s, {.titolo = "ATTENZIONE",
-                               .testo = " Se la dimensione della trappola è nulla la selezione "
-                                        "diretta non è possibile ",
-                               .icona = "avviso"});
-        s.Principale();
-        s.ApriTrappola();
-        s.TestoDiventa("TextTrappola", caso.valore);
-        s.Riscrivi("TextTrappola", "77");
-        s.Premi("Esc");
-        s.Principale(); // leaves it as it was
-    }
+    s.ApriTrappola();
+    DIVENTA(s, s.HaFuoco("TextTrappola"), true);
+    s.Riscrivi("TextTrappola", "0.9");
+    s.Premi("Invio");
+    ChiudiRiquadro(s, {.titolo = "ATTENZIONE",
+                       .testo = " Se la dimensione della trappola è nulla la selezione diretta non "
+                                "è possibile ",
+                       .icona = "avviso"});
+    s.Principale();
+    s.ApriTrappola();
+    s.Riscrivi("TextTrappola", "77");
+    s.Premi("Esc"); // leaves it as it was
+    s.Principale();
+    s.ApriTrappola();
+    s.TestoDiventa("TextTrappola", "0");
 }
 
 SCENARIO(dialogo_opzioni) {

@@ -157,23 +157,6 @@ TEST_F(Immagini, LavoroInAssonometria) {
     Confronta("lavoro_assonometria");
 }
 
-TEST_F(Immagini, TipiDiLinea) {
-    Foglio f;
-    for (int tipo = 0; tipo < 6; ++tipo) { // 5 is none of the types: continuous
-        const double z = 10 + 50 * tipo;
-        f.Linea(10, z, 110, z, 1, tipo);
-        f.Linea(220, z + 40, 120, z, 5, tipo);
-        f.Linea(230, z, 250, z + 44, 7, tipo);
-        f.Linea(260, z + 44, 260, z, 3, tipo);
-        f.Linea(270, z + 30, 360, z + 5, 4, tipo);
-    }
-    ApriFoglio(f, 370, 310);
-    Superficie pila = Dipingi();
-    Opzioni[kOpzPennaNonSel] = 2.0; // a wide pen has no dashes
-    Impila(pila, Dipingi());
-    ConfrontaImmagine(pila, "tipi_linea");
-}
-
 TEST_F(Immagini, Penne) {
     Foglio f;
     f.Raggi(80, 80, 70, 1);
@@ -224,20 +207,6 @@ TEST_F(Immagini, Retini) {
     f.Quadrilatero(500, 200, 120, 6, 5); // partly outside
     ApriFoglio(f, 570, 280);
     Confronta("retini");
-}
-
-TEST_F(Immagini, Etichette) {
-    ApriTelaio();
-    const std::pair<const char *, int> generi[] = {{"etichette_nodi", kOpzTestiNodi},
-                                                   {"etichette_aste", kOpzTestiAste},
-                                                   {"etichette_gusci", kOpzTestiGusci},
-                                                   {"etichette_continui", kOpzTestiElCont}};
-    for (int parte : {2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
-    for (const auto &[nome, genere] : generi) {
-        Opzioni[genere] = 1.0;
-        Confronta(nome);
-        Opzioni[genere] = 0.0;
-    }
 }
 
 // A window at 200 %: pens, dashes, hatches, letters and axes are twice as large on the screen.

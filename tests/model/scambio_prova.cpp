@@ -1,9 +1,7 @@
 #include "model/scambio_cond.h"
 #include "sostegno/Banco.h"
-#include "sostegno/DiscoGuasto.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
-#include "ui/FormTelva_gestori.h"
 #include "ui/controlli/FormTelva.h"
 
 namespace telva::prove {
@@ -51,19 +49,6 @@ TEST_F(Scambio, LIngressoSiLeggeFinDoveArriva) {
             EXPECT_EQ(StrSel(tipo), c.tenuta && tipo == c.tipo ? c.lista : "") << c.file;
     }
     EXPECT_EQ(Leggi("TelvaOut.txt.~1"), "<assente>");
-}
-
-TEST_F(Scambio, UnUscitaCheNonSiPuoScrivereSiDiceELasciaLaVecchia) {
-    Scrivi("TelvaOut.txt", "vecchia\r\n");
-    DiscoGuasto disco;
-    disco.spazio = 0;
-    FormTelva.StringaSel.Caption = "1-5";
-    EXPECT_FALSE(Esegui(Salva_Click)) << "the program ends";
-    EXPECT_EQ(codiceFine, 0);
-    EXPECT_EQ(Leggi("TelvaOut.txt"), "vecchia\r\n");
-    EXPECT_EQ(messaggi,
-              (std::vector<Messaggio>{{" Non \u00E8 possibile scrivere il file di uscita ",
-                                       Gravita::Critica, "Problema"}}));
 }
 
 } // namespace telva::prove

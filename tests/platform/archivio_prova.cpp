@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
-#include <thread>
 
 namespace telva::prove {
 namespace {
@@ -131,27 +130,6 @@ TEST_F(Scritture, SiTolgonoIProvvisoriAbbandonatiENullAltro) {
     EXPECT_TRUE(inScrittura->Tieni(File()));
     inScrittura.reset();
     EXPECT_EQ(Leggi("f.txt"), kNuovo);
-}
-
-TEST_F(Scritture, QuelCheScrivonoInTreInsiemeEUnoDeiTreIntero) {
-    constexpr int kProgrammi = 3, kGiri = 20;
-    std::vector<std::string> testi;
-    for (int p = 0; p < kProgrammi; ++p)
-        testi.push_back(std::string(static_cast<std::size_t>(5000 * (p + 1)), char('a' + p)));
-    for (int giro = 0; giro < kGiri; ++giro) {
-        bool riuscite[kProgrammi] = {};
-        std::vector<std::thread> programmi;
-        for (int p = 0; p < kProgrammi; ++p)
-            programmi.emplace_back(
-                [&, p] { riuscite[p] = ScriviFile(File(), testi[static_cast<std::size_t>(p)]); });
-        for (std::thread &programma : programmi) programma.join();
-        for (int p = 0; p < kProgrammi; ++p)
-            EXPECT_TRUE(riuscite[p]) << "programma " << p << ", giro " << giro;
-        const std::string rimasto = Leggi("f.txt");
-        EXPECT_EQ(std::ranges::count(testi, rimasto), 1)
-            << rimasto.size() << " byte, giro " << giro;
-        EXPECT_EQ(Nomi(), std::set<std::string>{"f.txt"}) << "giro " << giro;
-    }
 }
 
 TEST_F(Scritture, SiLeggeUnFileENonUnaCartella) {

@@ -10,13 +10,6 @@ namespace telva::prove {
 
 struct AvvioProva : Utente {};
 
-TEST_F(AvvioProva, LaFinestraSiApreConTitoloETrappola) {
-    ScriviIngresso("  Palazzo ", "", 0);
-    Apri(Telaio());
-    EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
-    EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (8)...");
-}
-
 TEST_F(AvvioProva, IFileCheMancanoSiDiconoInOrdineESiProsegue) {
     Installa();
     Cancella("progra");

@@ -22,14 +22,6 @@ struct FormTelvaProva : Utente {
     }
 };
 
-TEST_F(FormTelvaProva, SottoIlMinimoTornaAlMinimo) {
-    for (const auto &[larghezza, altezza] : {std::pair{5549, 9000}, {9000, 7119}}) {
-        Ridimensiona(larghezza, altezza);
-        EXPECT_EQ(f.Width, std::max(larghezza, 5550));
-        EXPECT_EQ(f.Height, std::max(altezza, 7120));
-    }
-}
-
 TEST_F(FormTelvaProva, RidottaAIconaNienteSiDispone) {
     const std::string prima = Posti();
     f.ridotta = true;

@@ -81,13 +81,6 @@ TEST_F(ComandiProva, UnBottoneFaCioCheFaLaSuaVoce) {
     EXPECT_EQ(Uscita(), "1,1-9\r\n");
 }
 
-TEST_F(ComandiProva, EsciNonScrive) {
-    Menu("Inverti");
-    Barra("Esci");
-    EXPECT_EQ(codiceFine, 0);
-    EXPECT_EQ(Uscita(), "<assente>");
-}
-
 TEST_F(ComandiProva, UnGuastoFinisceConUnoENonScrive) {
     NodoJAsta[0] = 25000; // no place of the nodes: the next picture comes upon it
     Tipo(kAsteTipo);

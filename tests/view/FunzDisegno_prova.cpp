@@ -61,24 +61,6 @@ TEST_F(FunzDisegno, LaPennaEUnNumeroInteroDaUnoECresceConLaFinestra) {
     }
 }
 
-TEST_F(FunzDisegno, ITrattiDiUnaLineaCresconoConLaFinestra) {
-    struct Caso {
-        int tipo;
-        double scala;
-        const char *tratti; // one period
-    };
-    for (const Caso &c : {Caso{.tipo = 1, .scala = 1, .tratti = "#########....."},
-                          {.tipo = 2, .scala = 1.5, .tratti = "###......"},
-                          {.tipo = 3, .scala = 1, .tratti = "#########.....##...."},
-                          {.tipo = 4, .scala = 1, .tratti = "#########.....##....##...."},
-                          {.tipo = 2, .scala = 3, .tratti = "######............"}}) {
-        const Tratteggio t = TratteggioLinea(c.tipo, c.scala);
-        std::string visti;
-        for (int n = 0; n < t.periodo; ++n) visti += t.bit[static_cast<std::size_t>(n)] ? '#' : '.';
-        EXPECT_EQ(visti, c.tratti) << "line type " << c.tipo << " at scale " << c.scala;
-    }
-}
-
 TEST_F(FunzDisegno, LaTernaNonSiSpostaCoiTagliDellaVista) {
     FormTelva.AsteAtt.Value = false;
     FormTelva.VisAssi.Checked = true;
