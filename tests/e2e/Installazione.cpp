@@ -24,8 +24,12 @@ LavoroProva Struttura() {
               {.i = 3, .j = 4, .nome = 12, .colore = 9, .tipo = 4},
               {.i = 0, .j = 1, .nome = 14, .colore = 5, .tipo = 3}};
     for (int tratto = 1; tratto < 8; ++tratto)
-        l.gusci.push_back({{0, 1, 4, 2}, 30 + tratto, 6, tratto, 1 + (tratto + 1) % 2});
-    l.gusci.push_back({{2, 3, 4, -1}, 38, 6, 8, 2});
+        l.gusci.push_back({.nodi = {0, 1, 4, 2},
+                           .nome = 30 + tratto,
+                           .colore = 6,
+                           .tratto = tratto,
+                           .spessore = 1 + (tratto + 1) % 2});
+    l.gusci.push_back({.nodi = {2, 3, 4, -1}, .nome = 38, .colore = 6, .tratto = 8, .spessore = 2});
     return l;
 }
 

@@ -180,7 +180,7 @@ TEST_F(PuntatoreProva, LaVistaSiSpostaDaQuelloCheSiVede) {
     Rotella(1); // refused: the window would be too small
     EXPECT_EQ(Visto(0), prima);
     Tasto(39); // the arrow to the right
-    EXPECT_EQ(Visto(0), prima + Pixel(-d.LarghezzaPixel() / 10, 0));
+    EXPECT_EQ(Visto(0), (prima + Pixel{-d.LarghezzaPixel() / 10, 0}));
 }
 
 TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
