@@ -1,6 +1,6 @@
-"""What keeps the house in order, counted: how long a function may be, where the kind of a control
-or of an element may be asked, who writes what the pointer is doing. tools/controlla_strati.py runs
-it on every source."""
+"""What keeps the house in order, counted: how long a function may be, that a type's name means one
+thing, where the kind of a control or of an element may be asked, who writes what the pointer is
+doing. tools/controlla_strati.py runs it on every source."""
 import re
 
 RIGHE_FUNZIONE = 40  # without the rows of its tables
@@ -15,6 +15,7 @@ MUTI = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|\'(
                   r"|^[ \t]*#(?:[^\n\\]|\\.)*", re.S | re.M)
 CIFRE = re.compile(r"(?<=\w)'(?=\w)") # 1'000
 CONTENITORE = re.compile(r"(?:^|\s)(?:namespace|class|struct|union|enum|extern)\b[^()]*$")
+TIPO = re.compile(r"(?:^|\s)(?:class|struct|union|enum)\s+(\w+)(?:\s+final)?(?:\s*:[^:].*)?$", re.S)
 CORPO = re.compile(r"(?:\)|\]|\b(?:const|noexcept|override|final|mutable|try)|->[^{]*|\) :.*\})$", re.S)
 TABELLA = re.compile(r"(?:=|\breturn|: [\w:]*(?:<.*>)?)$")  # what a name, a function or a loop takes
 
@@ -82,6 +83,14 @@ def funzioni(testo):
             blocco.fuori.righe_dati += blocco.righe_dati
 
 
+def tipi(testo):
+    """Every type that is defined in a namespace or in a class."""
+    for blocco, _ in blocchi(testo):
+        nome = TIPO.search(blocco.testa)
+        if nome and blocco.genere == "container":
+            yield nome[1]
+
+
 def rami(testo):
     """Kind (of SCAMBI) and line of every switch over the kinds of something."""
     for blocco, fine in blocchi(testo):
@@ -94,7 +103,7 @@ def rami(testo):
 
 def difetti(sorgenti):
     """What is wrong in {path: text}."""
-    scambi, chiedono = {che: [] for che in SCAMBI}, []
+    scambi, chiedono, definiti = {che: [] for che in SCAMBI}, [], {}
     for nome, intero in sorgenti.items():
         for quale, riga, righe in funzioni(intero):
             if righe > RIGHE_FUNZIONE:
@@ -102,6 +111,8 @@ def difetti(sorgenti):
         if not nome.startswith("src/"):
             continue
         testo = muto(intero)
+        for tipo in tipi(testo):
+            definiti.setdefault(tipo, []).append(nome)
         for che, riga in rami(testo):
             scambi[che].append(f"{nome}:{riga}")
         if re.search(r"(?:\.|->)TipoControllo\(\)", testo):
@@ -110,6 +121,9 @@ def difetti(sorgenti):
             if not nome.startswith(GESTO):
                 riga = testo.count("\n", 0, trovato.start()) + 1
                 yield f"{nome}:{riga}: only {GESTO}cpp writes {trovato[1] or trovato[2]}"
+    for tipo, dove in definiti.items():
+        if len(dove) > 1:
+            yield f"{tipo} names two things: " + ", ".join(dove)
     for che, dove in scambi.items():
         if len(dove) > SCAMBI[che][1]:
             yield f"switches over {che} kinds, more than {SCAMBI[che][1]}: " + ", ".join(dove)
