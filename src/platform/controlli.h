@@ -137,7 +137,7 @@ Proprieta<T> &Proprieta<T>::operator=(const T &valore) {
 // One text in the window: on one line; on several; on several to the right, at half height; as
 // data in a sunken field, with an ellipsis and the whole in a tip; as an index; in two rows that
 // tell how things stand, each with an ellipsis and the whole in a tip.
-enum class StileEtichetta { Semplice, SuPiuRighe, Centrata, Riassunto, Pedice, Stato };
+enum class StileEtichetta { Semplice, SuPiuRighe, ADestra, Riassunto, Pedice, Stato };
 
 class Etichetta : public Controllo {
   public:

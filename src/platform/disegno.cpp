@@ -55,9 +55,10 @@ double RiquadroDisegno::UnitaPerPixel() const { return std::abs(1 / scalaX_); }
 double RiquadroDisegno::PixelOpzione(double pixel) const {
     return pixel * (Proprietario()->dpi / kDpiNormale);
 }
-int RiquadroDisegno::PennaOpzione(double pixel) const {
-    return std::clamp(InteroVicino(PixelOpzione(pixel)), 1, Superficie::kPennaMassima);
+int RiquadroDisegno::PennaIntera(double pixel) {
+    return std::clamp(InteroVicino(pixel), 1, Superficie::kPennaMassima);
 }
+int RiquadroDisegno::PennaOpzione(double pixel) const { return PennaIntera(PixelOpzione(pixel)); }
 
 Pixel RiquadroDisegno::InPixel(double x, double y, bool &fuori) const {
     double px = XPixel(x), py = YPixel(y);

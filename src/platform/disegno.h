@@ -45,6 +45,7 @@ class RiquadroDisegno : public Controllo {
     // this one; fractions kept. The same as a pen's width: whole, 1..Superficie::kPennaMassima.
     double PixelOpzione(double pixel) const;
     int PennaOpzione(double pixel) const;
+    static int PennaIntera(double pixel); // of a width in pixels as they are
 
     // Position in pixels, fractions kept; pixel i has its centre at i.
     double XPixel(double x) const { return (x - ScaleLeft) * scalaX_; }

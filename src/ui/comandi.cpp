@@ -89,7 +89,7 @@ constinit const Comando kComandi[] = {
     VoceColore<kMagenta>(f.Magenta),
     VoceColore<kAzzurro>(f.Azzurro),
     VoceColore<kArancione>(f.Arancione),
-    {&f.TuttiCol, 2, "Tutti", 0, Colore<kOgniColore>},
+    ConFigura(f.TuttiCol, "Tutti", Colore<kOgniColore>, {FiguraVoce::Genere::Colore, kOgniColore}),
     {&f.TipoPunto, 1, "Tipo &punto"},
     {&f.TipoPt1, 2, "1", 0, Punto<0>},
     {&f.TipoPt2, 2, "2", 0, Punto<1>},

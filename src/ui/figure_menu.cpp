@@ -1,14 +1,12 @@
 #include "ui/figure_menu.h"
 
 #include "platform/disegno.h"
-#include "platform/interi.h"
 #include "selection/attributi_sel.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 #include "view/retini.h"
 #include "view/tipi_linea.h"
 
-#include <algorithm>
 #include <array>
 
 namespace telva {
@@ -30,6 +28,17 @@ void Incornicia(Superficie &s, int spessore) {
         s.Linea({k, k}, {k, fondo - k}, kBordo);
         s.Linea({destra - k, k}, {destra - k, fondo - k}, kBordo);
     }
+}
+
+// One colour, or all that the menu names, in three rows.
+void DisegnaColori(Superficie &s, int codice) {
+    constexpr int kLato = 3;
+    static_assert(kNumeroColori - kBianco == kLato * kLato);
+    for (int y = 0; y < s.Altezza(); ++y)
+        for (int x = 0; x < s.Larghezza(); ++x) {
+            const int casella = y * kLato / s.Altezza() * kLato + x * kLato / s.Larghezza();
+            s.Riga(y)[x] = APixelRGB(ColoreRGB(codice == kOgniColore ? kBianco + casella : codice));
+        }
 }
 
 // One line type in the middle, or all of them, one below the other.
@@ -63,10 +72,11 @@ Figura DisegnaFigura(const FiguraVoce &voce, int altezza, double quanto) {
     if (voce.genere == Genere::Nessuna) return {};
     const bool colore = voce.genere == Genere::Colore;
     const int larghezza = colore ? altezza : kLarghezze * altezza;
-    const int penna = std::max(InteroVicino(quanto), 1);
+    const int penna = RiquadroDisegno::PennaIntera(quanto);
     Superficie s;
     s.Ridimensiona(larghezza, altezza);
-    s.Riempi(APixelRGB(colore ? ColoreRGB(voce.codice) : FormTelva.Disegno.BackColor));
+    s.Riempi(APixelRGB(FormTelva.Disegno.BackColor));
+    if (colore) DisegnaColori(s, voce.codice);
     if (voce.genere == Genere::Linea) DisegnaLinee(s, voce.codice, quanto, penna);
     if (voce.genere == Genere::Retino) DisegnaRetini(s, voce.codice, quanto, penna);
     Incornicia(s, penna);

@@ -29,7 +29,7 @@ EffettoClic EffettoDelGesto() {
     if (InCorso(Gesto::SpostaAperto)) return EffettoClic::Destinazione;
     if (PrimoAngolo == 1) return EffettoClic::AngoloOpposto;
     if (InCorso(Gesto::ZoomArmato) || !InCorso(Gesto::Riposo)) return EffettoClic::Angolo;
-    return SelezioneDirettaPronta() ? EffettoClic::ApreFinestra : EffettoClic::Nessuno;
+    return SelezioneDirettaPronta() ? EffettoClic::Scelta : EffettoClic::Nessuno;
 }
 
 void TrovaElementi(double x, double y) {
@@ -39,7 +39,6 @@ void TrovaElementi(double x, double y) {
     const Elementi &e = ElementiDi(preda.tipo);
     for (int i = 0; i < e.numero; ++i)
         if (e.nomi[i] == nome && e.Attivo(i)) preda.elementi.push_back(i);
-    if (!preda.elementi.empty()) effetto = EffettoClic::Elemento;
 }
 
 // In the scale of the event, or in another that has come since.
@@ -48,6 +47,7 @@ void CercaSotto(const PostoPuntatore &p) {
     const bool stessa = d.XPixel(p.x) == p.px && d.YPixel(p.y) == p.py;
     TrovaElementi(stessa ? p.x : d.XEvento(d.XDaPixel(p.px)),
                   stessa ? p.y : d.YEvento(d.YDaPixel(p.py)));
+    effetto = preda.elementi.empty() ? EffettoClic::ApreFinestra : EffettoClic::Elemento;
 }
 
 void Contorno(TipoElemento tipo, int parte, Sagoma &sagoma) {
@@ -89,8 +89,8 @@ void PuntatoreFuori() { puntatore.reset(); }
 
 void CercaPreda() {
     preda.elementi.clear();
-    effetto = puntatore && Proiettata() ? EffettoDelGesto() : EffettoClic::Nessuno;
-    if (effetto == EffettoClic::ApreFinestra) CercaSotto(*puntatore);
+    effetto = Proiettata() ? EffettoDelGesto() : EffettoClic::Nessuno;
+    if (effetto == EffettoClic::Scelta && puntatore) CercaSotto(*puntatore);
     MostraPreda();
 }
 

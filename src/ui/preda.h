@@ -7,7 +7,8 @@
 namespace telva {
 
 enum class EffettoClic {
-    Nessuno,      // the pointer is elsewhere, or a click has no meaning
+    Nessuno,      // a click has no meaning
+    Scelta,       // direct pick; the pointer is elsewhere
     Elemento,     // direct pick takes it
     ApreFinestra, // direct pick finds nothing there
     Angolo,       // the first one of a window, for selection or zoom

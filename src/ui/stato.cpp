@@ -26,6 +26,7 @@ constexpr std::size_t kCaratteriElenco = 500;
 // How a kind is spoken of.
 struct Parole {
     const char *uno, *molti, *nessuno;
+    const char *scelta;              // what direct pick waits for
     const char *unoSel, *moltiSel;   // selected
     const char *unoNasc, *moltiNasc; // hidden
     const char *richiesti;
@@ -51,15 +52,16 @@ std::string DatiElCont(int k) {
 }
 
 constexpr Parole kParole[kTipiElemento] = {
-    {"nodo", "nodi", "nessun nodo", "selezionato", "selezionati", "nascosto", "nascosti",
-     "richiesti", DatiNodo},
-    {"asta", "aste", "nessuna asta", "selezionata", "selezionate", "nascosta", "nascoste",
-     "richieste", DatiAsta},
-    {"guscio", "gusci", "nessun guscio", "selezionato", "selezionati", "nascosto", "nascosti",
-     "richiesti", DatiGuscio},
-    {"elemento continuo", "elementi continui", "nessun elemento continuo", "selezionato",
-     "selezionati", "nascosto", "nascosti", "richiesti", DatiElCont},
-    {"parete", "pareti", "nessuna parete", "selezionata", "selezionate", "nascosta", "nascoste",
+    {"nodo", "nodi", "nessun nodo", "clic su un nodo, o ", "selezionato", "selezionati", "nascosto",
+     "nascosti", "richiesti", DatiNodo},
+    {"asta", "aste", "nessuna asta", "clic su un'asta, o ", "selezionata", "selezionate",
+     "nascosta", "nascoste", "richieste", DatiAsta},
+    {"guscio", "gusci", "nessun guscio", "clic su un guscio, o ", "selezionato", "selezionati",
+     "nascosto", "nascosti", "richiesti", DatiGuscio},
+    {"elemento continuo", "elementi continui", "nessun elemento continuo",
+     "clic su un elemento continuo, o ", "selezionato", "selezionati", "nascosto", "nascosti",
+     "richiesti", DatiElCont},
+    {"parete", "pareti", "nessuna parete", "", "selezionata", "selezionate", "nascosta", "nascoste",
      "richieste", nullptr},
 };
 
@@ -133,6 +135,9 @@ std::string Clic() {
     case EffettoClic::Elemento:
         return "clic: " + Descrizione(Preda().tipo, Preda().elementi.front()) +
                Invariato(Preda().tipo, Preda().elementi.front());
+    case EffettoClic::Scelta:
+        return std::string(kParole[FormTelva.TipoElemento()].scelta) +
+               "menu Selezioni; Esc termina";
     case EffettoClic::ApreFinestra: return "clic: apre una finestra";
     case EffettoClic::Angolo: return "clic: primo angolo";
     case EffettoClic::AngoloOpposto: return "clic: angolo opposto";
@@ -151,10 +156,10 @@ RigheStato ComponiStato() {
     RigheStato r;
     r.evidenza =
         Unisci({nulla ? "nessun elemento mostrato: vedere filtri e intervalli" : "", Richiesta()});
-    r.adesso = Unisci({Conteggio(), VistaFiltrata() ? "vista filtrata" : ""});
+    r.adesso = Unisci({VistaFiltrata() ? "vista filtrata" : "", Conteggio()});
     const SchedaProprieta *proprieta = ProprietaDi(CodSottoFun);
-    r.poi = Unisci({CodFunAttiva == kNessunaFunzione ? "Ctrl+A aggiunge, Ctrl+T rimuove" : "",
-                    proprieta ? Presenti(*proprieta) : "", Clic()});
+    r.poi = Unisci({Clic(), proprieta ? Presenti(*proprieta) : "",
+                    CodFunAttiva == kNessunaFunzione ? "Ctrl+A aggiunge, Ctrl+T rimuove" : ""});
     return r;
 }
 

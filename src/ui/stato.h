@@ -5,6 +5,7 @@
 
 namespace telva {
 
+// A narrow window cuts the end of each row: what matters most stands first.
 struct RigheStato {
     std::string evidenza; // what must not be overlooked; stands before the first row
     std::string adesso;   // first row

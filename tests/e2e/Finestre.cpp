@@ -37,18 +37,9 @@ std::string Letto(const Programma &p, const Controllo &casella) {
 // Whether a text in the system's font, on as many lines as there is room for, is cut off.
 bool Tagliato(const Controllo &c) {
     const LONG quadretto = static_cast<LONG>(16 * GetDpiForWindow(c.maniglia) / 96);
-    NONCLIENTMETRICSW misure{};
-    misure.cbSize = sizeof misure;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof misure, &misure, 0);
-    HDC dc = GetDC(nullptr);
-    HGDIOBJ prima = SelectObject(dc, CreateFontIndirectW(&misure.lfMessageFont));
     const LONG larghezza = c.posto.right - c.posto.left - (c.classe == "Button" ? quadretto : 0);
-    RECT serve{0, 0, larghezza, 0};
-    DrawTextW(dc, Largo(c.testo).c_str(), -1, &serve, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
-    DeleteObject(SelectObject(dc, prima));
-    ReleaseDC(nullptr, dc);
-    return !c.testo.empty() &&
-           (serve.right > larghezza || serve.bottom > c.posto.bottom - c.posto.top);
+    const SIZE serve = Ingombro(c.testo, larghezza);
+    return !c.testo.empty() && (serve.cx > larghezza || serve.cy > c.posto.bottom - c.posto.top);
 }
 
 // Index letters are small, and a swatch's name is only for those who do not see it.
@@ -100,6 +91,20 @@ std::string Difetti(const Programma &p, HWND cima) {
         for (auto b = a + 1; b != controlli.end(); ++b)
             if (SiCoprono(*a, *b)) difetti += a->nome + " on " + b->nome + "; ";
     return difetti;
+}
+
+SIZE Ingombro(const std::string &testo, LONG larghezza, LONG peso) {
+    NONCLIENTMETRICSW misure{};
+    misure.cbSize = sizeof misure;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof misure, &misure, 0);
+    misure.lfMessageFont.lfWeight = peso;
+    HDC dc = GetDC(nullptr);
+    HGDIOBJ prima = SelectObject(dc, CreateFontIndirectW(&misure.lfMessageFont));
+    RECT serve{0, 0, larghezza, 0};
+    DrawTextW(dc, Largo(testo).c_str(), -1, &serve, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
+    DeleteObject(SelectObject(dc, prima));
+    ReleaseDC(nullptr, dc);
+    return {serve.right, serve.bottom};
 }
 
 RECT AreaDiLavoro() {

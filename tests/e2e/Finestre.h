@@ -13,6 +13,8 @@ inline constexpr LONG kAltezzaMinima = 7120;
 // for a reader, by name; empty when all is well.
 std::string Difetti(const Programma &p, HWND cima);
 
+// What a text takes in the system's own font, on lines not wider than that.
+SIZE Ingombro(const std::string &testo, LONG larghezza, LONG peso = FW_NORMAL);
 RECT AreaDiLavoro();
 RECT Rettangolo(HWND finestra);
 // Whether a window is seen whole.

@@ -46,7 +46,8 @@ SCENARIO(dialogo_opzioni) {
     s.Fotografa("Disegno");
     s.ApriOpzioni();
     DIVENTA(s, s.HaFuoco("CheckSpGus"), true);
-    Salva(s, " Opzioni salvate ");
+    s.Premi("Invio"); // "Salva"
+    ChiudiRiquadro(s, {.titolo = "INFORMAZIONE", .testo = " Opzioni salvate ", .icona = "avviso"});
     std::vector<std::string> attese = Righe(file); // of the options as they are without a file
     UGUALE(attese.size(), 30U);
     attese.resize(30);

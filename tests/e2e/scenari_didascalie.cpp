@@ -2,7 +2,10 @@
 #include "Finestre.h"
 #include "Sessione.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
+#include <set>
 
 using namespace telva::prove;
 
@@ -138,6 +141,17 @@ LONG PiedeDelTesto(HWND controllo) {
     return r.top + piede;
 }
 
+// Where the first row of a label ends, in its pixels.
+LONG FineDelTesto(HWND etichetta) {
+    const RECT r = Rettangolo(etichetta);
+    const Immagine foto = Schermo(&r);
+    int fine = 0;
+    for (int y = 0; y < foto.altezza / 2; ++y)
+        for (int x = fine; x < foto.larghezza; ++x)
+            if ((foto.In(x, y) & 0xFF) < 128) fine = x;
+    return fine;
+}
+
 // The box is given the text beside it: a letter and the same letter.
 void VerificaAllineati(const Programma &p, const std::string &etichetta,
                        const std::string &casella) {
@@ -159,6 +173,30 @@ SCENARIO(didascalie_allineate) {
     s.ApriOpzioni();
     for (const std::string casella : {"SpNonSel", "SpSel", "Raggio"})
         VerificaAllineati(s, "Label" + casella, casella);
+}
+
+// What the caller wants stands out; what finds no room stands in the tip, for half a minute.
+SCENARIO(didascalie_stato) {
+    Sessione s(amb, Genere::Nodi);
+    const int alta = 960;
+    s.Dimensiona(s.finestra, 1560, alta);
+    s.Scegli(Genere::Gusci);
+    s.PuntaInDisparte();
+    s.TestoDiventa("LabStato", "richiesti: nodi; nessun guscio selezionato\r\n"
+                               "Ctrl+A aggiunge, Ctrl+T rimuove");
+    const HWND stato = s.Controllo("LabStato");
+    const LONG larga = Ingombro("richiesti: nodi", 1560, FW_BOLD).cx +
+                       Ingombro("; nessun guscio selezionato", 1560).cx;
+    DIVENTA(s, std::abs(FineDelTesto(stato) - larga) <= 2, true);
+    UGUALE(s.Suggerimenti(s.finestra).contains(stato), false);
+    const RECT libera = Rettangolo(stato);
+    s.Dimensiona(s.finestra, 1520 - (libera.right - libera.left - larga), alta);
+    DIVENTA(s, s.Suggerimenti(s.finestra)[stato], s.Testo(stato));
+    DIVENTA(s, FineDelTesto(stato) < larga - 20, true); // an ellipsis
+    std::set<LRESULT> durate;
+    for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+        durate.insert(SendMessageW(h, TTM_GETDELAYTIME, TTDT_AUTOPOP, 0));
+    VERIFICA(durate.contains(30000));
 }
 
 SCENARIO(didascalie_finestra) {

@@ -20,7 +20,7 @@ std::string MisuraDelColore(HWND menu, std::uint32_t colore) {
     if (!menu || !GetWindowRect(menu, &r)) return "no menu";
     const Immagine vista = Schermo(&r);
     int sinistra = vista.larghezza, destra = -1, alto = vista.altezza, basso = -1;
-    for (int y = 0; y < vista.altezza; ++y)
+    for (int y = 0; y < vista.altezza && (basso < 0 || basso == y - 1); ++y) // the first one
         for (int x = 0; x < vista.larghezza; ++x) {
             if (vista.In(x, y) != colore) continue;
             sinistra = std::min(sinistra, x), destra = std::max(destra, x);

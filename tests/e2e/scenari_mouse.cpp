@@ -141,21 +141,45 @@ SCENARIO(mouse_menu_di_scelta) {
     s.SottoFunzioneDiventa("");
 }
 
-// The line of state and the outline of what the next click takes, while the pointer wanders.
+// The outline of what the next click takes goes when something else has the word.
+SCENARIO(mouse_e_contorno) {
+    Sessione s(amb, Genere::Nodi);
+    s.Premi("Ctrl+A");
+    s.Clic("StringaSel"); // the pointer is not on the drawing
+    const std::string altrove =
+        "nessun nodo selezionato\r\nclic su un nodo, o menu Selezioni; Esc termina";
+    s.TestoDiventa("LabStato", altrove);
+    s.Fotografa("Disegno");
+    const auto contorna = [&] {
+        s.Punta(Nodo(3));
+        s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nclic: nodo 3");
+        s.FotoDiversa();
+    };
+    contorna();
+    s.Clic("StringaSel");
+    s.FotoUguale();
+    contorna();
+    s.Premi("Tab");
+    s.FotoUguale();
+    contorna();
+    s.Clic(Nodo(3), Bottone::Destro); // its menu
+    s.TestoDiventa("LabStato", altrove);
+    Manda(Accordo("Esc"));
+    s.Principale();
+    contorna();
+    s.ApriTrappola();
+    s.TestoDiventa("LabStato", altrove);
+}
+
+// The line of state while the pointer wanders.
 SCENARIO(mouse_e_stato) {
     Sessione s(amb, Genere::Nodi);
     s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nCtrl+A aggiunge, Ctrl+T rimuove");
     s.Premi("Ctrl+A");
-    s.FunzioneDiventa("Aggiungi selezione");
-    s.Clic("StringaSel"); // the pointer is not on the drawing
-    s.TestoDiventa("LabStato", "nessun nodo selezionato");
-    s.Fotografa("Disegno");
     s.Punta(Nodo(3));
     s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nclic: nodo 3");
-    s.FotoDiversa(); // its outline
     s.Punta(Vuoto());
     s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nclic: apre una finestra");
-    s.FotoUguale();
     s.Clic(Nodo(3));
     s.ListaDiventa("3");
     s.TestoDiventa("LabStato", "1 nodo selezionato\r\nclic: nodo 3, già selezionato");

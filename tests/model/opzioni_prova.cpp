@@ -1,7 +1,11 @@
 #include "model/opzioni_cond.h"
+
+#include "ScriviLavoro.h"
 #include "sostegno/Banco.h"
 #include "startup/basCommon_cond.h"
 #include "startup/direttori_cond.h"
+
+#include <algorithm>
 
 namespace telva::prove {
 
@@ -27,6 +31,15 @@ TEST_F(OpzioniProva, SenzaFileValgonoLePredefinite) {
     for (int voce = kOpzPartiNodi; voce <= kOpzNomeElCont; ++voce)
         EXPECT_EQ(Opzioni[voce], telva::Valore{1.0}) << "part " << voce << " of the labels";
     for (const int voce : {4, 26, 27, 28, 29}) EXPECT_EQ(Opzioni[voce], telva::Valore{}) << voce;
+}
+
+TEST_F(OpzioniProva, QuelleDelCampioneMostranoLaSelezioneAncheSuiContorni) {
+    std::string cartella = Radice();
+    std::ranges::replace(cartella, '\\', '/');
+    generatore::ScriviInstallazione(cartella, "dimo01", {}, cartella);
+    DirCustom = Radice() + "\\custom";
+    LeggiOpzioni();
+    EXPECT_EQ(OpzioneNumero(kOpzPennaSel), 5);
 }
 
 TEST_F(OpzioniProva, QuelCheSiScriveSiRilegge) {

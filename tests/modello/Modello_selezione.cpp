@@ -144,7 +144,7 @@ std::string Modello::Adesso() const {
                  (nascosti == 1 ? singolare : plurale);
     const bool tutti = std::ranges::all_of(filtri_, std::identity{}) &&
                        std::ranges::all_of(elementi[kNodi], [&](auto &e) { return Dentro(e); });
-    return tutti ? testo : testo + "; vista filtrata";
+    return tutti ? testo : "vista filtrata; " + testo;
 }
 
 std::string Modello::Evidenza() const {

@@ -32,7 +32,7 @@ TEST_F(FigureMenu, UnaVoceMostraIlCodiceCheSeleziona) {
     CostruisciComandi();
     for (const Caso &c : {Caso{.voce = "Bianco", .figura = {.genere = Genere::Colore, .codice = 1}},
                           {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = 9}},
-                          {.voce = "TuttiCol", .figura = {}},
+                          {.voce = "TuttiCol", .figura = {.genere = Genere::Colore, .codice = 10}},
                           {.voce = "TipoPt1", .figura = {}},
                           {.voce = "TipoLn1", .figura = {.genere = Genere::Linea, .codice = 0}},
                           {.voce = "TipoLn5", .figura = {.genere = Genere::Linea, .codice = 4}},
@@ -57,13 +57,16 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
             for (const std::uint32_t p : f.pixel) ASSERT_EQ(p >> 24, 0xFFu) << "opacity";
             EXPECT_TRUE(diverse.insert(f.pixel).second) << "looks like another one";
         }
-        EXPECT_EQ(diverse.size(), 9u + 6 + 9);
+        EXPECT_EQ(diverse.size(), 10u + 6 + 9);
     }
 }
 
 TEST_F(FigureMenu, UnColoreEQuelloDellaSuaTabella) {
     const Figura f = DisegnaFigura({.genere = Genere::Colore, .codice = kArancione}, 13, 1);
     EXPECT_EQ(f.pixel[6 * 13 + 6], 0xFFFFA346u);
+    const Figura tutti = DisegnaFigura({.genere = Genere::Colore, .codice = kOgniColore}, 13, 1);
+    EXPECT_EQ(tutti.pixel[1 * 13 + 1], 0xFFFFFFFFu) << "the first one, in a corner";
+    EXPECT_EQ(tutti.pixel[11 * 13 + 11], 0xFFFFA346u) << "the last";
 }
 
 } // namespace telva::prove

@@ -133,14 +133,13 @@ TEST_F(StatoProva, CheCosaRestaSenzaIlPuntatoreEConUnaFinestra) {
     const Sagoma::Linea asta{0, 0, 100, 0};
     EXPECT_EQ(d.Anteprima().linee.at(0), asta);
     Passo("Distratta()", f.Distratta);
-    EXPECT_EQ(Poi(), "") << "a key has the word";
+    EXPECT_EQ(Poi(), "clic su un'asta, o menu Selezioni; Esc termina") << "a key has the word";
     EXPECT_TRUE(d.Anteprima().Vuota());
     Muovi(0, 0);
     Passo("MouseLeave()", d.MouseLeave);
-    EXPECT_EQ(Poi(), "") << "the pointer has left";
+    EXPECT_EQ(Poi(), "clic su un'asta, o menu Selezioni; Esc termina") << "the pointer has left";
     EXPECT_EQ(f.LabCoord.Caption(), "") << "and its coordinates with it";
     Menu("Finestra");
-    Muovi(50, 50);
     EXPECT_EQ(Poi(), "clic: primo angolo");
     Clic(50, 50);
     EXPECT_EQ(Poi(), "clic: angolo opposto");

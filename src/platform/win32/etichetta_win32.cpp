@@ -4,7 +4,7 @@
 
 namespace telva {
 
-void EtichettaCentrataWin32::Disegna(const DRAWITEMSTRUCT &d) const {
+void EtichettaADestraWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     constexpr UINT kModo = DT_WORDBREAK | DT_NOPREFIX | DT_RIGHT;
     const std::wstring testo = ALargo(Testo());
     const int lunghezza = static_cast<int>(testo.size());

@@ -33,7 +33,7 @@ class EtichettaWin32 : public PariDi<Etichetta> {
 };
 
 // On several lines, centred in its height, against its right edge: the window has it painted.
-class EtichettaCentrataWin32 : public EtichettaWin32 {
+class EtichettaADestraWin32 : public EtichettaWin32 {
   public:
     using EtichettaWin32::EtichettaWin32;
     void Disegna(const DRAWITEMSTRUCT &d) const override;

@@ -63,9 +63,9 @@ void FinestraWin32::CreaNativa(HWND proprietaria) {
 }
 
 void FinestraWin32::CreaControlli() {
-    suggerimenti_.Crea(hwnd_, modulo_.dpi);
+    suggerimenti_.Crea(hwnd_);
     font_ = FontWin32(modulo_.dpi);
-    suggerimenti_.ImpostaFont(font_[StileFont::Normale]);
+    suggerimenti_.Adegua(font_[StileFont::Normale], modulo_.dpi);
     controlli_.Crea(modulo_, *this);
 }
 
@@ -171,7 +171,7 @@ void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     misura_.Riduci();
     const FontWin32 prima =
         std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
-    suggerimenti_.ImpostaFont(font_[StileFont::Normale]);
+    suggerimenti_.Adegua(font_[StileFont::Normale], modulo_.dpi);
     if (menu_) menu_->DpiCambiato();
     for (const auto &p : controlli_) {
         p->AggiornaFont(true);

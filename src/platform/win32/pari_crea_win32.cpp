@@ -24,7 +24,7 @@ std::unique_ptr<PariWin32> Nuovo(Controllo &c, OspiteWin32 &finestra) {
 
 std::unique_ptr<PariWin32> NuovaEtichetta(Controllo &c, OspiteWin32 &finestra) {
     switch (static_cast<Etichetta &>(c).stile) {
-    case StileEtichetta::Centrata: return Nuovo<EtichettaCentrataWin32, Etichetta>(c, finestra);
+    case StileEtichetta::ADestra: return Nuovo<EtichettaADestraWin32, Etichetta>(c, finestra);
     case StileEtichetta::Stato: return Nuovo<EtichettaStatoWin32, Etichetta>(c, finestra);
     case StileEtichetta::Riassunto: return Nuovo<RiassuntoWin32, Etichetta>(c, finestra);
     default: return Nuovo<EtichettaWin32, Etichetta>(c, finestra);

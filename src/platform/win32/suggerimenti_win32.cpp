@@ -7,21 +7,22 @@ namespace telva {
 namespace {
 
 constexpr LPARAM kMillisecondi = 30000; // a long list takes its time to be read
+constexpr int kLarghezza = 600;         // pixels at 100 %
 
 } // namespace
 
-void SuggerimentiWin32::Crea(HWND finestra, double dpi) {
+void SuggerimentiWin32::Crea(HWND finestra) {
     finestra_ = finestra;
     hwnd_ = Richiesto(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                       WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, finestra,
                                       nullptr, GetModuleHandleW(nullptr), nullptr),
                       "CreateWindowEx(tooltips_class32)");
     SendMessageW(hwnd_, TTM_SETDELAYTIME, TTDT_AUTOPOP, kMillisecondi);
-    SendMessageW(hwnd_, TTM_SETMAXTIPWIDTH, 0, MulDiv(600, static_cast<int>(dpi), 96));
 }
 
-void SuggerimentiWin32::ImpostaFont(HFONT font) const {
+void SuggerimentiWin32::Adegua(HFONT font, double dpi) const {
     SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    SendMessageW(hwnd_, TTM_SETMAXTIPWIDTH, 0, MulDiv(kLarghezza, static_cast<int>(dpi), 96));
 }
 
 void SuggerimentiWin32::Imposta(HWND nativo, std::wstring testo) {

@@ -10,10 +10,11 @@ namespace telva {
 class SuggerimentiWin32 {
   public:
     // Tips for controls in `finestra`, which owns the native window and takes it away with itself.
-    void Crea(HWND finestra, double dpi);
+    void Crea(HWND finestra);
     // What a control's tip says; no tip when the text is empty.
     void Imposta(HWND nativo, std::wstring testo);
-    void ImpostaFont(HFONT font) const;
+    // Letters and greatest width as the window's DPI asks for them.
+    void Adegua(HFONT font, double dpi) const;
 
   private:
     HWND finestra_ = nullptr, hwnd_ = nullptr;

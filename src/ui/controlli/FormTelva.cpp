@@ -11,7 +11,7 @@ ModuloTelva::ModuloTelva() : Modulo("FormTelva") {
     Frame2.bordo = false;
     FrameInput.bordo = false;
     FrameCoord.bordo = false;
-    Domanda.stile = StileEtichetta::Centrata;
+    Domanda.stile = StileEtichetta::ADestra;
     LabCoord.stile = StileEtichetta::SuPiuRighe;
     Label6.stile = StileEtichetta::SuPiuRighe;
     StringaSel.stile = StileEtichetta::Riassunto;
