@@ -29,12 +29,21 @@ bool FuoriIngombro(double p, double estremoI, double estremoJ) {
            std::abs(p - estremoJ) - ampiezza >= TrappolaDis;
 }
 
+// Farther from both ends, in one direction, than a point of the side can be.
+bool Discosto(double p, double estremo1, double estremo2) {
+    constexpr double kDiscosto = 2 * kLatoNullo; // rounding covered
+    return p < std::min(estremo1, estremo2) - kDiscosto ||
+           p > std::max(estremo1, estremo2) + kDiscosto;
+}
+
 // On the side from (x1, y1) to (x2, y2), its ends included.
 bool SulLato(double x, double y, double x1, double y1, double x2, double y2) {
+    if (Discosto(x, x1, x2) || Discosto(y, y1, y2)) return false; // nearly all: without a division
     const double dx = x2 - x1, dy = y2 - y1;
     const double l2 = dx * dx + dy * dy;
     const double t = l2 > 0 ? std::clamp(((x - x1) * dx + (y - y1) * dy) / l2, 0.0, 1.0) : 0;
-    return std::hypot(x - x1 - t * dx, y - y1 - t * dy) < kLatoNullo;
+    const double scartoX = x - x1 - t * dx, scartoY = y - y1 - t * dy;
+    return scartoX * scartoX + scartoY * scartoY < kLatoNullo * kLatoNullo;
 }
 
 // True when the side crosses the horizontal ray from (x, y) to the right. A side with next to no
