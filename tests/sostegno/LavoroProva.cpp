@@ -31,31 +31,21 @@ void Nodi(LavoroProva &l) {
         const int riga = n / 3, colonna = n % 3;
         l.punti.push_back({colonna * 100.0, 0, riga * 100.0});
         l.nodi.push_back(
-            {.punto = n, .nome = n + 1, .colore = n % 3 + 1, .tipo = n % 4, .vincolo = riga});
+            {.punto = n, .nome = n + 1, .colore = colonna + 1, .tipo = n % 4, .vincolo = riga});
     }
 }
 
 void Aste(LavoroProva &l) {
     for (int n = 0; n < 6; ++n) { // along x, row by row
         const int riga = n / 2, colonna = n % 2, i = riga * 3 + colonna;
-        l.aste.push_back({.i = i,
-                          .j = i + 1,
-                          .nome = n + 1,
-                          .colore = riga + 1,
-                          .tipo = riga,
-                          .sezione = riga % 2 + 1,
-                          .svincolo = colonna,
-                          .orientamento = riga + 1});
+        l.aste.push_back({.i = i, .j = i + 1, .nome = n + 1, .colore = riga + 1, .tipo = riga});
+        LavoroProva::Asta &a = l.aste.back();
+        a.sezione = riga % 2 + 1, a.svincolo = colonna, a.orientamento = riga + 1;
     }
     for (int n = 0; n < 6; ++n) { // along z, column by column
         const int i = n % 2 * 3 + n / 2;
-        l.aste.push_back({.i = i,
-                          .j = i + 3,
-                          .nome = n + 7,
-                          .colore = 5,
-                          .tipo = 4,
-                          .sezione = 2,
-                          .orientamento = 7});
+        l.aste.push_back({.i = i, .j = i + 3, .nome = n + 7, .colore = 5, .tipo = 4});
+        l.aste.back().sezione = 2, l.aste.back().orientamento = 7;
     }
 }
 

@@ -83,23 +83,16 @@ struct DialogoRappresentazione : Utente {
 };
 
 TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
-    const VoceOpzioni<CasellaSpunta> spunte[] = {
+    std::vector<VoceOpzioni<CasellaSpunta>> spunte = {
         {.casella = f.CheckSpGus, .voce = kOpzNascondiSottili},
         {.casella = f.CheckTxtNodi, .voce = kOpzTestiNodi},
         {.casella = f.CheckTxtAste, .voce = kOpzTestiAste},
         {.casella = f.CheckTxtGusci, .voce = kOpzTestiGusci},
-        {.casella = f.TxtNodi[0], .voce = kOpzPartiNodi},
-        {.casella = f.TxtNodi[1], .voce = kOpzPartiNodi + 1},
-        {.casella = f.TxtAste[0], .voce = kOpzPartiAste},
-        {.casella = f.TxtAste[1], .voce = kOpzPartiAste + 1},
-        {.casella = f.TxtAste[2], .voce = kOpzPartiAste + 2},
-        {.casella = f.TxtAste[3], .voce = kOpzPartiAste + 3},
-        {.casella = f.TxtAste[4], .voce = kOpzPartiAste + 4},
-        {.casella = f.TxtGusci[0], .voce = kOpzPartiGusci},
-        {.casella = f.TxtGusci[1], .voce = kOpzPartiGusci + 1},
-        {.casella = f.TxtGusci[2], .voce = kOpzPartiGusci + 2},
         {.casella = f.CheckTxtElCont, .voce = kOpzTestiElCont},
         {.casella = f.TxtElCont, .voce = kOpzNomeElCont}};
+    for (int k = 0; k < 2; ++k) spunte.push_back({f.TxtNodi[k], kOpzPartiNodi + k});
+    for (int k = 0; k < 5; ++k) spunte.push_back({f.TxtAste[k], kOpzPartiAste + k});
+    for (int k = 0; k < 3; ++k) spunte.push_back({f.TxtGusci[k], kOpzPartiGusci + k});
     for (const VoceOpzioni<CasellaSpunta> &s : spunte) {
         const double opposto = OpzioneAttiva(s.voce) ? 0 : 1;
         Cambia(s.casella.NomeControllo(), s.voce, opposto, [&] { s.casella.Premi(); });
