@@ -46,13 +46,6 @@ struct Foglio : LavoroProva {
         const int j = Punto(x, z);
         aste.push_back({.i = i, .j = j, .nome = ++nomi, .colore = colore, .tipo = tipo});
     }
-    void Raggi(double x, double z, double lungo, int colore) {
-        for (int gradi = 0; gradi < 360; gradi += 15) {
-            const double angolo = gradi * std::numbers::pi / 180;
-            const double c = std::cos(angolo), s = std::sin(angolo);
-            Linea(x + 12 * c, z + 12 * s, x + lungo * c, z + lungo * s, colore);
-        }
-    }
     // A slanting quadrilateral in the square of side `lato` whose lower left corner is (x, z).
     void Quadrilatero(double x, double z, double lato, int tratto, int colore) {
         QuadrilateroDa(Punto(x, z), lato, tratto, colore);
@@ -155,23 +148,6 @@ TEST_F(Immagini, LavoroInAssonometria) {
     ASSERT_TRUE(ProiettaNodi());
     Adatta();
     Confronta("lavoro_assonometria");
-}
-
-TEST_F(Immagini, Penne) {
-    Foglio f;
-    f.Raggi(80, 80, 70, 1);
-    f.Raggi(240, 80, 70, 4);
-    f.Raggi(400, 80, 70, 9);
-    f.NodoVisibile(80, 80, 3);
-    f.NodoVisibile(240, 80, 3);
-    f.Triangolo(20, 165, 60, 0, 5);
-    f.Quadrilatero(220, 165, 60, 1, 7);
-    ApriFoglio(f, 480, 240);
-    for (int b = 24; b < 48; ++b) SelAsta[b] = 1;
-    SelNodo[f.aste[48].i - 1] = SelGuscio[1] = 1;
-    Opzioni[kOpzPennaNonSel] = 2.0;
-    Opzioni[kOpzPennaSel] = 5.0;
-    Confronta("penne");
 }
 
 TEST_F(Immagini, ColoriDegliElementi) {
