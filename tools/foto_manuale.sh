@@ -44,7 +44,7 @@ numeri() {
 
 mkdir -p "$immagini"
 rm -f "$immagini"/manuale_*.png
-for nome in elenco rettangolo rimuovi colore diretta filtri vista opzioni etichette; do
+for nome in elenco rettangolo rimuovi menu colore diretta filtri vista opzioni etichette; do
     converti "$nome" "$nome"
 done
 numeri 420,13 320,33 345,55 455,88 60,140 978,128 978,240 964,325 838,704 930,676 168,727 786,722 420,727

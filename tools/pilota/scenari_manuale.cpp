@@ -125,8 +125,19 @@ void PerRettangolo(Seduta &s) {
     s.RimuoviTutto();
 }
 
+// Leaves the menus that it opens.
+void MenuDeiColori(Seduta &s) {
+    for (const char *tasto : {"Alt+S", "c", "Su"}) Manda(Accordo(tasto));
+    s.AspettaDisegno();
+    s.Foto("menu");
+    for (int k = 0; k < 3; ++k) Manda(Accordo("Esc"));
+    s.Principale();
+    s.AspettaDisegno();
+}
+
 void PerColore(Seduta &s) {
     s.Premi("Ctrl+A");
+    MenuDeiColori(s);
     s.Scegli(kPerColoreGiallo);
     s.AspettaDisegno();
     s.Foto("colore");
