@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cwchar>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -129,11 +130,10 @@ class Telva {
     }
     // What has been left to paint is painted now.
     void Dipingi() const { SendMessageW(disegno_, WM_PAINT, 0, 0); }
-    // A move over nothing and one pixel painted: what the way into the program and out of it takes.
-    void Passaggio(int x, int y) const {
+    // A move over nothing and a little painted: what the way into the program and out of it takes.
+    void Passaggio(int x, int y, std::initializer_list<RECT> zone) const {
         Mouse(WM_MOUSEMOVE, x, y);
-        const RECT pixel{0, 0, 1, 1};
-        InvalidateRect(disegno_, &pixel, FALSE);
+        for (const RECT &zona : zone) InvalidateRect(disegno_, &zona, FALSE);
         Dipingi();
     }
     // Messages that wait in the program's queue all at once, until the last has been handled:
@@ -264,7 +264,12 @@ void Operazioni(Telva &t) {
     }
     int x = 0;
     Riga("Coordinate", Misura([&] { ++x; }, [&] { t.Mouse(WM_MOUSEMOVE, 300 + x, 300); }, 45));
-    Riga("Mezzo/passaggio", Misura([&] { ++x; }, [&] { t.Passaggio(3 + x % 2, 3); }, 45));
+    const auto passaggio = [&](const char *nome, std::initializer_list<RECT> zone) {
+        Riga(nome, Misura([&] { ++x; }, [&] { t.Passaggio(3 + x % 2, 3, zone); }, 45));
+    };
+    const auto [destra, sotto] = t.Angolo();
+    passaggio("Mezzo/passaggio", {{0, 0, 1, 1}});
+    passaggio("Mezzo/angoli", {{0, 0, 1, 1}, {destra - 20, sotto - 20, destra - 19, sotto - 19}});
     Dirette(t);
     Anteprime(t);
     Liste(t);

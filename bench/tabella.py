@@ -33,6 +33,7 @@ RIGHE = [
     ("compact list, names in the worst order", ["ListaCompatta"], 2, None, None),
     ("names to indexes, 2000 x 300 bars", ["Conversione"], 15, None, None),
     ("limit: a move and one pixel painted", ["Mezzo/passaggio"], None, None, None),
+    ("limit: a move and two pixels painted, in opposite corners", ["Mezzo/angoli"], None, None, None),
     ("middle-button drag, one move (60 pictures a second; 30)", ["Trascinamento"], None, 16.7, 2),
     ("middle-button drag, ten moves that wait", ["Trascinamento/dieci"], None, None, None),
     ("wheel, ten steps that wait", ["Rotella/dieci"], None, None, None),
