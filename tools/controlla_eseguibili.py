@@ -18,6 +18,7 @@ ATTESI = {"MajorOSystemVersion": "6", "MinorOSystemVersion": "1", "MajorSubsyste
 # DYNAMIC_BASE, NX_COMPAT, TERMINAL_SERVICE_AWARE, and for 64 bit HIGH_ENTROPY_VA
 PROTEZIONI, PROTEZIONI_64 = 0x8140, 0x8160
 INDIRIZZI_GRANDI = 0x20
+BYTE_MASSIMI = 1 << 20
 PROTEZIONE_STACK = b"stack smashing detected"
 
 
@@ -61,6 +62,8 @@ def difetti(file, ammesse):
         yield f"DllCharacteristics {campi['DllCharacteristics']} lack some of {dovute:08x}"
     if not int(campi["Characteristics"], 16) & INDIRIZZI_GRANDI:
         yield "not large address aware"
+    if len(byte) >= BYTE_MASSIMI:
+        yield f"{len(byte)} bytes: it is to stay below {BYTE_MASSIMI}"
     if PROTEZIONE_STACK not in byte:
         yield "no stack protector"
     chiamate = set(importate(testo))
