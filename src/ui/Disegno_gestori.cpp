@@ -34,6 +34,7 @@ double primoX = 0, primoY = 0; // first corner
 struct Mostrato {
     FinestraDisegno zoom;
     double sinistra = 0, alto = 0, larghezza = 0, altezza = 0; // of the scale
+    double pixelX = 0, pixelY = 0; // to the unit: a box of the same aspect fits the same window
     friend bool operator==(const Mostrato &, const Mostrato &) = default;
 };
 
@@ -49,7 +50,8 @@ RiquadroDisegno &Disegno() { return FormTelva.Disegno; }
 
 Mostrato Ora() {
     const RiquadroDisegno &d = Disegno();
-    return {FinestraZoom, d.ScaleLeft, d.ScaleTop, d.ScaleWidth, d.ScaleHeight};
+    return {FinestraZoom,  d.ScaleLeft, d.ScaleTop, d.ScaleWidth,
+            d.ScaleHeight, d.ScalaX(),  d.ScalaY()};
 }
 
 // After a zoom or a pan: the gesture of the selection goes on, and is named again.

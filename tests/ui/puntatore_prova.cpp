@@ -136,7 +136,10 @@ TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
         std::function<void()> fai;
     };
     const Caso casi[] = {
-        {"resize", [&] { Ridimensiona(9000, 8000); }},
+        {"resize", // the box twice as large, in twips, 15 to the pixel: its aspect stays
+         [&] {
+             Ridimensiona(f.Width + 15 * d.LarghezzaPixel(), f.Height + 15 * d.AltezzaPixel());
+         }},
         {"interval", [&] { Intervallo(Estremo::MaxX, "100"); }},
         {"angle", [&] { Angolo(Asse::X, "30"); }},
         {"side bar", [&] { Menu("BarraLat"); }},
