@@ -16,13 +16,13 @@ namespace telva {
 namespace {
 
 // A text that is no number is told and gives way to the last one that was, which stands ready to be
-// typed over.
+// typed over; not in a bar that has just gone, where keys would be lost.
 bool Controlla(CasellaNumero &casella, const char *messaggio, const char *consiglio = "") {
     if (casella.Valida() || casella.Text == casella.Accolto()) return true;
     const std::string testo = casella.Text;
     casella.Ripristina();
     MostraMessaggio(messaggio + Cita(testo) + consiglio, Gravita::Critica, "ERRORE");
-    casella.SetFocus();
+    if (casella.VisibileDavvero()) casella.SetFocus();
     return false;
 }
 

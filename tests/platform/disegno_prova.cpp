@@ -75,4 +75,25 @@ TEST_F(RiquadroProva, UnaLineaDaLontanissimoPassaDovePasserebbe) {
     }
 }
 
+TEST_F(RiquadroProva, IlDisegnoTrattenutoSiFaUnaVoltaSolaAllaFine) {
+    int fatti = 0;
+    d.Ridisegna = [&] { ++fatti; };
+    EXPECT_FALSE(d.Rimandata()) << "nothing holds it back";
+    d.Trattieni();
+    d.Rilascia();
+    EXPECT_EQ(fatti, 0) << "none was asked for";
+    d.Trattieni();
+    d.Trattieni();
+    EXPECT_TRUE(d.Rimandata());
+    EXPECT_TRUE(d.Rimandata());
+    d.Rilascia();
+    EXPECT_EQ(fatti, 0) << "the outer one still holds it";
+    EXPECT_TRUE(d.Rimandata());
+    d.Rilascia();
+    EXPECT_EQ(fatti, 1);
+    d.Trattieni();
+    d.Rilascia();
+    EXPECT_EQ(fatti, 1) << "it is owed no more";
+}
+
 } // namespace telva::prove

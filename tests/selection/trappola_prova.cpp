@@ -85,6 +85,21 @@ TEST_F(TrappolaProva, DiUnNodoContaLaDistanzaEPoiLOrdine) {
     Prende(kNodiTipo, 18, {{100, 180}});
 }
 
+TEST_F(TrappolaProva, ContanoICinquantaPrimi) {
+    const auto fino = [&](const auto &aggiungi) { // the 50th is near, the one after it nearest
+        for (int k = 1; k < 50; ++k) aggiungi(4);
+        aggiungi(2);
+        aggiungi(0);
+    };
+    fino([&](int lontano) {
+        NodiDa(static_cast<int>(lavoro.nodi.size()) + 1, {{100.0 + lontano, 20}});
+    });
+    fino([&](int lontano) { Asta({100, 500.0 + lontano}, {130, 500.0 + lontano}); });
+    ApriAlPixel();
+    Prende(kNodiTipo, 50, {{100, 20}});
+    Prende(kAsteTipo, 50, {{115, 500}});
+}
+
 TEST_F(TrappolaProva, LaTrappolaCresceConLaFinestra) {
     Nodo({100, 20}, 1);
     ApriAlPixel();

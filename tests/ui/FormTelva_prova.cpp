@@ -68,6 +68,19 @@ TEST_F(FormTelvaProva, NumeriRifiutatiSenzaStruttura) {
     EXPECT_EQ(f.fuoco, &f.IntX[0]);
 }
 
+TEST_F(FormTelvaProva, UnIntervalloRifiutatoConLaSuaBarraNonPrendeITasti) {
+    f.fuoco = nullptr;
+    Intervallo(Estremo::MinX, "abc", false);
+    Menu("BarraLat");
+    EXPECT_EQ(Detto(), "ERRORE: Intervallo di coordinate non valido: abc");
+    EXPECT_EQ(f.IntX[0].Text(), "0");
+    EXPECT_EQ(f.fuoco, nullptr) << "a hidden box";
+    Menu("BarraLat");
+    Intervallo(Estremo::MinX, "abc", false);
+    Menu("BarraIcone");
+    EXPECT_EQ(f.fuoco, &f.IntX[0]) << "to be seen, and corrected";
+}
+
 // --- the window system, as far as the forms ask for it
 
 TEST_F(FormTelvaProva, LaXChiudeLaFinestraEIlDialogoAperto) {

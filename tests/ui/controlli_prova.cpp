@@ -106,6 +106,14 @@ TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
     for (int k = 0; k < 3; ++k) {
         EXPECT_EQ(f.Label2[k].stile, StileEtichetta::Pedice);
         EXPECT_TRUE(f.Angolo[k].stretta);
+        const Controllo *campo[] = {&f.IntX[0], &f.IntY[0], &f.IntZ[0]};
+        const std::string asse(1, "XYZ"[k]);
+        EXPECT_EQ(f.LabelAsse[k].Caption, asse);
+        EXPECT_EQ(f.LabelAsse[k].Top(), campo[k]->Top()) << "beside its own box";
+        EXPECT_EQ(f.Label2[k].Caption, asse);
+        EXPECT_EQ(f.Label2[k].Left + f.Label2[k].Width, f.Angolo[k].Left()) << "before its own box";
+        EXPECT_EQ(f.Angolo[k].Text, k < 2 ? "30" : "0");
+        EXPECT_NE(f.Angolo[k].ToolTipText().find("asse " + asse + ","), std::string::npos);
     }
     for (const Controllo *c : f.controlli)
         if (const auto *cornice = dynamic_cast<const Cornice *>(c)) {
@@ -121,18 +129,33 @@ TEST_F(ControlliProva, OgniControlloHaIlSuoPostoAOgniMisura) {
     const Caso casi[] = {
         {.larghezza = 5550, .altezza = 7120, .laterale = true, .icone = true, .coordinate = true},
         {.larghezza = 15000, .altezza = 11400, .laterale = true, .icone = true, .coordinate = true},
-        {.larghezza = 6000, .altezza = 20000, .laterale = false, .icone = true, .coordinate = true},
+        {.larghezza = 9000, .altezza = 8000, .laterale = true, .icone = true, .coordinate = false},
+        {.larghezza = 6000,
+         .altezza = 20000,
+         .laterale = false,
+         .icone = true,
+         .coordinate = false},
         {.larghezza = 7000, .altezza = 7120, .laterale = true, .icone = false, .coordinate = false},
         {.larghezza = 5550, .altezza = 9000, .laterale = false, .icone = false, .coordinate = true},
     };
     for (const auto &[w, h, laterale, icone, coordinate] : casi) {
+        Ridimensiona(w, h);
+        // Each of them lays the window out again, and is the last one in some case.
+        if (f.VisCoord.Checked != coordinate) Menu("VisCoord");
         if (f.BarraLat.Checked != laterale) Menu("BarraLat");
         if (f.BarraIcone.Checked != icone) Menu("BarraIcone");
-        if (f.VisCoord.Checked != coordinate) Menu("VisCoord");
-        Ridimensiona(w, h);
         ControllaCheStiano(f);
         EXPECT_EQ(f.FrameInput.Width, w - 180);
         EXPECT_EQ(f.FrameInput.Top, icone ? 405 : 5);
+        EXPECT_EQ(f.Risposta.Left, f.FrameInput.Width - 2600);
+        EXPECT_EQ(f.FrameCoord.Width, w - 5550);
+        EXPECT_EQ(f.LabCoord.Left, f.FrameCoord.Width - 1000);
+        if (f.LabStato.Visible) {
+            EXPECT_EQ(f.LabStato.Left, 2730) << "after the function";
+            EXPECT_EQ(f.LabStato.Left + f.LabStato.Width + 90,
+                      coordinate ? f.Label6.LeftAssoluto() : w - 180);
+        }
+        EXPECT_EQ(f.LabStato.Visible, w > (coordinate ? 6600 : 3900));
         EXPECT_EQ(f.Disegno.Width, laterale ? w - 3024 : w - 124);
         EXPECT_EQ(f.Disegno.Height, icone ? h - 2700 : h - 2300);
         EXPECT_EQ(f.Disegno.Immagine().Larghezza(), f.Disegno.LarghezzaPixel());

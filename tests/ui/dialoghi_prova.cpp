@@ -4,6 +4,7 @@
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
+#include "view/colori.h"
 
 namespace telva::prove {
 
@@ -124,6 +125,18 @@ TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
         for (int k = 0; k < ModuloOpt::kCampioni; ++k)
             EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 1) << codice;
         f.Chiudi();
+    }
+}
+
+TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
+    Menu("Rappresentazione");
+    for (int scelto = 0; scelto < ModuloOpt::kCampioni; ++scelto) {
+        f.LabelCol[scelto].Click();
+        EXPECT_EQ(f.LabelCol[scelto].BackColor, ColoreRGB(scelto)) << "as the labels are drawn";
+        for (int k = 0; k < ModuloOpt::kCampioni; ++k) {
+            EXPECT_EQ(f.LabelCol[k].Marcato, k == scelto) << k << " while chosen is " << scelto;
+            EXPECT_EQ(f.LabelBordCol[k].Marcato, k == scelto) << "the frame of " << k;
+        }
     }
 }
 

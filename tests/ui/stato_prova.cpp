@@ -1,6 +1,7 @@
 // The line of state, and what a click would take: told before it is made, and then so. How many are
 // selected and hidden, and what the caller asks for, is known to the random sequences.
 #include "model/elementi.h"
+#include "model/opzioni_cond.h"
 #include "selection/selezione.h"
 #include "sostegno/Utente.h"
 #include "ui/controlli/FormTelva.h"
@@ -123,6 +124,19 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
         EXPECT_EQ(d.Anteprima().linee.size(), linee);
         EXPECT_EQ(d.Anteprima().cerchi.size(), cerchi);
     }
+}
+
+TEST_F(StatoProva, IlContornoDiUnNodoCresceConLaFinestra) {
+    ApriCon(kNodiTipo);
+    Menu("Aggiungi");
+    Opzioni[kOpzRaggioNodo] = 5.0; // pixels at 100 %
+    for (const double dpi : {96.0, 144.0, 192.0}) {
+        f.dpi = dpi;
+        Menu("Ottimizza");
+        Muovi(0, 0);
+        EXPECT_EQ(d.Anteprima().cerchi.at(0).raggio, 5 * dpi / 96);
+    }
+    f.dpi = 96;
 }
 
 TEST_F(StatoProva, CheCosaRestaSenzaIlPuntatoreEConUnaFinestra) {
