@@ -30,14 +30,17 @@ void Incornicia(Superficie &s, int spessore) {
     }
 }
 
-// One colour, or all that the menu names, in three rows.
+// One colour, or all that the menu names, in as many rows as columns; squares to spare go round to
+// the first colours.
 void DisegnaColori(Superficie &s, int codice) {
-    constexpr int kLato = 3;
-    static_assert(kNumeroColori - kBianco == kLato * kLato);
+    constexpr int kMostrati = kNumeroColori - kBianco;
+    int lato = 1;
+    while (lato * lato < kMostrati) ++lato;
     for (int y = 0; y < s.Altezza(); ++y)
         for (int x = 0; x < s.Larghezza(); ++x) {
-            const int casella = y * kLato / s.Altezza() * kLato + x * kLato / s.Larghezza();
-            s.Riga(y)[x] = APixelRGB(ColoreRGB(codice == kOgniColore ? kBianco + casella : codice));
+            const int casella = y * lato / s.Altezza() * lato + x * lato / s.Larghezza();
+            s.Riga(y)[x] = APixelRGB(
+                ColoreRGB(codice == kOgniColore ? kBianco + casella % kMostrati : codice));
         }
 }
 

@@ -4,6 +4,7 @@
 #include "sostegno/Banco.h"
 #include "ui/comandi.h"
 #include "view/colori.h"
+#include "view/retini.h"
 
 #include <cmath>
 #include <set>
@@ -67,6 +68,36 @@ TEST_F(FigureMenu, UnColoreEQuelloDellaSuaTabella) {
     const Figura tutti = DisegnaFigura({.genere = Genere::Colore, .codice = kOgniColore}, 13, 1);
     EXPECT_EQ(tutti.pixel[1 * 13 + 1], 0xFFFFFFFFu) << "the first one, in a corner";
     EXPECT_EQ(tutti.pixel[11 * 13 + 11], 0xFFFFA346u) << "the last";
+}
+
+TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
+    const char *const tratti[] = {"##########################", "#########.....#########...",
+                                  "##....##....##....##....##", "#########.....##....######",
+                                  "#########.....##....##...."};
+    for (int tipo = 0; tipo < 5; ++tipo) {
+        const Figura f = DisegnaFigura({.genere = Genere::Linea, .codice = tipo}, 13, 1);
+        std::string riga; // in the middle, from the beginning of the line on
+        for (std::size_t x = 2; x < 28; ++x) riga += f.pixel[6 * 39 + x] == 0xFFFFFFFF ? '#' : '.';
+        EXPECT_EQ(riga, tratti[tipo]) << "type " << tipo;
+    }
+}
+
+// What hatch a number is, the pictures of the drawing tell.
+TEST_F(FigureMenu, UnTratteggioEQuelloDelDisegno) {
+    constexpr Pixel kAngoli[] = {{0, 0}, {39, 0}, {39, 13}, {0, 13}};
+    for (int tipo = 1; tipo <= 8; ++tipo) {
+        const Figura f = DisegnaFigura({.genere = Genere::Retino, .codice = tipo}, 13, 1);
+        Superficie disegno;
+        disegno.Ridimensiona(39, 13);
+        disegno.Riempi(0);
+        Retini(0.4, 1).Riempi(disegno, kAngoli, tipo, 0xFFFFFF);
+        int diversi = 0;
+        for (int y = 1; y < 12; ++y) // inside the frame
+            for (int x = 1; x < 38; ++x)
+                diversi += f.pixel[static_cast<std::size_t>(39 * y + x)] !=
+                           (disegno.Leggi(x, y) | 0xFF000000);
+        EXPECT_EQ(diversi, 0) << "hatch " << tipo;
+    }
 }
 
 } // namespace telva::prove
