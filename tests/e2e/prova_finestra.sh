@@ -29,5 +29,5 @@ prova '' 1600x1000 '' || esito=1
 prova 144 1600x1000 '' || esito=1
 prova 192 1600x1000 "$sensibili" || esito=1
 prova '' 3840x2160 "$sensibili" || esito=1
-prova 144 800x600 'finestre_intere,finestra_alla_nascita,posto_impossibile' || esito=1
+prova 144 800x600 'finestre_intere,finestra_alla_nascita,posto_impossibile,testo_smisurato' || esito=1
 exit $esito

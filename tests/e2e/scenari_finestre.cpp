@@ -205,7 +205,7 @@ SCENARIO(testo_smisurato) {
     const std::string titolo = p.Testo(p.Principale());
     VERIFICA(titolo.size() > 10 && titolo.size() < 1000);
     p.Clic("Angolo(0)");
-    const std::wstring testo(1000000, L'x');
+    const std::wstring testo(1000000, L'W');
     SendMessageW(p.Controllo("Angolo(0)"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(testo.c_str()));
     p.Premi("Invio");
     VERIFICA(SiVedeIntera(p.AttendiRiquadro().finestra));

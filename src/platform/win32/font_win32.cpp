@@ -4,7 +4,7 @@
 
 namespace telva {
 
-FontWin32::FontWin32(double dpi) {
+LOGFONTW TipoMessaggi(double dpi) {
     NONCLIENTMETRICSW misure{};
     misure.cbSize = sizeof misure;
     LOGFONTW tipo{};
@@ -14,6 +14,11 @@ FontWin32::FontWin32(double dpi) {
         GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof tipo, &tipo);
     // The system tells the size for its own DPI; this window may stand on another monitor.
     tipo.lfHeight = MulDiv(tipo.lfHeight, static_cast<int>(dpi), static_cast<int>(DpiDi(nullptr)));
+    return tipo;
+}
+
+FontWin32::FontWin32(double dpi) {
+    const LOGFONTW tipo = TipoMessaggi(dpi);
     const auto crea = [](const LOGFONTW &come) {
         return Richiesto(CreateFontIndirectW(&come), "CreateFontIndirect");
     };

@@ -9,6 +9,9 @@
 
 namespace telva {
 
+// That of the system's own boxes.
+LOGFONTW TipoMessaggi(double dpi);
+
 enum class StileFont { Normale, Piccolo, Grassetto };
 
 class FontWin32 {

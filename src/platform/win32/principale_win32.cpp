@@ -1,8 +1,8 @@
 // The process: argument string, message loop, windows and boxes of the system.
 #include "platform/messaggi.h"
-#include "platform/mostrabile.h"
 #include "platform/programma.h"
 #include "platform/win32/finestra_win32.h"
+#include "platform/win32/riquadro_win32.h"
 #include "platform/win32/schermo_win32.h"
 
 #include <algorithm>
@@ -12,8 +12,6 @@
 
 namespace telva {
 namespace {
-
-constexpr std::size_t kColonneRiquadro = 100;
 
 class Sistema : public SistemaFinestre {
   public:
@@ -123,10 +121,9 @@ int Esegui() {
     InitCommonControlsEx(&classi);
     ImpostaMessaggi([](const std::string &testo, Gravita gravita, const std::string &titolo) {
         ReleaseCapture(); // a drag ends where a box begins
-        const std::string mostrato =
-            ConRigheBrevi(Mostrabile(testo, kCaratteriRiquadro), kColonneRiquadro);
-        MessageBoxW(IlSistema().Attiva(), ALargo(mostrato).c_str(), ALargo(titolo).c_str(),
-                    MB_OK | MB_SETFOREGROUND | IconaMessaggio(gravita));
+        const HWND proprietaria = IlSistema().Attiva();
+        MessageBoxW(proprietaria, ALargo(NelRiquadro(testo, proprietaria)).c_str(),
+                    ALargo(titolo).c_str(), MB_OK | MB_SETFOREGROUND | IconaMessaggio(gravita));
     });
     // At once: nothing of what is still on the way may run any more.
     ImpostaFine([](int codice) {
