@@ -3,7 +3,7 @@
 # capacity and in three sizes of the picture; and in the real program, both builds, under Wine. Prints the tables.
 #   bench/misura.sh [ROUNDS]       (3; the builds take turns, and the best round counts)
 # The texts stay in build/misure.
-set -eu
+set -eu -o pipefail
 cd "$(dirname "$0")/.."
 giri=${1:-3} fuori=build/misure
 tools/prepara.sh

@@ -78,6 +78,11 @@ void Attendi(const char *cosa, Fatto fatto) {
         if (Adesso() > limite) throw Fallito(std::string("waited in vain for ") + cosa);
 }
 
+BOOL CALLBACK Dipingi(HWND finestra, LPARAM) {
+    SendMessageW(finestra, WM_PAINT, 0, 0);
+    return TRUE;
+}
+
 // From the start of the process to the first picture.
 Tempi Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar_t *classe) {
     std::vector<double> tempi;
@@ -86,7 +91,8 @@ Tempi Avvio(const std::wstring &exe, const std::wstring &argomento, const wchar_
         Programma p(exe, argomento);
         HWND finestra = nullptr;
         while (!(finestra = FindWindowW(classe, nullptr)) || !IsWindowVisible(finestra)) Sleep(1);
-        SendMessageW(finestra, WM_NULL, 0, 0);
+        Dipingi(finestra, 0);
+        EnumChildWindows(finestra, Dipingi, 0);
         tempi.push_back(Adesso() - da);
         PostMessageW(finestra, WM_SYSCOMMAND, SC_CLOSE, 0);
         p.AttendiFine();
@@ -251,6 +257,8 @@ void Trascinamento(const Telva &t) {
     Riga("Trascinamento/dieci", Ripeti([&] { t.Raffica(mosse); }, 9));
     t.Mouse(WM_MBUTTONUP, x, y);
     Riga("Rotella/dieci", Ripeti([&] { t.Raffica(scatti); }, 9));
+    int scatto = 0;
+    Riga("Rotella", Ripeti([&] { t.Raffica({scatti[++scatto % 2]}); }, 10));
 }
 
 void Operazioni(Telva &t) {
@@ -270,6 +278,7 @@ void Operazioni(Telva &t) {
     const auto [destra, sotto] = t.Angolo();
     passaggio("Mezzo/passaggio", {{0, 0, 1, 1}});
     passaggio("Mezzo/angoli", {{0, 0, 1, 1}, {destra - 20, sotto - 20, destra - 19, sotto - 19}});
+    passaggio("Mezzo/quadro", {{0, 0, destra, sotto}});
     Dirette(t);
     Anteprime(t);
     Liste(t);
@@ -277,11 +286,16 @@ void Operazioni(Telva &t) {
     Trascinamento(t);
 }
 
-// The bare program: its start, and what it holds with a window of the same size.
+// Both programs with a window of the size that telva.exe is born with.
+void Avvii(const std::wstring &telva, const std::wstring &argomento, const std::wstring &vuota) {
+    Riga("Nuda/avvio", Avvio(vuota, L"1000x760", L"FinestraVuota"));
+    Riga("Programma/avvio", Avvio(telva, argomento, L"TelvaFinestra"));
+}
+
+// What the bare program holds with a window of the same size.
 void Nuda(const std::wstring &vuota) {
     const std::wstring misura = std::to_wstring(quadro.larghezza + kOltreX) + L"x" +
                                 std::to_wstring(quadro.altezza + kOltreY);
-    Riga("Nuda/avvio", Avvio(vuota, misura, L"FinestraVuota"));
     Programma p(vuota, misura);
     const HWND finestra = p.Principale(L"FinestraVuota");
     RigaMemoria("Nuda/MemoriaMiB", p);
@@ -307,8 +321,8 @@ int main() {
         std::swscanf(misura.c_str(), L"%dx%d", &quadro.larghezza, &quadro.altezza) != 2)
         return 2;
     try {
+        Avvii(telva, argomento, vuota);
         Nuda(vuota);
-        Riga("Programma/avvio", Avvio(telva, argomento, L"TelvaFinestra"));
         {
             Telva t(telva, argomento);
             Operazioni(t);

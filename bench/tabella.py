@@ -34,8 +34,10 @@ RIGHE = [
     ("names to indexes, 2000 x 300 bars", ["Conversione"], 15, None, None),
     ("limit: a move and one pixel painted", ["Mezzo/passaggio"], None, None, None),
     ("limit: a move and two pixels painted, in opposite corners", ["Mezzo/angoli"], None, None, None),
+    ("limit: a move and the whole picture painted", ["Mezzo/quadro"], None, None, None),
     ("middle-button drag, one move (60 pictures a second; 30)", ["Trascinamento"], None, 16.7, 2),
     ("middle-button drag, ten moves that wait", ["Trascinamento/dieci"], None, None, None),
+    ("wheel, one step (60 pictures a second; 30)", ["Rotella"], None, 16.7, 2),
     ("wheel, ten steps that wait", ["Rotella/dieci"], None, None, None),
     ("limit: clearing the picture", ["Mezzo/pulizia"], None, None, None),
     ("limit: copying the picture once in memory", ["Mezzo/copia"], None, None, None),
@@ -93,6 +95,11 @@ def senza_finestra(cartella):
              "target", "x64", "x86", "x86 / x64", "x64, 3840 × 2160", "x86", "x86 / x64"], righe)
 
 
+def differenza(misure, prove, quadro):
+    tutto, disegno = misure.massimo(prove, quadro), misure.massimo(["Ridisegno/niente"], quadro)
+    return max(tutto - disegno, 0.0) if tutto and disegno else None
+
+
 def finestra(cartella):
     x64, x86 = (Misure(cartella / f"finestra_{n}.txt", MEDIANA) for n in ("x64", "x86"))
     righe = []
@@ -102,13 +109,17 @@ def finestra(cartella):
             continue
         righe.append([nome, numero(limite), *map(numero, m86), rapporto(m86[2], m86[0]), str(cresce or ""),
                       *map(numero, m64), rapporto(m86[0], m64[0]), rapporto(m86[2], m64[2])])
+    oltre = [["beside the repaint: " + nome, "2", *map(numero, resti), rapporto(resti[2], resti[0]), "1"]
+             for nome, prova in (("direct pick", DIRETTE), ("list by name, nodes", ["Lista/nodi"]))
+             if None not in (resti := [differenza(x86, prova, q) for q in QUADRI])]
+    righe += [riga + [""] * 5 for riga in oltre]
     tabella(["real program (ms)", "target", "x86, 1000 × 650", "2560 × 1440", "3840 × 2160", "growth", "target",
              "x64, 1000 × 650", "2560 × 1440", "3840 × 2160", "x86 / x64", "at 3840 × 2160"], righe)
     righe = []
     for nome, prova, limite in (("start to the first picture, ms", "avvio", "25"),
                                 ("peak memory, MiB", "MemoriaMiB", "16 + the surface")):
         for bit, m in (("x86", x86), ("x64", x64)):
-            for q in QUADRI:
+            for q in QUADRI[:1] if prova == "avvio" else QUADRI:
                 vera, nuda = (m.massimo([f"{chi}/{prova}"], q) for chi in ("Programma", "Nuda"))
                 if vera and nuda:
                     righe.append([f"{nome}, {bit}, {q.replace('x', ' × ')}", numero(nuda), numero(vera),

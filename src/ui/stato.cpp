@@ -103,6 +103,12 @@ std::string Richiesta() {
     return std::string(p.richiesti) + ": " + p.molti;
 }
 
+// At most kCaratteriElenco of a list, to the end of a whole item.
+std::string Inizio(const std::string &elenco) {
+    if (elenco.size() <= kCaratteriElenco) return elenco;
+    return elenco.substr(0, elenco.rfind(',', kCaratteriElenco) + 1) + "…";
+}
+
 // What the pending property finds among the elements shown; or that it cannot be asked of this
 // kind.
 std::string Presenti(const SchedaProprieta &proprieta) {
@@ -114,8 +120,7 @@ std::string Presenti(const SchedaProprieta &proprieta) {
     if (proprieta.codice == kNome)
         return std::string(proprieta.presenti) + ": da " + TestoNumero(numeri.front()) + " a " +
                TestoNumero(numeri.back());
-    return std::string(proprieta.presenti) + ": " +
-           Mostrabile(FormattaNumeri(numeri), kCaratteriElenco);
+    return std::string(proprieta.presenti) + ": " + Inizio(FormattaNumeri(numeri));
 }
 
 std::string Descrizione(int tipo, int elemento) {

@@ -39,6 +39,11 @@ SCENARIO(dialogo_trappola) {
     s.TestoDiventa("TextTrappola", "0");
 }
 
+// The mark of the button that Enter presses.
+static bool Marcato(HWND bottone) {
+    return (GetWindowLongPtrW(bottone, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+}
+
 SCENARIO(dialogo_opzioni) {
     const Ambiente mio = Copia(amb);
     const auto file = mio.dati / "custom" / "TelOpzio.txt";
@@ -46,6 +51,9 @@ SCENARIO(dialogo_opzioni) {
     s.Fotografa("Disegno");
     s.ApriOpzioni();
     DIVENTA(s, s.HaFuoco("CheckSpGus"), true);
+    s.VaiA("Chiudi");
+    s.VaiA("SpNonSel");
+    DIVENTA(s, Marcato(s.Controllo("Salva")), true);
     s.Premi("Invio"); // "Salva"
     ChiudiRiquadro(s, {.titolo = "INFORMAZIONE", .testo = " Opzioni salvate ", .icona = "avviso"});
     std::vector<std::string> attese = Righe(file); // of the options as they are without a file

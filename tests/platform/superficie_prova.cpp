@@ -131,7 +131,8 @@ TEST_F(SuperficieProva, OgniFormaCopreQuelCheDiceLaSuaDefinizione) {
         for (int giro = 0; giro < 1500; ++giro) {
             Forma f = FormaACaso(genere);
             if (giro % 3 == 0 && genere != Genere::Cerchio) { // its ends far away
-                const int dx = Fra(-60, 60) * (1 << 21), dy = Fra(-60, 60) * (1 << 21);
+                const int lontano = 1 << Fra(6, 21);
+                const int dx = Fra(-60, 60) * lontano, dy = Fra(-60, 60) * lontano;
                 f.a = {Fra(0, 40) - dx, Fra(0, 33) - dy};
                 f.b = {f.a.x + 2 * dx, f.a.y + 2 * dy};
             }

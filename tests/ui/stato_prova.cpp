@@ -73,6 +73,17 @@ TEST_F(StatoProva, CheCosaSiPuoScrivere) {
     EXPECT_EQ(Poi(), "orientamenti presenti: -") << "nothing is shown";
 }
 
+TEST_F(StatoProva, UnElencoLungoFinisceConUnNumeroIntero) {
+    LavoroProva lungo = Telaio();
+    for (int k = 0; k < 300; ++k)
+        lungo.aste.push_back({.i = 1, .j = 2, .nome = 100 + k, .orientamento = 100 + 2 * k});
+    Apri(lungo);
+    Menu("Aggiungi");
+    Tipo(kAsteTipo);
+    Menu("SchOrientamento");
+    EXPECT_TRUE(Poi().ends_with(",344,…")) << Poi();
+}
+
 TEST_F(StatoProva, UnElementoContinuoContaConLaSchedaDiTutteLeSueAste) {
     LavoroProva misto = Telaio();
     misto.elementi = {{10, "", {1, 2}}, {20, "", {3, 7}}, {30, "", {7, 8}}};

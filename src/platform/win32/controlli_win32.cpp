@@ -19,8 +19,20 @@ void ControlliWin32::Crea(const Modulo &modulo, OspiteWin32 &finestra) {
     for (Controllo *c : modulo.controlli) {
         tutti_.push_back(CreaPari(*c, finestra));
         tutti_.back()->Nasci(precedente, id++);
+        if (c == modulo.predefinito) predefinito_ = tutti_.back()->Maniglia();
         precedente = tutti_.back().get();
     }
+}
+
+void ControlliWin32::SegnaPredefinito() const {
+    const HWND fuoco = GetFocus();
+    if (!predefinito_ || !fuoco) return;
+    const bool bottone = (SendMessageW(fuoco, WM_GETDLGCODE, 0, 0) &
+                          (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+    const LONG_PTR dovuto =
+        bottone && fuoco != predefinito_ ? BS_PUSHBUTTON : LONG_PTR{BS_DEFPUSHBUTTON};
+    if ((GetWindowLongPtrW(predefinito_, GWL_STYLE) & BS_TYPEMASK) != dovuto)
+        SendMessageW(predefinito_, BM_SETSTYLE, static_cast<WPARAM>(dovuto), TRUE);
 }
 
 bool ControlliWin32::TuttiInsieme() const {

@@ -23,6 +23,8 @@ class ControlliWin32 {
     // A notification goes to the one that it is for.
     void Notifica(const NMHDR &notifica) const;
     void ColoriCambiati() const;
+    // The button that Enter presses wears its mark unless the focus is on another button.
+    void SegnaPredefinito() const;
     // The window's background without what the controls cover anyway: nothing flickers while
     // resizing.
     void CancellaSfondo(HWND finestra, HDC dc) const;
@@ -32,6 +34,7 @@ class ControlliWin32 {
     void UnoPerUno() const;
 
     std::vector<std::unique_ptr<PariWin32>> tutti_;
+    HWND predefinito_ = nullptr;
     std::unordered_set<PariWin32 *> daPosizionare_;
 };
 

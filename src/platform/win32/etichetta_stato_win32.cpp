@@ -1,5 +1,7 @@
 #include "platform/win32/etichetta_stato_win32.h"
 
+#include "platform/mostrabile.h"
+
 #include <algorithm>
 
 namespace telva {
@@ -61,7 +63,12 @@ std::wstring EtichettaStatoWin32::TestoSuggerito() const {
     ReleaseDC(hwnd_, dc);
     const RECT r = Rettangolo();
     const bool intero = std::max(prima, seconda) <= r.right - r.left;
-    return intero ? std::wstring() : ALargo(controllo_.Caption());
+    if (intero) return {};
+    // Cards present have commas between them and no blank to break the line at.
+    constexpr std::size_t kColonne = 70, kRighe = 12;
+    const std::string &tutto = controllo_.Caption();
+    const std::size_t poi = std::min(tutto.find("\r\n"), tutto.size());
+    return ALargo(tutto.substr(0, poi) + ElencoInRighe(tutto.substr(poi), kColonne, kRighe, "…"));
 }
 
 } // namespace telva

@@ -218,7 +218,9 @@ bool FinestraWin32::PreTraduci(MSG &m) {
     if (m.message == WM_KEYDOWN || m.message == WM_SYSKEYDOWN) Distrai();
     if (menu_ && menu_->TraduciScorciatoia(m)) return true;
     if (tastiera_.Tratta(m)) return true;
-    return IsDialogMessageW(hwnd_, &m) != 0;
+    const bool trattato = IsDialogMessageW(hwnd_, &m) != 0;
+    controlli_.SegnaPredefinito(); // which that takes away and does not give back
+    return trattato;
 }
 
 } // namespace telva

@@ -11,21 +11,22 @@ namespace {
 constexpr double kAltezzaBarra = 400;
 constexpr double kDistanzaStato = 90, kStatoMinimo = 900;
 
-// Inside the two frames of the side bar, whose size never changes.
+// Inside the two frames of the side bar, whose size never changes: as far from the lower edge as
+// from the sides.
 void DisponiBarraLaterale(ModuloTelva &f) {
     for (int k = 0; k < f.OptElem.Numero(); ++k)
-        f.OptElem[k].Posiziona(120, 255 + k * 265, 2550, 245);
+        f.OptElem[k].Posiziona(120, 245 + k * 258, 2550, 245);
     CasellaSpunta *caselle[] = {&f.NodiAtt, &f.AsteAtt, &f.GusciAtt, &f.ElSelez, &f.ElNonSelez};
     double top = 245;
     for (CasellaSpunta *c : caselle) {
         c->Posiziona(120, top, 2550, 235);
-        top += 252;
+        top += 244;
     }
-    f.LabelInt.Posiziona(120, 1510, 2550, 225);
+    f.LabelInt.Posiziona(120, 1460, 2550, 225);
     Schiera<CasellaNumero, 2> *campi[] = {&f.IntX, &f.IntY, &f.IntZ};
     Pulsante *tutto[] = {&f.TuttoX, &f.TuttoY, &f.TuttoZ};
     for (int k = 0; k < 3; ++k) {
-        const double riga = 1745 + k * 320;
+        const double riga = 1690 + k * 310;
         f.LabelAsse[k].Posiziona(120, riga, 150, 290);
         (*campi[k])[0].Posiziona(300, riga, 800, 290);
         (*campi[k])[1].Posiziona(1130, riga, 800, 290);
