@@ -1,5 +1,6 @@
 #include "model/opzioni_cond.h"
 #include "model/struttura.h"
+#include "platform/mostrabile.h"
 #include "sostegno/Banco.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
@@ -115,6 +116,11 @@ TEST_F(Etichette, CioCheNonSiDisegnaNonHaEtichetta) {
             EXPECT_EQ(Scrive({genere}) > 9, mostrati) << "labels of option " << genere;
         }
     }
+}
+
+TEST_F(Etichette, UnNomeLunghissimoSiTaglia) {
+    NomeElCont[0] = std::string(4'000'000, 'x');
+    EXPECT_LT(EtichettaElCont(0).size(), kCaratteriNome + 20);
 }
 
 } // namespace telva::prove
