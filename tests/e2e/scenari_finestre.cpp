@@ -133,6 +133,21 @@ SCENARIO(barre_tolte_e_rimesse) {
     s.FotoUguale();
 }
 
+// With the side bar goes the box that has the focus, and a wrong number in it.
+SCENARIO(barre_tolte_con_un_numero_sbagliato) {
+    Sessione s(amb);
+    s.Riscrivi("IntX(0)", "abc");
+    s.PremiBottone("Attiva o disattiva la barra laterale");
+    ChiudiRiquadro(s, {.titolo = "ERRORE",
+                       .testo = "Intervallo di coordinate non valido: abc",
+                       .icona = "errore"});
+    DIVENTA(s, s.Visibile("IntX(0)"), false);
+    s.PuntaInDisparte();
+    s.Fotografa("Disegno");
+    s.Premi("Ctrl+Destra"); // a text box would keep it
+    s.FotoDiversa();
+}
+
 // Every run begins where the one before ended.
 SCENARIO(posto_ricordato) {
     std::string scelto;
