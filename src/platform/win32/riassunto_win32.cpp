@@ -12,6 +12,16 @@ constexpr int kMargine = 5; // pixels, the frame among them
 constexpr std::size_t kColonne = 70, kRighe = 12;
 static_assert((kColonne + 2) * (kRighe + 1) <= kCaratteriSuggerimento);
 
+// Another program may be looking into the clipboard right now.
+bool ApriAppunti(HWND finestra) {
+    constexpr int kTentativi = 10;
+    for (int n = 0; n < kTentativi; ++n) {
+        if (OpenClipboard(finestra)) return true;
+        Sleep(20);
+    }
+    return false;
+}
+
 } // namespace
 
 void RiassuntoWin32::Dipingi() const {
@@ -42,7 +52,7 @@ void RiassuntoWin32::Dipingi() const {
 void RiassuntoWin32::Copia() const {
     const std::wstring testo = ALargo(controllo_.Caption());
     const SIZE_T byte = (testo.size() + 1) * sizeof(wchar_t);
-    if (testo.empty() || !OpenClipboard(hwnd_)) return;
+    if (testo.empty() || !ApriAppunti(hwnd_)) return;
     EmptyClipboard();
     if (const HGLOBAL blocco = GlobalAlloc(GMEM_MOVEABLE, byte)) {
         if (void *dove = GlobalLock(blocco)) {
