@@ -12,6 +12,11 @@ namespace telva {
 inline constexpr std::size_t kCaratteriTitolo = 250, kCaratteriEtichetta = 4000,
                              kCaratteriSuggerimento = 1000, kCaratteriRiquadro = 1000;
 
+// What a tip shows of a list: its lines are narrower than the tip may be, and all of it fits into
+// the length of one.
+inline constexpr std::size_t kColonneSuggerimento = 70, kRigheSuggerimento = 12;
+static_assert((kColonneSuggerimento + 2) * (kRigheSuggerimento + 1) <= kCaratteriSuggerimento);
+
 // The text, or its first characters and an ellipsis: at most `caratteri` in all, at least 1.
 std::string Mostrabile(std::string_view testo, std::size_t caratteri);
 
@@ -22,9 +27,9 @@ inline constexpr std::size_t kCaratteriNome = 100;
 // are broken there, or the box would leave the screen.
 std::string ConRigheBrevi(std::string_view testo, std::size_t colonne);
 
-// A list of items with commas between them, for a tip: lines of at most `colonne` characters, each
-// ending with an item (a longer item has a line of its own). What does not fit into `righe` lines
-// is left out, and `coda` says so on the last of them.
+// A list of items with commas between them: lines of at most `colonne` characters, each ending with
+// an item (a longer item has a line of its own). What does not fit into `righe` lines is left out,
+// and `coda` says so on the last of them.
 std::string ElencoInRighe(std::string_view elenco, std::size_t colonne, std::size_t righe,
                           std::string_view coda);
 

@@ -257,12 +257,12 @@ void DisTesto(std::string_view testo, double x, double y, std::int16_t angolo, d
 void DisTestoContornato(std::string_view testo, double x, double y, std::int16_t angolo,
                         double base, double altezza, std::int16_t colore,
                         RiquadroDisegno &bersaglio) {
+    if (base == 0 || altezza == 0 || ModoDisTesto == "gendis")
+        return DisTesto(testo, x, y, angolo, base, altezza, colore, &bersaglio);
     // The outlines first, all of them: none may cut into the character beside it.
-    if (base != 0 && altezza != 0 && ModoDisTesto != "gendis") {
-        const Misura misura(angolo, base, altezza);
-        DisegnaTesto(Passata::Contorno, testo, x, y, base, misura, kNero, bersaglio);
-    }
-    DisTesto(testo, x, y, angolo, base, altezza, colore, &bersaglio);
+    const Misura misura(angolo, base, altezza);
+    DisegnaTesto(Passata::Contorno, testo, x, y, base, misura, kNero, bersaglio);
+    DisegnaTesto(Passata::Interno, testo, x, y, base, misura, colore, bersaglio);
 }
 
 void AzzeraDisegno() {

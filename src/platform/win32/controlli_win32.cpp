@@ -24,9 +24,10 @@ void ControlliWin32::Crea(const Modulo &modulo, OspiteWin32 &finestra) {
     }
 }
 
-void ControlliWin32::SegnaPredefinito() const {
+void ControlliWin32::SegnaPredefinito() {
     const HWND fuoco = GetFocus();
-    if (!predefinito_ || !fuoco) return;
+    if (!predefinito_ || !fuoco || fuoco == segnatoPer_) return;
+    segnatoPer_ = fuoco;
     const bool bottone = (SendMessageW(fuoco, WM_GETDLGCODE, 0, 0) &
                           (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
     const LONG_PTR dovuto =

@@ -24,7 +24,7 @@ class ControlliWin32 {
     void Notifica(const NMHDR &notifica) const;
     void ColoriCambiati() const;
     // The button that Enter presses wears its mark unless the focus is on another button.
-    void SegnaPredefinito() const;
+    void SegnaPredefinito();
     // The window's background without what the controls cover anyway: nothing flickers while
     // resizing.
     void CancellaSfondo(HWND finestra, HDC dc) const;
@@ -34,7 +34,7 @@ class ControlliWin32 {
     void UnoPerUno() const;
 
     std::vector<std::unique_ptr<PariWin32>> tutti_;
-    HWND predefinito_ = nullptr;
+    HWND predefinito_ = nullptr, segnatoPer_ = nullptr; // the focus that its mark is right for
     std::unordered_set<PariWin32 *> daPosizionare_;
 };
 

@@ -65,10 +65,10 @@ std::wstring EtichettaStatoWin32::TestoSuggerito() const {
     const bool intero = std::max(prima, seconda) <= r.right - r.left;
     if (intero) return {};
     // Cards present have commas between them and no blank to break the line at.
-    constexpr std::size_t kColonne = 70, kRighe = 12;
     const std::string &tutto = controllo_.Caption();
     const std::size_t poi = std::min(tutto.find("\r\n"), tutto.size());
-    return ALargo(tutto.substr(0, poi) + ElencoInRighe(tutto.substr(poi), kColonne, kRighe, "…"));
+    return ALargo(tutto.substr(0, poi) +
+                  ElencoInRighe(tutto.substr(poi), kColonneSuggerimento, kRigheSuggerimento, "…"));
 }
 
 } // namespace telva

@@ -7,10 +7,6 @@ namespace {
 
 constexpr const wchar_t *kClasse = L"TelvaRiassunto";
 constexpr int kMargine = 5; // pixels, the frame among them
-// What the tip shows of a list: its lines are narrower than the tip may be, and all of it fits into
-// the length of one.
-constexpr std::size_t kColonne = 70, kRighe = 12;
-static_assert((kColonne + 2) * (kRighe + 1) <= kCaratteriSuggerimento);
 
 // Another program may be looking into the clipboard right now.
 bool ApriAppunti(HWND finestra) {
@@ -128,8 +124,8 @@ void RiassuntoWin32::Mostra(Campo campo) {
 
 std::wstring RiassuntoWin32::TestoSuggerito() const {
     if (!Tagliato()) return EtichettaWin32::TestoSuggerito();
-    return ALargo(ElencoInRighe(Mostrabile(controllo_.Caption(), kCaratteriSuggerimento), kColonne,
-                                kRighe, "… Ctrl+C copia tutto"));
+    return ALargo(ElencoInRighe(Mostrabile(controllo_.Caption(), kCaratteriSuggerimento),
+                                kColonneSuggerimento, kRigheSuggerimento, "… Ctrl+C copia tutto"));
 }
 
 } // namespace telva

@@ -14,7 +14,7 @@ constexpr int kContorno = 150;        // frame, icon, button and margins at 96 D
 constexpr UINT kModo = DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS;
 
 // What a text may take there.
-SIZE Posto(HWND proprietaria, UINT dpi) {
+SIZE Spazio(HWND proprietaria, UINT dpi) {
     RECT r{};
     if (proprietaria) GetWindowRect(proprietaria, &r);
     const RECT area = AreaDiLavoro(r);
@@ -29,13 +29,13 @@ SIZE Ingombro(HDC dc, const std::string &testo, LONG larghezza) {
     return {r.right, r.bottom};
 }
 
-std::string Adatta(HDC dc, const std::string &testo, SIZE posto) {
+std::string Adatta(HDC dc, const std::string &testo, SIZE spazio) {
     for (std::size_t colonne = kColonne, caratteri = kCaratteriRiquadro;;) {
         std::string righe = ConRigheBrevi(Mostrabile(testo, caratteri), colonne);
-        const SIZE serve = Ingombro(dc, righe, posto.cx);
-        if (serve.cx > posto.cx && colonne > 10)
+        const SIZE serve = Ingombro(dc, righe, spazio.cx);
+        if (serve.cx > spazio.cx && colonne > 10)
             colonne -= 5;
-        else if (serve.cy > posto.cy && caratteri > 100)
+        else if (serve.cy > spazio.cy && caratteri > 100)
             caratteri -= 50;
         else
             return righe;
@@ -51,7 +51,7 @@ std::string NelRiquadro(const std::string &testo, HWND proprietaria) {
     const LOGFONTW tipo = TipoMessaggi(dpi);
     const HFONT font = CreateFontIndirectW(&tipo);
     const HGDIOBJ prima = font ? SelectObject(dc, font) : nullptr;
-    std::string adatto = Adatta(dc, testo, Posto(proprietaria, dpi));
+    std::string adatto = Adatta(dc, testo, Spazio(proprietaria, dpi));
     if (prima) SelectObject(dc, prima);
     if (font) DeleteObject(font);
     ReleaseDC(nullptr, dc);
