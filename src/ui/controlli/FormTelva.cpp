@@ -83,10 +83,7 @@ void ModuloTelva::Inizio() {
     Height = 11400;
     Caption = "Telva";
     MousePointer = Puntatore::Predefinito;
-    Disegno.MousePointer = Puntatore::Predefinito;
     Disegno.Scale(0, 0, 1, 1);
-    Disegno.Shape.Visible = false;
-    Disegno.LineSposta.Visible = false;
     TestiIniziali();
     TestiDegliAssi();
     Risposta.Text = "";
