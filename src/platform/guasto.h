@@ -13,6 +13,9 @@ class Guasto : public std::runtime_error {
     explicit Guasto(const std::string &motivo) : std::runtime_error(motivo) {}
 };
 
+// What is told of an exception: the text of a Guasto, or what failed inside.
+std::string MotivoGuasto(const std::exception &e);
+
 // Fault found while reading `percorso` at line `riga` (1-based): the text names all three.
 [[noreturn]] void GuastoInFile(const std::string &percorso, int riga, const std::string &motivo);
 

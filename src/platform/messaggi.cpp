@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <exception>
-#include <new>
 
 namespace telva {
 namespace {
@@ -43,12 +42,8 @@ void EseguiProtetto(const std::function<void()> &evento) {
     try {
         evento();
         return;
-    } catch (const Guasto &g) {
-        motivo = g.what();
-    } catch (const std::bad_alloc &) {
-        motivo = "Memoria insufficiente";
     } catch (const std::exception &e) {
-        motivo = std::string("Errore interno: ") + e.what();
+        motivo = MotivoGuasto(e);
     }
     ChiudiPerGuasto(motivo);
 }
