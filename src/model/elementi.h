@@ -47,6 +47,12 @@ struct Elementi {
 // The descriptor of a kind 0..4.
 const Elementi &ElementiDi(int tipo);
 
+// The descriptor of what stands in the picture for a kind: walls are drawn from the shells, and what
+// is marked under their name are shells.
+inline const Elementi &ElementiDisegnatiDi(int tipo) {
+    return ElementiDi(tipo == kParetiTipo ? kGusciTipo : tipo);
+}
+
 // True when `prova(nodo)` holds for every node on which a part stands: the node itself, both ends
 // of a bar, the corners of a shell.
 template <class Prova>

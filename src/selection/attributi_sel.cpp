@@ -20,8 +20,7 @@ struct Attributo {
 void Seleziona(const Attributo &a, std::int16_t codice, Segno segno) {
     AzzeraInput();
     const int tipo = FormTelva.TipoElemento();
-    // Walls are drawn from the shells, and have no attributes of their own.
-    const Elementi &e = ElementiDi(tipo == kParetiTipo ? kGusciTipo : tipo);
+    const Elementi &e = ElementiDisegnatiDi(tipo); // walls have no attributes of their own
     if (const std::int16_t *valori = a.Valori(e.tipo))
         Segna(e, segno, [&](int i) {
             return codice == a.ogni ||

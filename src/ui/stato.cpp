@@ -65,12 +65,6 @@ constexpr Parole kParole[kTipiElemento] = {
      "richieste", nullptr},
 };
 
-// Walls have no tables of their own: what is marked under their name are shells.
-int TipoSegnato() {
-    const int tipo = FormTelva.TipoElemento();
-    return tipo == kParetiTipo ? int{kGusciTipo} : tipo;
-}
-
 std::string Unisci(std::initializer_list<std::string> parti) {
     std::string testo;
     for (const std::string &parte : parti)
@@ -79,7 +73,7 @@ std::string Unisci(std::initializer_list<std::string> parti) {
 }
 
 std::string Conteggio() {
-    const Elementi &e = ElementiDi(TipoSegnato());
+    const Elementi &e = ElementiDisegnatiDi(FormTelva.TipoElemento());
     int selezionati = 0, nascosti = 0;
     for (int i = 0; i < e.numero; ++i) {
         if (!e.Selezionato(i) || e.nomi[i] <= 0) continue;
