@@ -127,7 +127,7 @@ void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint
 }
 
 void RiquadroDisegno::Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
-                           const Tratteggio &t) {
+                           const Trattini &t) {
     Pixel a, b;
     if (EstremiInPixel(x1, y1, x2, y2, a, b)) Line(a, b, colore, t);
 }

@@ -63,11 +63,10 @@ class RiquadroDisegno : public Controllo {
     // Clears the picture in BackColor, at the present size.
     void Cls();
     void Line(double x1, double y1, double x2, double y2, std::uint32_t colore);
-    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore,
-              const Tratteggio &t);
+    void Line(double x1, double y1, double x2, double y2, std::uint32_t colore, const Trattini &t);
     void Circle(double x, double y, double raggio, std::uint32_t colore);
     // The same between pixels, for places and radii that many shapes share.
-    void Line(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
+    void Line(Pixel a, Pixel b, std::uint32_t colore, const Trattini &t) {
         superficie_.Traccia(a, b, DrawWidth, APixelRGB(colore), t);
     }
     void Circle(Pixel centro, int raggio, std::uint32_t colore);

@@ -58,7 +58,7 @@ std::vector<ZonaPixel> ADue(const std::vector<ZonaPixel> &zone) {
 struct RiquadroDisegno::TrattoElastico {
     Pixel a = {}, b = {};
     int spessore = 1, bordo = kBordo; // of the light line, and of the dark on either side
-    Tratteggio tratti = {};           // of the light line; the band is dark all along
+    Trattini tratti = {};             // of the light line; the band is dark all along
     int raggio = -1;                  // of a circle
 
     int Portata() const { return spessore / 2 + bordo + 1 + std::max(raggio, 0); }
@@ -83,8 +83,7 @@ struct RiquadroDisegno::TrattoElastico {
         const bool ripida = std::abs(b.y - a.y) > std::abs(b.x - a.x);
         for (int k = 0; k < spessore; ++k) { // side by side, in the middle
             const int kx = ripida ? k - spessore / 2 : 0, ky = ripida ? 0 : k - spessore / 2;
-            s.LineaTratteggiata({da.x + kx, da.y + ky}, {fino.x + kx, fino.y + ky}, kChiaro,
-                                tratti);
+            s.LineaATrattini({da.x + kx, da.y + ky}, {fino.x + kx, fino.y + ky}, kChiaro, tratti);
         }
     }
     // The zones along it, inside a picture of this size.
@@ -115,7 +114,7 @@ struct RiquadroDisegno::TrattoElastico {
 std::vector<std::vector<RiquadroDisegno::TrattoElastico>> RiquadroDisegno::TrattiElastici() const {
     std::vector<std::vector<TrattoElastico>> tratti(3);
     const int spessore = PennaOpzione(1), bordo = PennaOpzione(kBordo);
-    const Tratteggio trattini = Tratteggio{0xFF, 12}.Ingrandito(PixelOpzione(1));
+    const Trattini trattini = Trattini{0xFF, 12}.Ingrandito(PixelOpzione(1));
     const auto linea = [&](std::size_t dove, double x1, double y1, double x2, double y2,
                            TrattoElastico t) {
         if (EstremiInPixel(x1, y1, x2, y2, t.a, t.b)) tratti[dove].push_back(t);

@@ -173,8 +173,8 @@ void Superficie::Linea(Pixel a, Pixel b, std::uint32_t colore) {
     Percorri(a, b, [=](std::uint32_t *pixel, int) { *pixel = colore; });
 }
 
-Tratteggio Tratteggio::Ingrandito(double quanto) const {
-    Tratteggio t;
+Trattini Trattini::Ingrandito(double quanto) const {
+    Trattini t;
     t.periodo = std::clamp(InteroVicino(periodo * quanto), 1, kPeriodoMassimo);
     for (int k = 0; k < t.periodo; ++k)
         t.bit[static_cast<std::size_t>(k)] = bit[static_cast<std::size_t>(k * periodo / t.periodo)];
@@ -182,7 +182,7 @@ Tratteggio Tratteggio::Ingrandito(double quanto) const {
 }
 
 // The place in the pattern goes on by one: a division for each pixel would cost more.
-void Superficie::LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &t) {
+void Superficie::LineaATrattini(Pixel a, Pixel b, std::uint32_t colore, const Trattini &t) {
     Intingi(colore);
     Percorri(a, b, [&t, colore, fase = -1](std::uint32_t *pixel, int passo) mutable {
         if (fase < 0) fase = passo % t.periodo;
@@ -438,8 +438,8 @@ void Superficie::LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t color
 
 // The wide line, cut straight across its longer direction where the pattern is dark: its long edges
 // are those of the line without gaps. The round cap before the first pixel belongs to it.
-void Superficie::LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                                        const Tratteggio &t) {
+void Superficie::LineaLargaATrattini(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                                     const Trattini &t) {
     larghezza = std::clamp(larghezza, 1, kPennaMassima);
     if (a == b) return LineaLarga(a, b, larghezza, colore);
     if (!BandaInVista(a, b, larghezza)) return;

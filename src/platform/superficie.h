@@ -25,14 +25,14 @@ struct ZonaPixel {
 
 // Dash pattern of a line: bit i of `bit` says whether pixel i of the period is lit. Pixels are
 // counted along the line's longer direction, from its left end, or the upper one when it is steep.
-struct Tratteggio {
+struct Trattini {
     static constexpr int kPeriodoMassimo = 256;
     std::bitset<kPeriodoMassimo> bit = 1;
     int periodo = 1; // 1..kPeriodoMassimo; 1 = a continuous line
     // The same with dashes and gaps so many times as long.
-    Tratteggio Ingrandito(double quanto) const;
+    Trattini Ingrandito(double quanto) const;
 };
-inline const Tratteggio kContinuo;
+inline const Trattini kContinuo;
 
 // Segments in pixels (fractions kept) from an origin; one that begins where the last one ended goes
 // on from there. A glyph in its size is one of these, drawn thousands of times.
@@ -78,7 +78,7 @@ class Superficie {
 
     // Ends included. Coordinates may lie anywhere within +-2^28.
     void Linea(Pixel a, Pixel b, std::uint32_t colore);
-    void LineaTratteggiata(Pixel a, Pixel b, std::uint32_t colore, const Tratteggio &tratteggio);
+    void LineaATrattini(Pixel a, Pixel b, std::uint32_t colore, const Trattini &trattini);
     // The segments with their origin at (x, y), which lies within +-2^19: each end goes to its
     // nearest pixel, then as Linea, or as LineaLarga with a wider pen.
     void LineeTratti(const Tratti &tratti, double x, double y, std::uint32_t colore, int penna = 1);
@@ -86,17 +86,17 @@ class Superficie {
     // Pen of `larghezza` pixels (2..kPennaMassima) with round ends.
     void LineaLarga(Pixel a, Pixel b, int larghezza, std::uint32_t colore);
     // The same with gaps: of its pixels those beside a lit one of the pattern.
-    void LineaLargaTratteggiata(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                                const Tratteggio &tratteggio);
+    void LineaLargaATrattini(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
+                             const Trattini &trattini);
     // Any pen and pattern: one of the four lines above.
     void Traccia(Pixel a, Pixel b, int larghezza, std::uint32_t colore,
-                 const Tratteggio &tratteggio = kContinuo) {
-        if (larghezza > 1 && tratteggio.periodo > 1)
-            LineaLargaTratteggiata(a, b, larghezza, colore, tratteggio);
+                 const Trattini &trattini = kContinuo) {
+        if (larghezza > 1 && trattini.periodo > 1)
+            LineaLargaATrattini(a, b, larghezza, colore, trattini);
         else if (larghezza > 1)
             LineaLarga(a, b, larghezza, colore);
-        else if (tratteggio.periodo > 1)
-            LineaTratteggiata(a, b, colore, tratteggio);
+        else if (trattini.periodo > 1)
+            LineaATrattini(a, b, colore, trattini);
         else
             Linea(a, b, colore);
     }

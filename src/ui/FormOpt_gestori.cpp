@@ -144,8 +144,8 @@ void ChiudiFormOpt() { FormOpt.Chiudi(); }
 void CollegaFormOpt() {
     ModuloOpt &f = FormOpt;
     for (int k = 0; k < f.LabelCol.Numero(); ++k) {
-        f.LabelCol[k].didascalia = kTinte[k].nome;
-        f.LabelCol[k].BackColor = kTinte[k].rgb;
+        f.LabelCol[k].didascalia = kColori[k].nome;
+        f.LabelCol[k].BackColor = kColori[k].rgb;
         f.LabelCol[k].Click = [k] { LabelCol_Click(k); };
     }
     f.CheckSpGus.Click = ControllaSpessore;

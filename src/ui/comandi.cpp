@@ -48,7 +48,7 @@ constexpr Comando ConFigura(VoceMenu &voce, const char *didascalia, void (*gesto
 }
 template <std::int16_t Codice>
 constexpr Comando VoceColore(VoceMenu &voce) {
-    return ConFigura(voce, kTinte[Codice].nome, Colore<Codice>,
+    return ConFigura(voce, kColori[Codice].nome, Colore<Codice>,
                      {FiguraVoce::Genere::Colore, Codice});
 }
 template <std::int16_t Codice>

@@ -51,7 +51,7 @@ void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
     for (int k = prima; k < dopo; ++k) {
         const int y = (2 * (k - prima) + 1) * s.Altezza() / (2 * (dopo - prima));
         s.Traccia({2 * penna, y}, {s.Larghezza() - 1 - 2 * penna, y}, penna, kSegno,
-                  TratteggioLinea(k, quanto));
+                  TrattiniLinea(k, quanto));
     }
 }
 

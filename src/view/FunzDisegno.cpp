@@ -35,11 +35,11 @@ struct Stile {
     bool evidenziaSel = OpzioneAttiva(kOpzColoreSel);
     int pennaSel = Penna(kOpzPennaSel), pennaNonSel = Penna(kOpzPennaNonSel);
     int pixelSel = d.PennaOpzione(pennaSel), pixelNonSel = d.PennaOpzione(pennaNonSel);
-    std::array<Tratteggio, kTipiLinea> tratteggi;
+    std::array<Trattini, kTipiLinea> trattini;
 
     Stile() {
         for (int tipo = 0; tipo < kTipiLinea; ++tipo)
-            tratteggi[static_cast<std::size_t>(tipo)] = TratteggioLinea(tipo, d.PixelOpzione(1));
+            trattini[static_cast<std::size_t>(tipo)] = TrattiniLinea(tipo, d.PixelOpzione(1));
     }
     // With the option off the two roles are exchanged on purpose.
     std::uint32_t Colore(bool sel, int codice) const {
@@ -47,9 +47,9 @@ struct Stile {
     }
     int Larghezza(bool sel) const { return sel ? pixelSel : pixelNonSel; }
     // Only a pen of one pixel, at whatever scale, shows the line type.
-    const Tratteggio &TratteggioAsta(bool sel, int tipo) const {
+    const Trattini &TrattiniAsta(bool sel, int tipo) const {
         const bool tipizzata = (sel ? pennaSel : pennaNonSel) == 1 && tipo > 0 && tipo < kTipiLinea;
-        return tratteggi[tipizzata ? static_cast<std::size_t>(tipo) : 0];
+        return trattini[tipizzata ? static_cast<std::size_t>(tipo) : 0];
     }
 };
 
@@ -88,7 +88,7 @@ void DisegnaAste(const Stile &stile, const PostiNodi &posti) {
     const auto disegna = [&](int b, bool sel) {
         d.DrawWidth = stile.Larghezza(sel);
         posti.Linea(NodoIAsta[b], NodoJAsta[b], stile.Colore(sel, ColAsta[b]),
-                    stile.TratteggioAsta(sel, TipoLinAsta[b]));
+                    stile.TrattiniAsta(sel, TipoLinAsta[b]));
     };
     SelezionatiPerUltimi(
         NumAste, AstaDisegnata, [&](int b) { return evidenziate[static_cast<std::size_t>(b)]; },

@@ -24,13 +24,13 @@ enum CodiceColore : std::int16_t {
     kOgniColore = kNumeroColori
 };
 
-struct Tinta {
+struct ColoreNoto {
     const char *nome;
     std::uint32_t rgb; // 0x00BBGGRR
 };
 
 // By colour code.
-inline constexpr Tinta kTinte[kNumeroColori] = {
+inline constexpr ColoreNoto kColori[kNumeroColori] = {
     {"Nero", 0x000000},    {"Bianco", 0xFFFFFF},   {"Blu", 0xC00000},         {"Rosso", 0x0000FF},
     {"Verde", 0x00FF00},   {"Giallo", 0x00FFFF},   {"Verde scuro", 0x008000}, {"Magenta", 0xFF00FF},
     {"Azzurro", 0xFAC5A0}, {"Arancione", 0x46A3FF}};
@@ -40,7 +40,7 @@ inline constexpr std::uint32_t kColoreEvidenza = 0xFFFF00; // cyan
 
 // Value of a colour code; white for a code that is none.
 constexpr std::uint32_t ColoreRGB(std::int32_t codice) {
-    return kTinte[codice >= 0 && codice < kNumeroColori ? codice : kBianco].rgb;
+    return kColori[codice >= 0 && codice < kNumeroColori ? codice : kBianco].rgb;
 }
 
 // A number of the options as a colour code: its whole part; one that is no code gives none.

@@ -34,7 +34,7 @@ std::optional<Pixel> PostiNodi::InPixel(int i) const {
     return p.x == kLontano ? std::nullopt : std::optional(p);
 }
 
-void PostiNodi::Linea(int i, int j, std::uint32_t colore, const Tratteggio &t) const {
+void PostiNodi::Linea(int i, int j, std::uint32_t colore, const Trattini &t) const {
     const Pixel a = Leggi(i), b = Leggi(j);
     if (a.x != kLontano && b.x != kLontano)
         d_.Line(a, b, colore, t);

@@ -17,7 +17,7 @@ class PostiNodi {
     // Nearest pixel of node i; nothing when whole pixels cannot name it.
     std::optional<Pixel> InPixel(int i) const;
     // The line between two nodes, as RiquadroDisegno::Line.
-    void Linea(int i, int j, std::uint32_t colore, const Tratteggio &tratteggio = kContinuo) const;
+    void Linea(int i, int j, std::uint32_t colore, const Trattini &trattini = kContinuo) const;
 
   private:
     Pixel Calcola(int i) const;

@@ -3,7 +3,7 @@
 namespace telva {
 namespace {
 
-Tratteggio Normale(int tipo) {
+Trattini Normale(int tipo) {
     switch (tipo) {
     case 1: return {0x1FF, 14};
     case 2: return {0x3, 6};
@@ -15,8 +15,8 @@ Tratteggio Normale(int tipo) {
 
 } // namespace
 
-Tratteggio TratteggioLinea(int tipo, double quanto) {
-    const Tratteggio normale = Normale(tipo);
+Trattini TrattiniLinea(int tipo, double quanto) {
+    const Trattini normale = Normale(tipo);
     return normale.periodo > 1 ? normale.Ingrandito(quanto) : normale;
 }
 

@@ -12,24 +12,24 @@ namespace {
 constexpr std::uint32_t kColore = 7;
 constexpr int kMargine = 100; // around the part that is compared with the whole
 
-enum class Genere { Linea, Tratteggiata, Larga, LargaTratteggiata, Cerchio };
+enum class Genere { Linea, ATrattini, Larga, LargaATrattini, Cerchio };
 constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "wide dashed line", "circle"};
 
 struct Forma {
     Genere genere;
     Pixel a, b; // the ends; of a circle: its centre, twice
     int penna, raggio;
-    Tratteggio tratteggio;
+    Trattini trattini;
 
     void Disegna(Superficie &s, int margine = 0) const {
         const Pixel da{a.x + margine, a.y + margine}, fino{b.x + margine, b.y + margine};
         s.Riempi(0);
         switch (genere) {
         case Genere::Linea: s.Linea(da, fino, kColore); break;
-        case Genere::Tratteggiata: s.LineaTratteggiata(da, fino, kColore, tratteggio); break;
+        case Genere::ATrattini: s.LineaATrattini(da, fino, kColore, trattini); break;
         case Genere::Larga: s.LineaLarga(da, fino, penna, kColore); break;
-        case Genere::LargaTratteggiata:
-            s.LineaLargaTratteggiata(da, fino, penna, kColore, tratteggio);
+        case Genere::LargaATrattini:
+            s.LineaLargaATrattini(da, fino, penna, kColore, trattini);
             break;
         case Genere::Cerchio: s.Cerchio(da, raggio, penna, kColore); break;
         }
@@ -84,7 +84,7 @@ struct SuperficieProva : ::testing::Test {
         b = {std::clamp(b.x, -80, 120), std::clamp(b.y, -80, 120)};
         if (genere == Genere::Cerchio)
             return {genere, {a.x / 2, a.y / 2}, {a.x / 2, a.y / 2}, Fra(1, 11), Fra(1, 25), {}};
-        const Tratteggio t{static_cast<std::uint32_t>(sorte()), Fra(1, 32)};
+        const Trattini t{static_cast<std::uint32_t>(sorte()), Fra(1, 32)};
         return {genere, a, b, Fra(2, 12), 0, t};
     }
     // Says which pixel of the surface is not as the rule wants it.
@@ -111,8 +111,8 @@ struct SuperficieProva : ::testing::Test {
 TEST_F(SuperficieProva, UnaFormaRitagliataAccendeGliStessiPixelDiQuellaIntera) {
     Superficie parte, intera;
     intera.Ridimensiona(40 + 2 * kMargine, 40 + 2 * kMargine);
-    for (const Genere genere : {Genere::Linea, Genere::Tratteggiata, Genere::Larga,
-                                Genere::LargaTratteggiata, Genere::Cerchio})
+    for (const Genere genere :
+         {Genere::Linea, Genere::ATrattini, Genere::Larga, Genere::LargaATrattini, Genere::Cerchio})
         for (int giro = 0; giro < 1000; ++giro) {
             const Forma f = FormaACaso(genere);
             parte.Ridimensiona(Fra(1, 40), Fra(1, 40));
@@ -146,7 +146,7 @@ TEST_F(SuperficieProva, UnaLineaLargaRestaSopraCioCheEVenutoPrima) {
     constexpr std::uint32_t kAltro = 9;
     const Pixel a{10, 10}, b{30, 20}, mezzo{20, 15}, sopra{20, 0}, sotto{20, 29};
     const ZonaPixel tutto{0, 0, 40, 30};
-    const Tratteggio continuo{1, 1};
+    const Trattini continuo{1, 1};
     Superficie s, vuota;
     for (Superficie *superficie : {&s, &vuota}) {
         superficie->Ridimensiona(40, 30);
@@ -156,9 +156,8 @@ TEST_F(SuperficieProva, UnaLineaLargaRestaSopraCioCheEVenutoPrima) {
         {"nothing", [] {}},
         {"the background", [&] { s.Riempi(0); }},
         {"a thin line", [&] { s.Linea(sopra, sotto, kAltro); }},
-        {"a dashed line", [&] { s.LineaTratteggiata(sopra, sotto, kAltro, continuo); }},
-        {"a wide dashed line",
-         [&] { s.LineaLargaTratteggiata(sopra, sotto, 5, kAltro, continuo); }},
+        {"a dashed line", [&] { s.LineaATrattini(sopra, sotto, kAltro, continuo); }},
+        {"a wide dashed line", [&] { s.LineaLargaATrattini(sopra, sotto, 5, kAltro, continuo); }},
         {"a wide line", [&] { s.LineaLarga(sopra, sotto, 5, kAltro); }},
         {"a circle", [&] { s.Cerchio(mezzo, 0, 9, kAltro); }},
         {"another surface", [&] { s.CopiaZona(vuota, tutto); }}};
