@@ -8,6 +8,7 @@
 #include "model/tabelle_cond.h"
 #include "platform/archivio_disco.h"
 #include "platform/messaggi.h"
+#include "platform/tasti.h"
 #include "platform/testo.h"
 #include "selection/schede_sel.h"
 #include "startup/avvio.h"
@@ -37,7 +38,6 @@ std::vector<std::string> pezzi;          // bytes of each target in this run
 std::map<std::string, std::string> file; // their contents by whole path
 
 constexpr int kSinistro = 1, kCentrale = 4; // mouse buttons
-constexpr int kInvio = 13;
 
 // Of the target of that name.
 std::string &Pezzo(std::string_view nome) {
@@ -144,7 +144,7 @@ void Usa(Controllo *c, const std::string &testo) {
     if (auto *opzione = dynamic_cast<BottoneOpzione *>(c)) opzione->Seleziona();
     if (auto *casella = dynamic_cast<CasellaTesto *>(c)) {
         casella->Text = testo;
-        if (casella->KeyDown) casella->KeyDown(kInvio);
+        if (casella->KeyDown) casella->KeyDown(kTastoInvio);
     }
 }
 

@@ -162,7 +162,8 @@ PassoCasuale Caso::Filtri() {
 PassoCasuale Caso::Vista(const Modello &m, const PassoCasuale &trascina) {
     const Punto p = PuntoScelto(m);
     const auto rotella = [](int passi) { return [=](auto &chi) { chi.Rotella(passi); }; };
-    const int tasto = Una({37, 38, 39, 40, 107, 109, 187, 189, int{'A'}}); // arrows, + and -
+    const int tasto = Una({kTastoSinistra, kTastoSu, kTastoDestra, kTastoGiu, kTastoPiuCifre,
+                           kTastoMenoCifre, kTastoPiu, kTastoMeno, int{'A'}});
     return Una<PassoCasuale>(
         {trascina, rotella(1), rotella(-1), rotella(-3), rotella(2),
          [=](auto &chi) { chi.Tasto(tasto); }, [](auto &chi) { chi.DoppioClic(); },

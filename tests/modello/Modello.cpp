@@ -12,6 +12,7 @@ constexpr double kPi = 3.14159265359;
 constexpr double kUguale = 1e-4;    // drawing units: nearer than this is the same
 constexpr double kZoomMinimo = 0.1; // drawing units
 constexpr int kCritica = 0;
+constexpr int kSinistra = 37, kSu = 38, kDestra = 39, kGiu = 40; // keys
 constexpr int kPiu = 187, kMeno = 189, kPiuCifre = 107, kMenoCifre = 109;
 constexpr int kUltimaAsta = 20000; // place in the table
 
@@ -86,7 +87,7 @@ void Modello::Avvio(const Ingresso &ingresso) {
     tipo = richiesto_ = ingresso.tipo;
     funzione = kAggiungere;
     if (ingresso.lista == "0")
-        Attributo("Colore", 10);
+        Attributo("Colore", kOgniColore);
     else if (!ingresso.lista.empty())
         Numeri("Nome", ingresso.lista); // a list that is refused selects nothing
     funzione = kNiente;
@@ -147,7 +148,7 @@ bool Modello::Disegnato(const Elemento &e) const {
     if (e.rotto) return false;
     const auto asta = [&](int b) { return b >= 0 && Disegnato(elementi[kAste][b]); };
     if (!e.aste.empty()) return std::ranges::any_of(e.aste, asta);
-    return e.nome > 0 && e.colore < 10 && e.attivo && !e.sottile;
+    return e.nome > 0 && e.colore < kColoreNascosto && e.attivo && !e.sottile;
 }
 
 bool Modello::Zoomata() const { return std::abs(zoom.maxX - zoom.minX) >= kUguale; }
@@ -163,7 +164,7 @@ Riquadro Modello::Mostrati() const {
         return std::ranges::all_of(punto, [](double v) { return std::abs(v) < 5000; });
     };
     std::size_t primo = 0;
-    if (elementi[kNodi][0].colore >= 10) {
+    if (elementi[kNodi][0].colore >= kColoreNascosto) {
         const auto contato = std::ranges::find_if(lavoro_.punti, vicino);
         if (contato != lavoro_.punti.end()) primo = contato - lavoro_.punti.begin();
     }
@@ -270,7 +271,7 @@ void Modello::Rotella(int passi) {
 // An arrow: a tenth of the box, in whole pixels, towards what lies there. + and - as the wheel.
 void Modello::Tasto(int codice) {
     static const std::map<int, Punto> kFrecce = {
-        {37, {1, 0}}, {38, {0, 1}}, {39, {-1, 0}}, {40, {0, -1}}};
+        {kSinistra, {1, 0}}, {kSu, {0, 1}}, {kDestra, {-1, 0}}, {kGiu, {0, -1}}};
     const double dx = std::floor(largo / 10) * scala.larghezza / largo;
     const double dy = std::floor(alto / 10) * scala.altezza / alto;
     const auto freccia = kFrecce.find(codice);

@@ -52,6 +52,8 @@ struct Ingresso {
 
 struct Modello {
     enum { kNodi, kAste, kGusci, kContinui, kPareti }; // kinds
+    // The code of any colour; codes from the second one on hide what has them.
+    static constexpr int kOgniColore = 10, kColoreNascosto = 10;
     enum Funzione { kNiente, kAggiungere, kRimuovere };
 
     explicit Modello(const LavoroProva &lavoro);

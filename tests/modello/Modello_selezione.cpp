@@ -10,7 +10,6 @@ namespace telva::prove {
 namespace {
 
 constexpr int kEsclamazione = 1, kInformazione = 2;
-constexpr int kOgniColore = 10;
 
 // What each kind of element can be selected by.
 const std::set<std::string> kAbilitate[] = {
@@ -31,7 +30,7 @@ struct Attributi {
     int primo, tutti;
 };
 const Attributi kAttributi[] = {
-    {.menu = "Colore", .sigla = "Col", .primo = 1, .tutti = kOgniColore},
+    {.menu = "Colore", .sigla = "Col", .primo = 1, .tutti = Modello::kOgniColore},
     {.menu = "TipoPunto", .sigla = "Pt", .primo = 0, .tutti = 8},
     {.menu = "TipoLinea", .sigla = "Ln", .primo = 0, .tutti = 5},
     {.menu = "TipoTratt", .sigla = "Tr", .primo = 1, .tutti = 9}};

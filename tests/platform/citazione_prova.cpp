@@ -1,6 +1,7 @@
 #include "platform/citazione.h"
 
 #include "model/struttura.h"
+#include "platform/tasti.h"
 #include "platform/testo.h"
 #include "sostegno/Banco.h"
 #include "startup/direttori_cond.h"
@@ -57,14 +58,14 @@ TEST_F(Banco, NessunMessaggioEPiuLungoDiQuantoSiMostra) {
     messaggi.clear();
     Apri(Telaio());
     FormTelva.Angolo[0].Text = lungo;
-    FormTelva.Angolo[0].KeyDown(13);
+    FormTelva.Angolo[0].KeyDown(kTastoInvio);
     EXPECT_NE(messaggi.back().testo.find(" " + Volte(59, "x") + "… ("), std::string::npos)
         << "angle";
     PuntoX[0] = 2e20;
     FormTelva.Disegno.MouseMove(0, 0, XNodo(0), YNodo(0));
     EXPECT_EQ(FormTelva.LabCoord.Caption, "2e+20, 0, 0 [N1]");
     FormTelva.IntX[0].Text = lungo;
-    FormTelva.IntX[0].KeyDown(13);
+    FormTelva.IntX[0].KeyDown(kTastoInvio);
     EXPECT_TRUE(messaggi.back().testo.ends_with(" " + Volte(59, "x") + "…")) << "interval";
     Scrivi("lavori/prova1/STRUTTUR.STR", "Release 4\r\n99999999999999999999\r\n");
     EXPECT_FALSE(Avvia());

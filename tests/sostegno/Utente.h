@@ -2,6 +2,7 @@
 // What the engineer does and sees. Every step is written down: a test that fails prints what was
 // done up to there.
 
+#include "platform/tasti.h"
 #include "sostegno/Banco.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
@@ -34,7 +35,7 @@ inline void PrintTo(Asse a, std::ostream *os) {
 
 class Utente : public Banco {
   protected:
-    static constexpr int kInvio = 13, kEsc = 27;
+    static constexpr int kInvio = kTastoInvio, kEsc = kTastoEsc;
     static constexpr int kSinistro = 1, kDestro = 2, kCentrale = 4;
 
     static RiquadroDisegno &Disegno() { return FormTelva.Disegno; }

@@ -34,7 +34,7 @@ TEST_F(FormTelvaProva, RidottaAIconaNienteSiDispone) {
 }
 
 TEST_F(FormTelvaProva, SoloITastiDellaVistaSonoSuoi) {
-    EXPECT_TRUE(f.KeyDown(39)); // an arrow
+    EXPECT_TRUE(f.KeyDown(kTastoDestra));
     EXPECT_FALSE(f.KeyDown('A'));
 }
 

@@ -182,7 +182,7 @@ TEST_F(PuntatoreProva, LaVistaSiSpostaDaQuelloCheSiVede) {
     prima = Visto(0);
     Rotella(1); // refused: the window would be too small
     EXPECT_EQ(Visto(0), prima);
-    Tasto(39); // the arrow to the right
+    Tasto(kTastoDestra);
     EXPECT_EQ(Visto(0), (prima + Pixel{-d.LarghezzaPixel() / 10, 0}));
 }
 
