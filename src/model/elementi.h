@@ -47,8 +47,8 @@ struct Elementi {
 // The descriptor of a kind 0..4.
 const Elementi &ElementiDi(int tipo);
 
-// The descriptor of what stands in the picture for a kind: walls are drawn from the shells, and what
-// is marked under their name are shells.
+// The descriptor of what stands in the picture for a kind: walls are drawn from the shells, and
+// what is marked under their name are shells.
 inline const Elementi &ElementiDisegnatiDi(int tipo) {
     return ElementiDi(tipo == kParetiTipo ? kGusciTipo : tipo);
 }
