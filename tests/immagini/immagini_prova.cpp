@@ -89,15 +89,18 @@ struct Immagini : Banco {
     ~Immagini() override { FormTelva.dpi = 96; }
 
     void Misura(int larghezza, int altezza) {
+        Nota(Scritto("Misura", larghezza, altezza));
         d.Width = larghezza * kTwipPerPixel;
         d.Height = altezza * kTwipPerPixel;
     }
     void Angoli(const char *a, const char *b, const char *c) {
+        Nota(Scritto("Angoli", a, b, c));
         FormTelva.Angolo[0].Text = a;
         FormTelva.Angolo[1].Text = b;
         FormTelva.Angolo[2].Text = c;
     }
     static void MisuraTesti(double base, double altezza) {
+        Nota(Scritto("MisuraTesti", base, altezza));
         Opzioni[kOpzBaseTesto] = base;
         Opzioni[kOpzAltezzaTesto] = altezza;
         Opzioni[kOpzDistanzaTesto] = 2.0;
@@ -139,7 +142,7 @@ struct Immagini : Banco {
     }
 };
 
-TEST_F(Immagini, LavoroInAssonometria) {
+TEST_F(Immagini, LavoroDaDueParti) {
     ApriCampione();
     for (int b = 0; b < NumAste; b += 7) SelAsta[b] = 1;
     for (int g = 0; g < NumGusci; g += 11) SelGuscio[g] = 1;
@@ -148,6 +151,43 @@ TEST_F(Immagini, LavoroInAssonometria) {
     ASSERT_TRUE(ProiettaNodi());
     Adatta();
     Confronta("lavoro_assonometria");
+    Angoli("-65", "0", "200"); // from below and behind
+    ASSERT_TRUE(ProiettaNodi());
+    Adatta();
+    Confronta("lavoro_da_sotto");
+}
+
+// Every type of line under thin and thick pens, outlines of shells, nodes of every radius.
+TEST_F(Immagini, PenneERaggi) {
+    struct Penne {
+        double nonSel, sel, raggio;
+    };
+    Foglio f;
+    for (int tipo = 0; tipo < 6; ++tipo) { // 5 is none
+        const double x = 10 + 50 * tipo;
+        f.Linea(x, 10, x + 40, 25, 1, tipo);
+        f.Linea(x, 20, x + 40, 35, 9, tipo);
+        f.Linea(x, 45, x + 8, 95, 4, tipo);
+        f.Linea(x + 20, 45, x + 28, 95, 5, tipo);
+        f.NodoVisibile(x + 40, 60, 3);
+        f.NodoVisibile(x + 40, 80, 7);
+    }
+    f.Triangolo(315, 10, 30, 0, 8);
+    f.Quadrilatero(315, 55, 30, 3, 8);
+    ApriFoglio(f, 360, 105);
+    for (int k = 1; k < NumAste; k += 2) SelAsta[k] = 1;
+    for (int i = 1; i < NumNodi; i += 2) SelNodo[i] = 1;
+    SelGuscio[1] = 1;
+    Superficie pila;
+    for (const Penne &penne : {Penne{.nonSel = 1, .sel = 2, .raggio = 1},
+                               {.nonSel = 2, .sel = 3, .raggio = 4},
+                               {.nonSel = 4, .sel = 9, .raggio = 12}}) {
+        Opzioni[kOpzPennaNonSel] = penne.nonSel;
+        Opzioni[kOpzPennaSel] = penne.sel;
+        Opzioni[kOpzRaggioNodo] = penne.raggio;
+        Impila(pila, Dipingi());
+    }
+    ConfrontaImmagine(pila, "penne");
 }
 
 TEST_F(Immagini, ColoriDegliElementi) {

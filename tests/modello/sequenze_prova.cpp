@@ -180,6 +180,16 @@ struct SequenzeProva : Utente {
             for (int x = 0; x < d.Immagine().Larghezza(); ++x) mescola(d.Immagine().Leggi(x, y));
     }
 
+    // Whole, each below its name.
+    std::string FileDelLavoro() const {
+        std::string testo;
+        for (const std::string file : {"STRUTTUR.STR", "Ingombri.tmp", "spessori", "sezioni_",
+                                       "el_conti.tmp", "TelvaIn.txt"})
+            testo += "--- " + file + "\n" + Leggi("lavori/prova1/" + file);
+        std::erase(testo, '\r');
+        return testo;
+    }
+
     // One step in both; what differs then.
     std::string Confronta(Modello &m, const PassoCasuale &passo) {
         try {
@@ -265,9 +275,9 @@ TEST_F(SequenzeProva, ComeLeRegole) {
         if (diverso.empty()) continue;
         FAIL() << "seed " << seme << "\n"
                << Accorcia(inizio, passi, diverso) << "\nThe job is Apri(Caso(" << seme
-               << ").Lavoro()), with this list handed in: \"" << inizio.ingresso.lista
-               << "\", kind " << inizio.ingresso.tipo << "\n"
-               << inizio.lavoro.Struttura();
+               << ").Lavoro()), after ScriviIngresso with the list and the kind of TelvaIn.txt; "
+               << "its files:\n"
+               << FileDelLavoro();
     }
     if (impronta != 0) std::cout << "impronta " << std::hex << impronta << "\n";
 }

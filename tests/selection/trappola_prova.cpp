@@ -19,6 +19,7 @@ struct TrappolaProva : Banco {
         const auto punto = static_cast<int>(lavoro.punti.size());
         lavoro.punti.push_back({dove.x, 0, dove.y});
         lavoro.nodi.push_back({.punto = punto, .nome = nome});
+        Nota(Scritto("Nodo", dove.x, dove.y, nome));
         return punto;
     }
     void NodiDa(int primo, const std::vector<Luogo> &luoghi) {
@@ -46,6 +47,7 @@ struct TrappolaProva : Banco {
         CodFunAttiva = kAggiungi;
     }
     int Preso(int tipo, Luogo dove) {
+        Nota(Scritto("Preso", tipo, dove.x, dove.y, OpzInt[kOpzTrappola]));
         FormTelva.OptElem[tipo].Seleziona();
         return SelezioneDiretta(dove.x, dove.y);
     }

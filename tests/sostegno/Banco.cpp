@@ -87,6 +87,11 @@ std::string Banco::RadiceLunga() const {
 }
 
 void Banco::Scrivi(const std::string &relativo, const std::string &byte) const {
+    Nota(Scritto("Scrivi", relativo, byte));
+    Metti(relativo, byte);
+}
+
+void Banco::Metti(const std::string &relativo, const std::string &byte) const {
     const fs::path file = radice_ + "/" + Barre(relativo);
     fs::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << byte;
@@ -99,20 +104,24 @@ std::string Banco::Leggi(const std::string &relativo) const {
 }
 
 void Banco::Cancella(const std::string &relativo) const {
+    Nota(Scritto("Cancella", relativo));
     fs::remove_all(radice_ + "/" + Barre(relativo));
 }
 
 void Banco::Installa(const std::string &lavoro) const {
-    Scrivi("impostazioni/dirlav", radice_ + "\\lavori\r\n");
-    Scrivi("impostazioni/lavoro", lavoro + "\r\n");
-    Scrivi("custom/TelOpInt.txt", "8|PC1|\r\n40|PC2|\r\n12|PC3|\r\n0|PC4|\r\n5|PC5|\r\n");
+    Nota(Scritto("Installa", lavoro));
+    Metti("impostazioni/dirlav", radice_ + "\\lavori\r\n");
+    Metti("impostazioni/lavoro", lavoro + "\r\n");
+    Metti("custom/TelOpInt.txt", "8|PC1|\r\n40|PC2|\r\n12|PC3|\r\n0|PC4|\r\n5|PC5|\r\n");
     std::ifstream font(TELVA_RISORSE "/font/font.001", std::ios::binary);
-    Scrivi("progra/font.001", {std::istreambuf_iterator<char>(font), {}});
+    Metti("progra/font.001", {std::istreambuf_iterator<char>(font), {}});
 }
 
 void Banco::ScriviLavoro(const LavoroProva &l, const std::string &lavoro) const {
+    Nota(Scritto("ScriviLavoro", lavoro) + ": " + std::to_string(l.nodi.size()) + " nodes, " +
+         std::to_string(l.aste.size()) + " bars, " + std::to_string(l.gusci.size()) + " shells");
     const std::string cartella = "lavori/" + lavoro + "/";
-    Scrivi(cartella + "STRUTTUR.STR", l.Struttura());
+    Metti(cartella + "STRUTTUR.STR", l.Struttura());
     std::ostringstream ingombri, spessori, sezioni, elementi;
     for (const auto &a : l.aste)
         if (a.nome > 0) ingombri << "0 0 0\r\n1 1 1\r\n";
@@ -127,10 +136,10 @@ void Banco::ScriviLavoro(const LavoroProva &l, const std::string &lavoro) const 
         for (int a : e.aste) elementi << " " << a;
         elementi << "\r\n";
     }
-    Scrivi(cartella + "Ingombri.tmp", ingombri.str());
-    Scrivi(cartella + "spessori", spessori.str());
-    Scrivi(cartella + "sezioni_", sezioni.str());
-    Scrivi(cartella + "el_conti.tmp", elementi.str());
+    Metti(cartella + "Ingombri.tmp", ingombri.str());
+    Metti(cartella + "spessori", spessori.str());
+    Metti(cartella + "sezioni_", sezioni.str());
+    Metti(cartella + "el_conti.tmp", elementi.str());
 }
 
 void Banco::ScriviIngresso(const std::string &titolo, const std::string &lista, int tipo) const {
@@ -149,6 +158,7 @@ bool Banco::Esegui(const std::function<void()> &evento) {
 }
 
 bool Banco::Avvia(const std::string &argomento) {
+    Nota(Scritto("Avvia", argomento));
     ArgomentoAvvio = argomento;
     codiceFine = -1;
     return Esegui([] { telva::Avvia(); });
@@ -156,7 +166,7 @@ bool Banco::Avvia(const std::string &argomento) {
 
 void Banco::Passo(const std::string &testo, const std::function<void()> &evento) {
     if (Finito()) throw std::logic_error("the program has ended before " + testo);
-    passi.push_back(testo);
+    Nota(testo);
     Esegui([&] { // as the window does with every event
         evento();
         if (FormTelva.DopoEvento) FormTelva.DopoEvento();
@@ -166,6 +176,11 @@ void Banco::Passo(const std::string &testo, const std::function<void()> &evento)
 std::string Banco::Letterale(double v) {
     char testo[32];
     return {testo, std::to_chars(std::begin(testo), std::end(testo), v).ptr};
+}
+
+void Banco::Nota(const std::string &passo) {
+    constexpr std::size_t kMostrati = 400;
+    passi.push_back(passo.size() > kMostrati ? passo.substr(0, kMostrati) + "..." : passo);
 }
 
 void Banco::DimenticaPassi() { passi.clear(); }

@@ -21,7 +21,9 @@ struct Messaggio {
 };
 void PrintTo(const Messaggio &m, std::ostream *os);
 
-// Every test starts from program start, with an empty installation folder of its own.
+// Every test starts from program start, with an empty installation folder of its own. What it does
+// is written down, and printed when an expectation fails: by the steps here and in Utente, by
+// Passo, and by Nota for what a test sets or calls itself.
 class Banco : public ::testing::Test {
   protected:
     Banco();
@@ -50,9 +52,9 @@ class Banco : public ::testing::Test {
     void Apri(const LavoroProva &l, bool frontale = true);
     // Runs anything that may end the program; true when it went on.
     bool Esegui(const std::function<void()> &evento);
-    // The same, written down: when an expectation fails, the steps so far are printed. After the
-    // end of the program there is no next step.
+    // A step: the same, written down. After the end of the program there is no next one.
     void Passo(const std::string &testo, const std::function<void()> &evento);
+    static void Nota(const std::string &passo);
     void DimenticaPassi(); // the story begins anew
     // A step as it stands in a test: Clic(3, 4.5), Menu("Aggiungi").
     template <class... T>
@@ -74,6 +76,7 @@ class Banco : public ::testing::Test {
     int codiceFine = -1;
 
   private:
+    void Metti(const std::string &relativo, const std::string &byte) const;
     std::filesystem::path prima_, temporanea_;
     std::string radice_;
 };

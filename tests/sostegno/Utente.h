@@ -1,6 +1,5 @@
 #pragma once
-// What the engineer does and sees. Every step is written down: a test that fails prints what was
-// done up to there.
+// What the engineer does and sees.
 
 #include "platform/tasti.h"
 #include "sostegno/Banco.h"

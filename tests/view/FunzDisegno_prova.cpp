@@ -24,6 +24,7 @@ struct FunzDisegno : Banco {
     }
     ~FunzDisegno() override { FormTelva.dpi = 96; }
     const Superficie &Dipingi() {
+        Nota(Scritto("Dipingi", FormTelva.dpi, OpzioneNumero(kOpzPennaNonSel)));
         CalcolaAttivi();
         DisegnaStruttura();
         return d.Immagine();

@@ -33,14 +33,17 @@ struct Etichette : Banco {
         Parti({});
     }
     void Generi(const std::vector<int> &accesi) {
+        Nota(Scritto("Generi", accesi));
         for (const int genere : kGeneri) Opzioni[genere] = 0.0;
         for (const int genere : accesi) Opzioni[genere] = 1.0;
     }
     void TutteLeParti(double accese = 1.0) {
+        Nota(Scritto("TutteLeParti", accese));
         for (int voce = kOpzPartiNodi; voce <= kOpzNomeElCont; ++voce) Opzioni[voce] = accese;
     }
     void Parti(const std::vector<int> &accese) {
         TutteLeParti(0.0);
+        Nota(Scritto("Parti", accese));
         for (const int parte : accese) Opzioni[parte] = 1.0;
     }
     // Pixels that these kinds of labels add to the picture.
