@@ -6,6 +6,8 @@
 #include "model/struttura.h"
 #include "sostegno/Banco.h"
 #include "sostegno/Composta.h"
+#include "ui/controlli/FormOpt.h"
+#include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/icone.h"
 #include "view/FunzDisegno.h"
@@ -82,6 +84,29 @@ void Impila(Superficie &pila, const Superficie &s) {
     pila.Ridimensiona(s.Larghezza(), sopra.Altezza() + s.Altezza());
     std::copy(sopra.Riga(0), sopra.Riga(sopra.Altezza()), pila.Riga(0));
     std::copy(s.Riga(0), s.Riga(s.Altezza()), pila.Riga(sopra.Altezza()));
+}
+
+// Where the controls of a window stand: each in a tint of its own, those that hold or frame others
+// and those that are greyed as outlines.
+Superficie Pianta(const Modulo &modulo) {
+    const auto pixel = [&](double twip) { return APixel(twip, modulo.dpi); };
+    Superficie s;
+    s.Ridimensiona(pixel(modulo.Width), pixel(modulo.Height));
+    s.Riempi(0xF0F0F0);
+    std::uint32_t tinta = 0x404040;
+    for (const Controllo *c : modulo.controlli) {
+        tinta = (tinta + 0x17305B) & 0xDFDFDF;
+        if (!c->VisibileDavvero()) continue;
+        const int sinistra = pixel(c->LeftAssoluto()), alto = pixel(c->TopAssoluto());
+        const int destra = pixel(c->LeftAssoluto() + c->Width) - 1;
+        const int basso = pixel(c->TopAssoluto() + c->Height) - 1;
+        const bool vuoto = c->TipoControllo() == Tipo::Cornice ||
+                           c->TipoControllo() == Tipo::Campione || !c->AbilitatoDavvero();
+        for (int y = alto; y <= basso; y += vuoto ? std::max(basso - alto, 1) : 1)
+            s.Linea({sinistra, y}, {destra, y}, tinta);
+        for (const int x : {sinistra, destra}) s.Linea({x, alto}, {x, basso}, tinta);
+    }
+    return s;
 }
 
 struct Immagini : Banco {
@@ -308,6 +333,24 @@ TEST_F(Immagini, Elastici) {
     d.Shape.Visible = d.LineSposta.Visible = true;
     d.Anteprima = Sagoma{.linee = {{10, 60, 190, 75}}, .cerchi = {{160, 30, 10}}};
     ConfrontaImmagine(Composta(d, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()}), "elastici");
+}
+
+TEST_F(Immagini, PiantaDelleFinestre) {
+    Apri(Telaio());
+    ModuloTelva &f = FormTelva;
+    ConfrontaImmagine(Pianta(f), "pianta_finestra");
+    f.Width = 5550;
+    f.Height = 7120;
+    f.Resize();
+    ConfrontaImmagine(Pianta(f), "pianta_minima");
+    f.Width = 7000;
+    for (const VoceMenu *barra : {&f.BarraLat, &f.BarraIcone, &f.VisCoord}) barra->Click();
+    ConfrontaImmagine(Pianta(f), "pianta_senza_barre");
+    for (const auto *apre : {&f.Rappresentazione, &f.Trappola}) apre->Click();
+    ConfrontaImmagine(Pianta(FormOpt), "pianta_opzioni");
+    ConfrontaImmagine(Pianta(FormOptInt), "pianta_trappola");
+    FormOpt.Chiudi();
+    FormOptInt.Chiudi();
 }
 
 // Every icon at every size, over a light and a dark tool bar.

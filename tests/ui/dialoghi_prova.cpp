@@ -143,7 +143,7 @@ TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
 TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
     Menu("Rappresentazione");
     const auto spessore = [&] {
-        return std::vector<bool>{f.SpMinGus.Enabled, f.LabelSpMinGus.Enabled};
+        return std::vector{f.SpMinGus.AbilitatoDavvero(), f.LabelSpMinGus.AbilitatoDavvero()};
     };
     EXPECT_EQ(spessore(), (std::vector{true, true}));
     f.CheckSpGus.Premi();
