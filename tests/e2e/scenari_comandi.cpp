@@ -38,12 +38,22 @@ const struct {
     std::string funzione = "Aggiungi selezione", sottoFunzione = "Selezione diretta",
                 lista = kTutte;
 } kComandi[] = {
-    {.comando = {"Zoom", "Visualizza", "Zoom", "Ctrl+Z"}, .sottoFunzione = "Zoom"},
-    {.comando = {"Aggiungi selezione", "Operazioni", "Aggiungi", "Ctrl+A"}},
-    {.comando = {"Rimuovi selezione", "Operazioni", "Rimuovi", "Ctrl+T"},
+    {.comando = {.suggerimento = "Zoom", .menu = "Visualizza", .voce = "Zoom", .tasti = "Ctrl+Z"},
+     .sottoFunzione = "Zoom"},
+    {.comando = {.suggerimento = "Aggiungi selezione",
+                 .menu = "Operazioni",
+                 .voce = "Aggiungi",
+                 .tasti = "Ctrl+A"}},
+    {.comando = {.suggerimento = "Rimuovi selezione",
+                 .menu = "Operazioni",
+                 .voce = "Rimuovi",
+                 .tasti = "Ctrl+T"},
      .funzione = "Rimuovi selezione"},
-    {.comando = {"Rimuovi tutto", "Operazioni", "Rimuovi tutto"}, .lista = ""},
-    {.comando = {"Inverti selezione", "Operazioni", "Inverti selezione"},
+    {.comando = {.suggerimento = "Rimuovi tutto", .menu = "Operazioni", .voce = "Rimuovi tutto"},
+     .lista = ""},
+    {.comando = {.suggerimento = "Inverti selezione",
+                 .menu = "Operazioni",
+                 .voce = "Inverti selezione"},
      .sottoFunzione = "",
      .lista = ""},
 };
@@ -73,8 +83,13 @@ SCENARIO(comandi_che_finiscono) {
         Comando comando;
         std::string file;
     } uscite[] = {
-        {.comando = {"Aggiorna ed esci", "File", "Aggiorna ed Esci", "Ctrl+G"}, .file = "9,14\r\n"},
-        {.comando = {"Esci", "File", "Esci", "Ctrl+E"}, .file = "(no file)"}};
+        {.comando = {.suggerimento = "Aggiorna ed esci",
+                     .menu = "File",
+                     .voce = "Aggiorna ed Esci",
+                     .tasti = "Ctrl+G"},
+         .file = "9,14\r\n"},
+        {.comando = {.suggerimento = "Esci", .menu = "File", .voce = "Esci", .tasti = "Ctrl+E"},
+         .file = "(no file)"}};
     for (const auto &uscita : uscite)
         for (const Porta porta : Porte(uscita.comando)) {
             Sessione s(amb, Genere::Aste, "9,14");

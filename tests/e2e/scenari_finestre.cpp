@@ -193,8 +193,13 @@ SCENARIO(posto_ricordato) {
 SCENARIO(posto_impossibile) {
     const struct {
         LONG sinistra, sopra, larghezza, altezza, massima; // pixels, then twips
-    } posti[] = {{30000, -20000, 9000, 8000, 0},
-                 {-900000, 900000, 150000, 150000, 0}}; // a picture of 400 MB
+    } posti[] = {
+        {.sinistra = 30000, .sopra = -20000, .larghezza = 9000, .altezza = 8000, .massima = 0},
+        {.sinistra = -900000, // and a picture of 400 MB
+         .sopra = 900000,
+         .larghezza = 150000,
+         .altezza = 150000,
+         .massima = 0}};
     for (const auto &posto : posti) {
         RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, &posto,
                         sizeof posto);

@@ -156,8 +156,8 @@ struct Immagini : Banco {
         l.aste.push_back({.i = 1, .j = 5, .nome = 13});
         l.aste.push_back({.i = 2, .j = 4, .nome = 14});
         for (auto &g : l.gusci) g.tratto = 0;
-        l.elementi.push_back({30, "Pilastro", {11}});
-        l.elementi.push_back({40, "Diagonale", {13}});
+        l.elementi.push_back({.numero = 30, .nome = "Pilastro", .aste = {11}});
+        l.elementi.push_back({.numero = 40, .nome = "Diagonale", .aste = {13}});
         Apri(l);
         FormTelva.VisAssi.Checked = false;
         Misura(520, 520);
@@ -286,7 +286,7 @@ TEST_F(Immagini, PostiDelleEtichette) {
         const double angolo = k * std::numbers::pi / 4, lungo = k < 8 ? 55 : 0;
         const double x = 70 + 130 * (k % 5), z = 70 + 130 * (k / 5);
         f.Linea(x, z, x + lungo * std::cos(angolo), z + lungo * std::sin(angolo), 5);
-        f.elementi.push_back({k + 1, "Elemento", {f.nomi}});
+        f.elementi.push_back({.numero = k + 1, .nome = "Elemento", .aste = {f.nomi}});
     }
     for (int k = 0; k < 5; ++k) {
         const int nodo = f.NodoVisibile(50 + 115 * k, 300, 4);

@@ -6,6 +6,7 @@
 #include "startup/direttori_cond.h"
 
 #include <algorithm>
+#include <map>
 
 namespace telva::prove {
 
@@ -66,26 +67,30 @@ TEST_F(OpzioniProva, UnTestoValePerIlSuoNumero) {
                           {.valore = {}, .numero = 0},
                           {.valore = "1 pixel", .numero = 1},
                           {.valore = "abc", .numero = 0}}) {
-        Opzioni[9] = c.valore;
-        EXPECT_EQ(OpzioneNumero(9), c.numero);
-        EXPECT_EQ(OpzioneAttiva(9), c.numero == 1) << "worth " << c.numero;
+        Opzioni[kOpzTestiGusci] = c.valore;
+        EXPECT_EQ(OpzioneNumero(kOpzTestiGusci), c.numero);
+        EXPECT_EQ(OpzioneAttiva(kOpzTestiGusci), c.numero == 1) << "worth " << c.numero;
     }
 }
 
 TEST_F(OpzioniProva, LeOpzioniInterneSonoLePrimeCinqueRigheGiuste) {
     struct Caso {
         const char *testo;
-        std::array<double, 5> attese; // PC1 to PC5
+        std::map<int, double> attese; // by the number behind PC; 0 where none stands
     };
     const Caso casi[] = {
-        {.testo = "7.5|pc1|\r\n12 x|Pc 2|x|\n1e1|PC5.9|", .attese = {7.5, 12, 0, 0, 10}},
-        {.testo = "7|PX1|\n7|PC6|\n3|PC2\n3|PC0|\n3|PC|", .attese = {0, 0, 0, 0, 0}},
-        {.testo = "1|PC1|\n2|PC4|\n3|PC1|\n\n4|PC3|\n5|PC2|\n", .attese = {3, 0, 4, 2, 0}}};
+        {.testo = "7.5|pc1|\r\n12 x|Pc 2|x|\n1e1|PC5.9|", .attese = {{1, 7.5}, {2, 12}, {5, 10}}},
+        {.testo = "7|PX1|\n7|PC6|\n3|PC2\n3|PC0|\n3|PC|", .attese = {}},
+        {.testo = "1|PC1|\n2|PC4|\n3|PC1|\n\n4|PC3|\n5|PC2|\n",
+         .attese = {{1, 3}, {3, 4}, {4, 2}}}};
     for (const Caso &c : casi) {
         Scrivi("TelOpInt.txt", c.testo);
         LeggiOpzInt();
-        for (std::size_t n = 1; n <= 5; ++n)
-            EXPECT_EQ(OpzInt[int(n)], c.attese[n - 1]) << "PC" << n << " of " << c.testo;
+        for (int n = 1; n <= 5; ++n) {
+            const auto attesa = c.attese.find(n);
+            EXPECT_EQ(OpzInt[n], attesa == c.attese.end() ? 0 : attesa->second)
+                << "PC" << n << " of " << c.testo;
+        }
     }
     Cancella("TelOpInt.txt");
     LeggiOpzInt();

@@ -24,12 +24,12 @@ TEST(Citazione, DiUnTestoLungoRestanoSessantaCaratteriInteri) {
         const char *quale;
         std::string testo, citato;
     } casi[] = {
-        {"breve", " a b ", " a b "},
-        {"sessanta", Volte(60, "à"), Volte(60, "à")},
-        {"sessantuno", Volte(61, "à"), Volte(59, "à") + "…"},
-        {"di quattro byte", Volte(99, "😀"), Volte(59, "😀") + "…"},
-        {"righe e tabulazioni", "a\r\nb\tc", "a  b c"},
-        {"byte che non sono UTF-8", "citt\xE0", "città"},
+        {.quale = "breve", .testo = " a b ", .citato = " a b "},
+        {.quale = "sessanta", .testo = Volte(60, "à"), .citato = Volte(60, "à")},
+        {.quale = "sessantuno", .testo = Volte(61, "à"), .citato = Volte(59, "à") + "…"},
+        {.quale = "di quattro byte", .testo = Volte(99, "😀"), .citato = Volte(59, "😀") + "…"},
+        {.quale = "righe e tabulazioni", .testo = "a\r\nb\tc", .citato = "a  b c"},
+        {.quale = "byte che non sono UTF-8", .testo = "citt\xE0", .citato = "città"},
     };
     for (const auto &caso : casi) EXPECT_EQ(Cita(caso.testo), caso.citato) << caso.quale;
 }

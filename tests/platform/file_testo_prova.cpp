@@ -42,12 +42,13 @@ Elenco Numeri(const std::string &byte) {
 }
 
 // Bytes of a text as UTF-16, with its mark.
-std::string Utf16(const std::u16string &testo, bool primaAlto) {
+enum class Ordine { PrimaAlto, PrimaBasso };
+std::string Utf16(const std::u16string &testo, Ordine ordine) {
     std::string byte;
     for (const char16_t c : u"\uFEFF" + testo) {
         const char alto = static_cast<char>(c >> 8), basso = static_cast<char>(c & 0xFF);
-        byte += primaAlto ? alto : basso;
-        byte += primaAlto ? basso : alto;
+        byte += ordine == Ordine::PrimaAlto ? alto : basso;
+        byte += ordine == Ordine::PrimaAlto ? basso : alto;
     }
     return byte;
 }
@@ -124,7 +125,7 @@ TEST(FileTesto, IlByte1AChiudeIlFile) {
     EXPECT_EQ(Numeri("1,2\x1A,3"), (Elenco{"1 @1", "2 @1"}));
     EXPECT_EQ(Testi("\"a\x1A\" b"), Elenco{"a"});
     EXPECT_EQ(Righe(kMarcaUtf8 + "uno\x1A due"), Elenco{"uno"});
-    EXPECT_EQ(Righe(Utf16(u"uno\u001A due", false)), Elenco{"uno"});
+    EXPECT_EQ(Righe(Utf16(u"uno\u001A due", Ordine::PrimaBasso)), Elenco{"uno"});
 }
 
 TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
@@ -137,20 +138,24 @@ TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
         {"UTF-8 senza marca e' Windows-1252", "\xC3\xA0", {"Ã\u00A0"}},
         {"UTF-8", kMarcaUtf8 + "città\r\nΩ, 😀", {"città", "Ω, 😀"}},
         {"marca di UTF-8, byte di Windows-1252", kMarcaUtf8 + "citt\xE0 è", {"città è"}},
-        {"UTF-16, prima il basso", Utf16(u"città\r\nΩ\U0001F600", false), {"città", "Ω😀"}},
-        {"UTF-16, prima l'alto", Utf16(u"città\r\nΩ\U0001F600", true), {"città", "Ω😀"}},
+        {"UTF-16, prima il basso",
+         Utf16(u"città\r\nΩ\U0001F600", Ordine::PrimaBasso),
+         {"città", "Ω😀"}},
+        {"UTF-16, prima l'alto",
+         Utf16(u"città\r\nΩ\U0001F600", Ordine::PrimaAlto),
+         {"città", "Ω😀"}},
         {"UTF-16, byte di fine riga in altri caratteri",
-         Utf16(u"\u0D0A\u1A0D\r\nb", true),
+         Utf16(u"\u0D0A\u1A0D\r\nb", Ordine::PrimaAlto),
          {"\u0D0A\u1A0D", "b"}},
         {"UTF-16, mezze coppie",
-         Utf16({0xD83D, u'a', 0xDE00, 0xD83D}, false),
+         Utf16({0xD83D, u'a', 0xDE00, 0xD83D}, Ordine::PrimaBasso),
          {"\uFFFDa\uFFFD\uFFFD"}},
-        {"UTF-16, mezzo carattere in fondo", Utf16(u"a", false) + "b", {"a"}},
+        {"UTF-16, mezzo carattere in fondo", Utf16(u"a", Ordine::PrimaBasso) + "b", {"a"}},
         {"solo la marca", kMarcaUtf8, {}},
     };
     for (const auto &caso : casi) EXPECT_EQ(Righe(caso.byte), caso.righe) << caso.come;
     EXPECT_EQ(Testi(kMarcaUtf8 + "\"Ω, x\", è"), (Elenco{"Ω, x", "è"}));
-    EXPECT_EQ(Numeri(Utf16(u"1,2.5\r\n3", true)), (Elenco{"1 @1", "2.5 @1", "3 @2"}));
+    EXPECT_EQ(Numeri(Utf16(u"1,2.5\r\n3", Ordine::PrimaAlto)), (Elenco{"1 @1", "2.5 @1", "3 @2"}));
 }
 
 TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {

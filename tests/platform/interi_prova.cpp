@@ -16,17 +16,17 @@ TEST(Interi, VersoIlBassoLAltoEIlVicino) {
         double valore;
         int basso, alto, vicino;
     } kCasi[] = {
-        {2.25, 2, 3, 2},
-        {2.5, 2, 3, 3},
-        {-2.5, -3, -2, -2},
-        {-2.75, -3, -2, -3},
-        {-3, -3, -3, -3},
-        {kMassimo - 0.5, kMassimo - 1, kMassimo, kMassimo},
-        {kMinimo + 0.5, kMinimo, kMinimo + 1, kMinimo + 1},
-        {1e300, kMassimo, kMassimo, kMassimo},
-        {kInfinito, kMassimo, kMassimo, kMassimo},
-        {-kInfinito, kMinimo, kMinimo, kMinimo},
-        {std::nan(""), kMinimo, kMinimo, kMinimo},
+        {.valore = 2.25, .basso = 2, .alto = 3, .vicino = 2},
+        {.valore = 2.5, .basso = 2, .alto = 3, .vicino = 3},
+        {.valore = -2.5, .basso = -3, .alto = -2, .vicino = -2},
+        {.valore = -2.75, .basso = -3, .alto = -2, .vicino = -3},
+        {.valore = -3, .basso = -3, .alto = -3, .vicino = -3},
+        {.valore = kMassimo - 0.5, .basso = kMassimo - 1, .alto = kMassimo, .vicino = kMassimo},
+        {.valore = kMinimo + 0.5, .basso = kMinimo, .alto = kMinimo + 1, .vicino = kMinimo + 1},
+        {.valore = 1e300, .basso = kMassimo, .alto = kMassimo, .vicino = kMassimo},
+        {.valore = kInfinito, .basso = kMassimo, .alto = kMassimo, .vicino = kMassimo},
+        {.valore = -kInfinito, .basso = kMinimo, .alto = kMinimo, .vicino = kMinimo},
+        {.valore = std::nan(""), .basso = kMinimo, .alto = kMinimo, .vicino = kMinimo},
     };
     for (const auto &caso : kCasi) {
         EXPECT_EQ(InteroBasso(caso.valore), caso.basso) << caso.valore;

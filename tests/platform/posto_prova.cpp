@@ -7,27 +7,32 @@ using namespace telva;
 TEST(Posto, SiRicordaSoloUnPostoCheUnaFinestraPuoAvere) {
     constexpr std::int32_t kTroppo = 2000000;
     const struct {
-        NumeriPosto numeri;
+        std::int32_t left = 0, top = 0, larghezza = 15000, altezza = 11400, massimizzata = 0;
         bool buono;
     } casi[] = {
-        {.numeri = {-1500, 40, 15000, 11400, 1}, .buono = true},
-        {.numeri = {0, 0, 1, 1, 0}, .buono = true},
-        {.numeri = {0, 0, 0, 11400, 0}, .buono = false},
-        {.numeri = {0, 0, 15000, -1, 0}, .buono = false},
-        {.numeri = {kTroppo, 0, 15000, 11400, 0}, .buono = false},
-        {.numeri = {0, -kTroppo, 15000, 11400, 0}, .buono = false},
-        {.numeri = {0, 0, kTroppo, 11400, 0}, .buono = false},
+        {.left = -1500, .top = 40, .massimizzata = 1, .buono = true},
+        {.larghezza = 1, .altezza = 1, .buono = true},
+        {.larghezza = 0, .buono = false},
+        {.altezza = -1, .buono = false},
+        {.left = kTroppo, .buono = false},
+        {.top = -kTroppo, .buono = false},
+        {.larghezza = kTroppo, .buono = false},
     };
     for (const auto &c : casi) {
-        const auto posto = PostoDaNumeri(c.numeri);
-        EXPECT_EQ(posto.has_value(), c.buono) << testing::PrintToString(c.numeri);
-        EXPECT_TRUE(!posto || ANumeri(*posto) == c.numeri) << testing::PrintToString(c.numeri);
+        const NumeriPosto numeri = {c.left, c.top, c.larghezza, c.altezza, c.massimizzata};
+        const auto posto = PostoDaNumeri(numeri);
+        EXPECT_EQ(posto.has_value(), c.buono) << testing::PrintToString(numeri);
+        if (posto) {
+            EXPECT_EQ(ANumeri(*posto), numeri);
+        }
     }
 }
 
 TEST(Posto, LaMisuraNonSuperaLAreaDiLavoro) {
-    const auto grande = PostoDaNumeri({7, 8, 1000000, 900000, 1});
-    EXPECT_EQ(ANumeri(EntroArea(*grande, 28800, 16200)), (NumeriPosto{7, 8, 28800, 16200, 1}));
-    const auto piccola = PostoDaNumeri({7, 8, 9000, 8000, 0});
-    EXPECT_EQ(ANumeri(EntroArea(*piccola, 28800, 16200)), (NumeriPosto{7, 8, 9000, 8000, 0}));
+    const double kLarghezza = 28800, kAltezza = 16200;
+    const PostoFinestra grande{.left = 7, .top = 8, .larghezza = 1000000, .altezza = 900000};
+    EXPECT_EQ(EntroArea(grande, kLarghezza, kAltezza).larghezza, kLarghezza);
+    EXPECT_EQ(EntroArea(grande, kLarghezza, kAltezza).altezza, kAltezza);
+    const PostoFinestra piccola{.left = 7, .top = 8, .larghezza = 9000, .altezza = 8000};
+    EXPECT_EQ(ANumeri(EntroArea(piccola, kLarghezza, kAltezza)), ANumeri(piccola));
 }

@@ -83,9 +83,14 @@ struct SuperficieProva : ::testing::Test {
         Pixel b{ritta ? a.x : a.x + Fra(-120, 120), livellata ? a.y : a.y + Fra(-120, 120)};
         b = {std::clamp(b.x, -80, 120), std::clamp(b.y, -80, 120)};
         if (genere == Genere::Cerchio)
-            return {genere, {a.x / 2, a.y / 2}, {a.x / 2, a.y / 2}, Fra(1, 11), Fra(1, 25), {}};
+            return {.genere = genere,
+                    .a = {a.x / 2, a.y / 2},
+                    .b = {a.x / 2, a.y / 2},
+                    .penna = Fra(1, 11),
+                    .raggio = Fra(1, 25),
+                    .trattini = {}};
         const Trattini t{static_cast<std::uint32_t>(sorte()), Fra(1, 32)};
-        return {genere, a, b, Fra(2, 12), 0, t};
+        return {.genere = genere, .a = a, .b = b, .penna = Fra(2, 12), .raggio = 0, .trattini = t};
     }
     // Says which pixel of the surface is not as the rule wants it.
     template <class Regola>

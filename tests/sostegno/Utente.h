@@ -35,6 +35,7 @@ inline void PrintTo(Asse a, std::ostream *os) {
 class Utente : public Banco {
   protected:
     static constexpr int kInvio = kTastoInvio, kEsc = kTastoEsc;
+    static constexpr bool kSenzaInvio = false; // typed, and not yet entered
     static constexpr int kSinistro = 1, kDestro = 2, kCentrale = 4;
 
     static RiquadroDisegno &Disegno() { return FormTelva.Disegno; }

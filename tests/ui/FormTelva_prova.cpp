@@ -70,13 +70,13 @@ TEST_F(FormTelvaProva, NumeriRifiutatiSenzaStruttura) {
 
 TEST_F(FormTelvaProva, UnIntervalloRifiutatoConLaSuaBarraNonPrendeITasti) {
     f.fuoco = nullptr;
-    Intervallo(Estremo::MinX, "abc", false);
+    Intervallo(Estremo::MinX, "abc", kSenzaInvio);
     Menu("BarraLat");
     EXPECT_EQ(Detto(), "ERRORE: Intervallo di coordinate non valido: abc");
     EXPECT_EQ(f.IntX[0].Text(), "0");
     EXPECT_EQ(f.fuoco, nullptr) << "a hidden box";
     Menu("BarraLat");
-    Intervallo(Estremo::MinX, "abc", false);
+    Intervallo(Estremo::MinX, "abc", kSenzaInvio);
     Menu("BarraIcone");
     EXPECT_EQ(f.fuoco, &f.IntX[0]) << "to be seen, and corrected";
 }

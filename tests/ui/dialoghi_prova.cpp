@@ -1,5 +1,6 @@
 // The two options dialogs, opened from their menu items.
 #include "model/opzioni_cond.h"
+#include "sostegno/Composta.h"
 #include "sostegno/Utente.h"
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
@@ -75,11 +76,7 @@ struct DialogoRappresentazione : Utente {
         LeggiOpzioni();
         const auto riletti = TutteLeOpzioni();
         for (std::size_t k = 0; k < attese.size(); ++k)
-            EXPECT_TRUE(riletti[k] == attese[k]) << "entry " << k;
-    }
-    std::vector<std::uint32_t> Pixel() const {
-        const Superficie &s = FormTelva.Disegno.Immagine();
-        return {s.Riga(0), s.Riga(0) + s.Larghezza() * s.Altezza()};
+            EXPECT_EQ(riletti[k], attese[k]) << "entry " << k;
     }
 };
 
@@ -91,9 +88,12 @@ TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
         {.casella = f.CheckTxtGusci, .voce = kOpzTestiGusci},
         {.casella = f.CheckTxtElCont, .voce = kOpzTestiElCont},
         {.casella = f.TxtElCont, .voce = kOpzNomeElCont}};
-    for (int k = 0; k < 2; ++k) spunte.push_back({f.TxtNodi[k], kOpzPartiNodi + k});
-    for (int k = 0; k < 5; ++k) spunte.push_back({f.TxtAste[k], kOpzPartiAste + k});
-    for (int k = 0; k < 3; ++k) spunte.push_back({f.TxtGusci[k], kOpzPartiGusci + k});
+    for (int k = 0; k < 2; ++k)
+        spunte.push_back({.casella = f.TxtNodi[k], .voce = kOpzPartiNodi + k});
+    for (int k = 0; k < 5; ++k)
+        spunte.push_back({.casella = f.TxtAste[k], .voce = kOpzPartiAste + k});
+    for (int k = 0; k < 3; ++k)
+        spunte.push_back({.casella = f.TxtGusci[k], .voce = kOpzPartiGusci + k});
     for (const VoceOpzioni<CasellaSpunta> &s : spunte) {
         const double opposto = OpzioneAttiva(s.voce) ? 0 : 1;
         Cambia(s.casella.NomeControllo(), s.voce, opposto, [&] { s.casella.Premi(); });
@@ -107,7 +107,7 @@ TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
                                                {.casella = f.DistTxt, .voce = kOpzDistanzaTesto}};
     for (const VoceOpzioni<CasellaTesto> &t : testi)
         Cambia(t.casella.NomeControllo(), t.voce, 12.5, [&] { t.casella.Text = "12.5cm"; });
-    for (const int colore : {9, 0, 4})
+    for (const int colore : {kNumeroColori - 1, +kNero, +kVerde})
         Cambia(f.LabelCol[colore].NomeControllo(), kOpzColoreTesto, colore,
                [&] { f.LabelCol[colore].Click(); });
     Cambia("EvColNonSel", kOpzColoreSel, 0, [&] { f.EvColNonSel.Seleziona(); });
@@ -115,7 +115,7 @@ TEST_F(DialogoRappresentazione, OgniControlloECambiaLaSuaVoceSoltanto) {
 }
 
 TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
-    for (const double codice : {-1.0, 10.0, 1e9}) {
+    for (const double codice : {-1.0, double{kNumeroColori}, 1e9}) {
         Opzioni[kOpzColoreTesto] = codice;
         Opzioni[kOpzRaggioNodo] = std::string("x"); // as it stands in the file
         Opzioni[kOpzBaseTesto] = 2e20;
@@ -123,7 +123,7 @@ TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
         EXPECT_EQ(f.Raggio.Text(), "x");
         EXPECT_EQ(f.BaseTxt.Text(), "2e+20");
         for (int k = 0; k < ModuloOpt::kCampioni; ++k)
-            EXPECT_EQ(f.LabelBordCol[k].Marcato, k == 1) << codice;
+            EXPECT_EQ(f.LabelBordCol[k].Marcato, k == kBianco) << codice;
         f.Chiudi();
     }
 }
@@ -142,12 +142,12 @@ TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
 
 TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
     Menu("Rappresentazione");
-    const auto spessore = [&] {
-        return std::vector{f.SpMinGus.AbilitatoDavvero(), f.LabelSpMinGus.AbilitatoDavvero()};
-    };
-    EXPECT_EQ(spessore(), (std::vector{true, true}));
-    f.CheckSpGus.Premi();
-    EXPECT_EQ(spessore(), (std::vector{false, false}));
+    for (const bool nascosti : {true, false}) {
+        EXPECT_EQ(f.CheckSpGus.Value, nascosti);
+        EXPECT_EQ(f.SpMinGus.AbilitatoDavvero(), nascosti);
+        EXPECT_EQ(f.LabelSpMinGus.AbilitatoDavvero(), nascosti);
+        f.CheckSpGus.Premi();
+    }
 
     struct Gruppo {
         CasellaSpunta &capo;
@@ -183,8 +183,10 @@ TEST_F(DialogoRappresentazione, SenzaMisuraDelTestoNienteTesti) {
         bool testi; // still on
     };
     for (const auto &[casella, voce, testi] :
-         {Caso{f.BaseTxt, 10, false}, Caso{f.AltezzaTxt, 11, false}, Caso{f.DistTxt, 13, true},
-          Caso{f.Raggio, 6, true}}) {
+         {Caso{.casella = f.BaseTxt, .voce = kOpzBaseTesto, .testi = false},
+          Caso{.casella = f.AltezzaTxt, .voce = kOpzAltezzaTesto, .testi = false},
+          Caso{.casella = f.DistTxt, .voce = kOpzDistanzaTesto, .testi = true},
+          Caso{.casella = f.Raggio, .voce = kOpzRaggioNodo, .testi = true}}) {
         SCOPED_TRACE(casella.NomeControllo());
         for (const int acceso : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
             Opzioni[acceso] = 1.0;
@@ -201,20 +203,21 @@ TEST_F(DialogoRappresentazione, SenzaMisuraDelTestoNienteTesti) {
 }
 
 TEST_F(DialogoRappresentazione, IlDisegnoCambiaAllaChiusuraESoloDopoSalva) {
-    const auto prima = Pixel();
+    const Superficie prima = FormTelva.Disegno.Immagine();
+    const auto diversi = [&] { return PixelDiversi(prima, FormTelva.Disegno.Immagine()); };
     Menu("Rappresentazione");
     f.Raggio.Text = "12";
     f.Chiudi_.Click();
     EXPECT_FALSE(f.Mostrata());
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "not saved";
-    EXPECT_TRUE(Pixel() == prima);
+    EXPECT_EQ(diversi(), 0);
     Menu("Rappresentazione");
     f.Raggio.Text = "12";
     f.Salva.Click();
     EXPECT_TRUE(f.Mostrata());
-    EXPECT_TRUE(Pixel() == prima) << "until the dialog closes";
+    EXPECT_EQ(diversi(), 0) << "until the dialog closes";
     f.Chiudi_.Click();
-    EXPECT_TRUE(Pixel() != prima);
+    EXPECT_GT(diversi(), 0);
 }
 
 TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {

@@ -3,6 +3,7 @@
 #include "model/opzioni_cond.h"
 #include "selection/selezione.h"
 #include "selection/trappola.h"
+#include "sostegno/Composta.h"
 #include "sostegno/Utente.h"
 #include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
@@ -32,15 +33,6 @@ struct PuntatoreProva : Utente {
         bool fuori = false;
         return d.InPixel(XNodo(nodo), YNodo(nodo), fuori);
     }
-    // Pixels of `prima` that are not found `dx` to the right and `dy` below, where both show them.
-    int Diversi(const Superficie &prima, int dx, int dy) const {
-        const Superficie &ora = d.Immagine();
-        int diversi = 0;
-        for (int y = std::max(0, -dy); y < ora.Altezza() - std::max(0, dy); ++y)
-            for (int x = std::max(0, -dx); x < ora.Larghezza() - std::max(0, dx); ++x)
-                diversi += prima.Leggi(x, y) != ora.Leggi(x + dx, y + dy);
-        return diversi;
-    }
 };
 
 Pixel operator+(Pixel a, Pixel b) { return {a.x + b.x, a.y + b.y}; }
@@ -52,7 +44,7 @@ struct PuntatoreAlPixel : PuntatoreProva, ::testing::WithParamInterface<double> 
         Mostra(Filtro::Gusci); // hatches stand still in the picture
         for (const char *angolo : {"0", "30", "-75"})
             for (const bool zoom : {false, true}) {
-                Angolo(Asse::X, angolo, false);
+                Angolo(Asse::X, angolo, kSenzaInvio);
                 Angolo(Asse::Z, angolo);
                 Menu("Ottimizza");
                 if (zoom) {
@@ -99,7 +91,8 @@ TEST_P(PuntatoreAlPixel, IlDisegnoRestaSottoIlPuntatoreCheLoSposta) {
             } else {
                 Trascina({{300, 200}, {293, 240}, {300, 200}, {331, 183}});
             }
-            EXPECT_EQ(Diversi(prima, 31, -17), 0) << (dueClic ? "two clicks" : "middle button");
+            EXPECT_EQ(PixelDiversi(prima, d.Immagine(), 31, -17), 0)
+                << (dueClic ? "two clicks" : "middle button");
         }
     });
 }
@@ -125,7 +118,7 @@ TEST_F(PuntatoreProva, IlTrascinamentoFinisceAlRilascioOQuandoIlMouseSePerso) {
         perso ? PerdiIlMouse() : RilasciaCentrale();
         const Superficie prima = d.Immagine();
         MuoviPremuto(X(350), Y(260));
-        EXPECT_EQ(Diversi(prima, 0, 0), 0);
+        EXPECT_EQ(PixelDiversi(prima, d.Immagine()), 0);
     }
 }
 
@@ -147,7 +140,7 @@ TEST_F(PuntatoreProva, IlTrascinamentoContinuaDaQuelloCheSiVede) {
         {"wheel", [&] { Rotella(1); }},
         {"refused wheel",
          [&] {
-             FinestraZoom = {0.11, 0, 0.11, 0};
+             ImpostaZoom(0, 0, 0.11, 0.11);
              Menu("Ridis");
              Rotella(1);
          }},
@@ -193,12 +186,19 @@ TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
         bool singola;
     };
     const double quanto = 32; // between two single numbers near 5e8
+    const double accanto = 5e8 + quanto / 4;
     const Caso casi[] = {
-        {"near the origin", 0.1, 0.25, true},
-        {"near the origin, tiny pixels", 0.1, 1e-9, false},
-        {"far off", 5e8 + 7, 20, false},
-        {"a 64th of a pixel", 5e8 + quanto / 4, quanto / 4 * 64, true},
-        {"more than a 64th", 5e8 + quanto / 4, quanto / 4 * 63.9, false},
+        {.che = "near the origin", .posto = 0.1, .unitaPerPixel = 0.25, .singola = true},
+        {.che = "the same, tiny pixels", .posto = 0.1, .unitaPerPixel = 1e-9, .singola = false},
+        {.che = "far off", .posto = 5e8 + 7, .unitaPerPixel = 20, .singola = false},
+        {.che = "a 64th of a pixel",
+         .posto = accanto,
+         .unitaPerPixel = 16 * quanto,
+         .singola = true},
+        {.che = "more than that",
+         .posto = accanto,
+         .unitaPerPixel = 15.9 * quanto,
+         .singola = false},
     };
     for (const Caso &caso : casi) {
         d.Scale(0, 0, caso.unitaPerPixel * d.LarghezzaPixel(),

@@ -86,7 +86,9 @@ TEST_F(StatoProva, UnElencoLungoFinisceConUnNumeroIntero) {
 
 TEST_F(StatoProva, UnElementoContinuoContaConLaSchedaDiTutteLeSueAste) {
     LavoroProva misto = Telaio();
-    misto.elementi = {{10, "", {1, 2}}, {20, "", {3, 7}}, {30, "", {7, 8}}};
+    misto.elementi = {{.numero = 10, .nome = "", .aste = {1, 2}},
+                      {.numero = 20, .nome = "", .aste = {3, 7}},
+                      {.numero = 30, .nome = "", .aste = {7, 8}}};
     Apri(misto);
     Menu("Aggiungi");
     Tipo(kElContTipo);
@@ -155,7 +157,7 @@ TEST_F(StatoProva, CheCosaRestaSenzaIlPuntatoreEConUnaFinestra) {
     Menu("Aggiungi");
     Tipo(kAsteTipo);
     Muovi(50, 0);
-    const Sagoma::Linea asta{0, 0, 100, 0};
+    const Sagoma::Linea asta{.x1 = 0, .y1 = 0, .x2 = 100, .y2 = 0};
     EXPECT_EQ(d.Anteprima().linee.at(0), asta);
     Passo("Distratta()", f.Distratta);
     EXPECT_EQ(Poi(), "clic su un'asta, o menu Selezioni; Esc termina") << "a key has the word";

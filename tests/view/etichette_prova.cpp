@@ -2,6 +2,7 @@
 #include "model/struttura.h"
 #include "platform/mostrabile.h"
 #include "sostegno/Banco.h"
+#include "sostegno/Composta.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/FunzDisegno.h"
 #include "view/etichette.h"
@@ -14,9 +15,12 @@ namespace {
 
 // The options that say which labels there are, and which of their parts.
 constexpr int kGeneri[] = {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont};
-constexpr int kNomeNodo = 14, kVincolo = 15, kNomeAsta = 16, kMaterialeAsta = 17, kSezione = 18,
-              kOrientamento = 19, kSvincolo = 20, kNomeGuscio = 21, kMaterialeGuscio = 22,
-              kSpessore = 23;
+constexpr int kNomeNodo = kOpzPartiNodi, kVincolo = kOpzPartiNodi + 1;
+constexpr int kNomeAsta = kOpzPartiAste, kMaterialeAsta = kOpzPartiAste + 1,
+              kSezione = kOpzPartiAste + 2, kOrientamento = kOpzPartiAste + 3,
+              kSvincolo = kOpzPartiAste + 4;
+constexpr int kNomeGuscio = kOpzPartiGusci, kMaterialeGuscio = kOpzPartiGusci + 1,
+              kSpessore = kOpzPartiGusci + 2;
 
 // The frame from the front.
 struct Etichette : Banco {
@@ -53,11 +57,7 @@ struct Etichette : Banco {
         const Superficie nuda = d.Immagine();
         Generi(generi);
         DisegnaStruttura();
-        int diversi = 0;
-        for (int y = 0; y < nuda.Altezza(); ++y)
-            for (int x = 0; x < nuda.Larghezza(); ++x)
-                diversi += d.Immagine().Leggi(x, y) != nuda.Leggi(x, y);
-        return diversi;
+        return PixelDiversi(nuda, d.Immagine());
     }
 };
 

@@ -96,10 +96,14 @@ struct TestiProva : SalvaDis {
         FontX('A', 1) = 99, FontY('A', 1) = 99;
     }
     using Punti = std::vector<std::array<double, 2>>;
-    static void Scrive(const char *che, const char *testo, std::int16_t angolo, double base,
-                       double altezza, const Punti &attesi) {
+    struct Scritta {
+        const char *testo;
+        std::int16_t angolo = 0;
+        double base = 10, altezza = 20;
+    };
+    static void Scrive(const char *che, const Scritta &s, const Punti &attesi) {
         AzzeraDisegno();
-        DisTesto(testo, 100.001, 200.001, angolo, base, altezza);
+        DisTesto(s.testo, 100.001, 200.001, s.angolo, s.base, s.altezza);
         ASSERT_EQ(NumCoordDis, static_cast<int>(attesi.size())) << che;
         for (int k = 0; k < NumCoordDis; ++k) {
             EXPECT_NEAR(CoordDisX[k], attesi[static_cast<std::size_t>(k)][0] + 0.001, 1e-9) << che;
@@ -109,16 +113,17 @@ struct TestiProva : SalvaDis {
 };
 
 TEST_F(TestiProva, OgniCarattereAvanzaDiUnaBase) {
-    Scrive("level", "AA", 0, 10, 20, {{100, 200}, {105, 220}, {110, 200}, {115, 220}});
-    Scrive("upwards", "AA", 90, 10, 20, {{100, 200}, {80, 205}, {100, 210}, {80, 215}});
-    Scrive("without width", "A", 0, 0, 20, {});
-    Scrive("without height", "A", 0, 10, 0, {});
+    Scrive("level", {.testo = "AA"}, {{100, 200}, {105, 220}, {110, 200}, {115, 220}});
+    Scrive("upwards", {.testo = "AA", .angolo = 90},
+           {{100, 200}, {80, 205}, {100, 210}, {80, 215}});
+    Scrive("without width", {.testo = "A", .base = 0}, {});
+    Scrive("without height", {.testo = "A", .altezza = 0}, {});
 }
 
 TEST_F(TestiProva, UnCarattereSenzaTrattiAvanzaEUnoFuoriPaginaFinisce) {
-    Scrive("accented and control", "\u00E0\x01\x41", 0, 10, 20, {{120, 200}, {125, 220}});
-    Scrive("no character of the page", "\u0416\x41", 0, 10, 20, {});
-    Scrive("up to there", "A\u0416\x41", 0, 10, 20, {{100, 200}, {105, 220}});
+    Scrive("accented and control", {.testo = "\u00E0\x01\x41"}, {{120, 200}, {125, 220}});
+    Scrive("no character of the page", {.testo = "\u0416\x41"}, {});
+    Scrive("up to there", {.testo = "A\u0416\x41"}, {{100, 200}, {105, 220}});
 }
 
 } // namespace telva::prove
