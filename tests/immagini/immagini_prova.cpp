@@ -307,9 +307,10 @@ TEST_F(Immagini, PostiDelleEtichette) {
     Confronta("etichette_posti");
 }
 
-// So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke.
+// So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke; over a hatch.
 TEST_F(Immagini, EtichetteGrandi) {
     ApriTelaio();
+    TrattGuscio[0] = TrattGuscio[1] = 7;
     Opzioni[kOpzTestiAste] = Opzioni[kOpzTestiNodi] = 1.0;
     FinestraZoom = {.primaX = 130, .secondaX = 95, .primaY = 120, .secondaY = 90};
     Adatta();
