@@ -311,6 +311,7 @@ TEST_F(Immagini, PostiDelleEtichette) {
 TEST_F(Immagini, EtichetteGrandi) {
     ApriTelaio();
     TrattGuscio[0] = TrattGuscio[1] = 7;
+    MisuraTesti(5, 7);
     Opzioni[kOpzTestiAste] = Opzioni[kOpzTestiNodi] = 1.0;
     FinestraZoom = {.primaX = 130, .secondaX = 95, .primaY = 120, .secondaY = 90};
     Adatta();
