@@ -161,7 +161,8 @@ TEST(FileTesto, LaMarcaDiceComeSonoScrittiITesti) {
 TEST(FileTesto, UnNumeroELoStessoComunqueSiScriva) {
     for (const char *testo :
          {"00012", "+7", "-7", ".5", "5.", "-0.1", "123456789012345", "1234567890123456",
-          "9007199254740993", "123456789.012345", "0.30000000000000004", "1.5e2"}) {
+          "9007199254740993", ".12345678901234", ".123456789012345", "123456789.012345",
+          "0.30000000000000004", "1.5e2"}) {
         FileTesto file = Aperto(testo);
         double letto = -1;
         EXPECT_EQ(file.LeggiNumero(letto), Lettura::Riuscita) << testo;

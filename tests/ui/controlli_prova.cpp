@@ -99,6 +99,7 @@ TEST_F(ControlliProva, IDialoghi) {
 TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
     const auto nuova = std::make_unique<ModuloTelva>();
     ModuloTelva &f = *nuova;
+    EXPECT_TRUE(f.ridimensionabile);
     for (int k = 0; k < 3; ++k) {
         EXPECT_EQ(f.Label2[k].stile, StileEtichetta::Pedice);
         EXPECT_TRUE(f.Angolo[k].stretta);

@@ -75,13 +75,16 @@ TEST_F(StatoProva, CheCosaSiPuoScrivere) {
 
 TEST_F(StatoProva, UnElencoLungoFinisceConUnNumeroIntero) {
     LavoroProva lungo = Telaio();
-    for (int k = 0; k < 300; ++k)
-        lungo.aste.push_back({.i = 1, .j = 2, .nome = 100 + k, .orientamento = 100 + 2 * k});
-    Apri(lungo);
-    Menu("Aggiungi");
-    Tipo(kAsteTipo);
-    Menu("SchOrientamento");
-    EXPECT_TRUE(Poi().ends_with(",344,…")) << Poi();
+    for (int k = 0; k < 135; ++k)
+        lungo.aste.push_back({.i = 1, .j = 2, .nome = 100 + k, .orientamento = 10 + 2 * k});
+    for (const char *fine : {",276,278", ",276,278,…"}) { // 500 characters are shown, and no more
+        Apri(lungo);
+        Menu("Aggiungi");
+        Tipo(kAsteTipo);
+        Menu("SchOrientamento");
+        EXPECT_TRUE(Poi().ends_with(fine)) << Poi();
+        lungo.aste.push_back({.i = 1, .j = 2, .nome = 300, .orientamento = 280});
+    }
 }
 
 TEST_F(StatoProva, UnElementoContinuoContaConLaSchedaDiTutteLeSueAste) {

@@ -20,10 +20,11 @@ TEST_F(SalvaDis, PuntiPiuViciniDiUnDecimillesimoSonoLoStesso) {
     EXPECT_EQ(NumElemDis, 2);
     AzzeraDisegno();
     DisLinea(0, 0, 1, 0);
-    DisLinea(0.00009, 0, 1, 0.00009);
+    DisLinea(1, 0.00009, 0.00009, 0); // back
+    EXPECT_EQ(NumElemDis, 2);
     EXPECT_EQ(NumCoordDis, 2) << "the ends are shared";
-    EXPECT_EQ(ElemDisIni[1], ElemDisIni[0]);
-    EXPECT_EQ(ElemDisFin[1], ElemDisFin[0]);
+    EXPECT_EQ(ElemDisIni[1], ElemDisFin[0]);
+    EXPECT_EQ(ElemDisFin[1], ElemDisIni[0]);
     DisLinea(0.00011, 0, 1, 0);
     EXPECT_EQ(NumCoordDis, 3);
 }
