@@ -307,7 +307,8 @@ TEST_F(Immagini, PostiDelleEtichette) {
     Confronta("etichette_posti");
 }
 
-// So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke; over a hatch.
+// So close that a letter is more than 64 pixels tall, which is drawn stroke by stroke, over a
+// hatch.
 TEST_F(Immagini, EtichetteGrandi) {
     ApriTelaio();
     TrattGuscio[0] = TrattGuscio[1] = 7;

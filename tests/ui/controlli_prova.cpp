@@ -130,11 +130,7 @@ TEST_F(ControlliProva, OgniControlloHaIlSuoPostoAOgniMisura) {
         {.larghezza = 5550, .altezza = 7120, .laterale = true, .icone = true, .coordinate = true},
         {.larghezza = 15000, .altezza = 11400, .laterale = true, .icone = true, .coordinate = true},
         {.larghezza = 9000, .altezza = 8000, .laterale = true, .icone = true, .coordinate = false},
-        {.larghezza = 6000,
-         .altezza = 20000,
-         .laterale = false,
-         .icone = true,
-         .coordinate = false},
+        {.larghezza = 6000, .altezza = 9999, .laterale = false, .icone = true, .coordinate = false},
         {.larghezza = 7000, .altezza = 7120, .laterale = true, .icone = false, .coordinate = false},
         {.larghezza = 5550, .altezza = 9000, .laterale = false, .icone = false, .coordinate = true},
     };
