@@ -1,32 +1,12 @@
 #include "Sessione.h"
 
+#include "ui/comandi.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace telva::prove {
 namespace {
-
-struct MenuAperto {
-    std::string didascalia;
-    std::vector<std::string> voci;
-};
-
-// The menus of the bar and those that open out of them.
-const MenuAperto kMenu[] = {
-    {"&File", {"&Aggiorna ed Esci", "&Esci"}},
-    {"&Visualizza", {"&Ottimizza", "&Zoom", "&Sposta", "&Ridisegna"}},
-    {"&Operazioni",
-     {"&Aggiungi", "&Rimuovi", "Ri&muovi tutto", "In&verti selezione", "&Interrompi"}},
-    {"&Selezioni",
-     {"&Finestra", "&Colore", "Tipo &punto", "Tipo &linea", "Tipo &tratteggio", "&Materiale",
-      "Sezione", "Spessore", "Orientamento", "Svincolo", "Vincolo", "N&ome elemento", "T&utto"}},
-    {"&Colore",
-     {"Bianco", "Blu", "Rosso", "Verde", "Giallo", "Verde scuro", "Magenta", "Azzurro", "Arancione",
-      "Tutti"}},
-    {"Tipo &tratteggio", {"1", "2", "3", "4", "5", "6", "7", "8", "Tutti"}},
-    {"Op&zioni",
-     {"&Visualizza Coordinate", "Visualizza &Assi", "&Barra laterale", "Barra delle &icone",
-      "&Trappola...", "O&pzioni..."}}};
 
 std::string SenzaSegno(std::string didascalia) {
     std::erase(didascalia, '&');
@@ -38,40 +18,26 @@ std::string Lettera(const std::string &didascalia) {
     return segno == std::string::npos ? "" : didascalia.substr(segno + 1, 1);
 }
 
-const MenuAperto &Cerca(const std::string &menu) {
+// The row of the program's own table of commands that opens a menu.
+const Comando &Cerca(const std::string &menu) {
     const auto trovato = std::ranges::find(
-        kMenu, menu, [](const MenuAperto &m) { return SenzaSegno(m.didascalia); });
-    if (trovato == std::end(kMenu)) Fallisci("no menu '" + menu + "' in the table of the tests");
+        TabellaComandi(), menu, [](const Comando &c) { return SenzaSegno(c.didascalia); });
+    if (trovato == TabellaComandi().end()) Fallisci("no menu '" + menu + "'");
     return *trovato;
 }
 
 // A menu opens with its first item chosen.
 std::string Raggiungi(const std::string &menu, const std::string &nome) {
     std::string tasti;
-    for (const std::string &voce : Cerca(menu).voci) {
-        if (SenzaSegno(voce) == nome)
-            return Lettera(voce).empty() ? tasti + "Invio" : Lettera(voce);
+    const Comando &capo = Cerca(menu), *const fine = std::to_address(TabellaComandi().end());
+    for (const Comando *c = &capo + 1; c != fine && c->livello > capo.livello; ++c) {
+        if (c->livello > capo.livello + 1) continue; // of a menu that opens out of this one
+        if (SenzaSegno(c->didascalia) == nome)
+            return Lettera(c->didascalia).empty() ? tasti + "Invio" : Lettera(c->didascalia);
         tasti += "Giu ";
     }
-    Fallisci("no item '" + nome + "' in menu '" + menu + "' of the tests");
+    Fallisci("no item '" + nome + "' in menu '" + menu + "'");
 }
-
-// The tool-bar buttons by the tips they show, separators between them.
-const std::string kBottoni[] = {"Aggiorna ed esci",
-                                "Esci",
-                                "",
-                                "Ottimizza",
-                                "Zoom",
-                                "Sposta",
-                                "Ridisegna",
-                                "",
-                                "Aggiungi selezione",
-                                "Rimuovi selezione",
-                                "Rimuovi tutto",
-                                "Inverti selezione",
-                                "Interrompi",
-                                "",
-                                "Attiva o disattiva la barra laterale"};
 
 const std::map<int, std::uint32_t> kColoriDeiNodi{
     {1, 0xFFFFFF}, {2, 0x0000C0}, {3, 0xFF0000}, {4, 0x00FF00}, {20, 0xFF00FF}};
@@ -83,8 +49,14 @@ bool Vicini(const POINT &a, const POINT &b) {
 }
 
 POINT PostoDelBottone(const Programma &p, const std::string &suggerimento) {
-    const auto indice = std::ranges::find(kBottoni, suggerimento) - kBottoni;
-    return p.CentroBottone(p.Controllo("Toolbar1"), static_cast<int>(indice));
+    int posto = 0; // the gaps count
+    for (const Comando &c : TabellaComandi()) {
+        if (!c.chiave) continue;
+        if (c.nuovoGruppo) ++posto;
+        if (c.suggerimento == suggerimento) return p.CentroBottone(p.Controllo("Toolbar1"), posto);
+        ++posto;
+    }
+    Fallisci("no button '" + suggerimento + "'");
 }
 
 // Makes the job; the argument that opens it.
@@ -96,6 +68,12 @@ std::wstring Prepara(const Ambiente &amb, Genere genere, const std::string &sele
 }
 
 } // namespace
+
+UINT NumeroDi(const VoceMenu &voce) {
+    constexpr UINT kPrimo = 1000;
+    return kPrimo +
+           static_cast<UINT>(std::ranges::find(FormTelva.voci, &voce) - FormTelva.voci.begin());
+}
 
 void ChiudiRiquadro(Programma &p, const RiquadroAtteso &atteso) {
     const auto visto = p.ChiudiRiquadro();

@@ -2,6 +2,7 @@
 // A session of the program on the small job: what a hand does, and what has to come of it. Every
 // expectation waits until it is true; a failure tells the steps before it.
 #include "Installazione.h"
+#include "ui/controlli/FormTelva.h"
 
 #include <map>
 
@@ -20,6 +21,9 @@ inline Luogo Vuoto() { return Nodo(3).Piu(-60, -60); }
 
 // The element kinds by the places of their buttons.
 enum class Genere { Nodi, Aste, Gusci, ElementiContinui, Pareti };
+
+// What WM_COMMAND says for an item.
+UINT NumeroDi(const VoceMenu &voce);
 
 // A message box as it has to be; `icona` is a name of NomeIcona.
 struct RiquadroAtteso {

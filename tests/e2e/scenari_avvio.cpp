@@ -99,7 +99,6 @@ SCENARIO(uscita_impedita) {
 
 // Three programs on one job that end at once: each answer is written whole, one of them stays.
 SCENARIO(tre_programmi_insieme) {
-    constexpr UINT kAggiornaEdEsci = 1001;
     const std::array<std::string, 3> liste = {"8", "9,14", "7,7-9"};
     const auto lavoro = LavoroPiccolo(amb);
     for (int giro = 0; giro < 5; ++giro) {
@@ -112,8 +111,8 @@ SCENARIO(tre_programmi_insieme) {
             UGUALE(programmi.back()->Testo("StringaSel"), lista);
         }
         for (const auto &p : programmi)
-            PostMessageW(GetAncestor(p->Controllo("Disegno"), GA_ROOT), WM_COMMAND, kAggiornaEdEsci,
-                         0);
+            PostMessageW(GetAncestor(p->Controllo("Disegno"), GA_ROOT), WM_COMMAND,
+                         NumeroDi(telva::FormTelva.Salva), 0);
         for (const auto &p : programmi) UGUALE(p->AttendiFine(), 0U);
         const std::string rimasta = Scritto(lavoro);
         VERIFICA(std::count(liste.begin(), liste.end(), rimasta.substr(0, rimasta.find('\r'))) ==

@@ -1,6 +1,7 @@
 // Every control of the three windows: name, caption, tip, and what a reader says of it.
 #include "Finestre.h"
 #include "Sessione.h"
+#include "view/colori.h"
 
 #include <commctrl.h>
 
@@ -26,6 +27,12 @@ Tabella Schiera(const std::string &nome, const std::vector<std::string> &didasca
         schiera.push_back(
             {.nome = nome + "(" + std::to_string(schiera.size()) + ")", .didascalia = didascalia});
     return schiera;
+}
+
+std::vector<std::string> Colori() {
+    std::vector<std::string> nomi;
+    for (const telva::ColoreNoto &colore : telva::kColori) nomi.emplace_back(colore.nome);
+    return nomi;
 }
 
 // A text box whose tip is also its name for a reader.
@@ -119,9 +126,8 @@ const Tabella kOpzioni =
             Riga("BaseTxt", "5", "Base testo [unità disegno]:"),
             Riga("AltezzaTxt", "5", "Altezza testo [unità disegno]:"),
             Riga("DistTxt", "5", "Distanza tra testo ed elemento [unità disegno]:"),
-            Schiera("LabelCol", {"Nero", "Bianco", "Blu", "Rosso", "Verde", "Giallo", "Verde scuro",
-                                 "Magenta", "Azzurro", "Arancione"}),
-            Schiera("LabelBordCol", std::vector<std::string>(10))});
+            Schiera("LabelCol", Colori()),
+            Schiera("LabelBordCol", std::vector<std::string>(Colori().size()))});
 
 // The lowest row of the screen that the first letter in a control reaches.
 LONG PiedeDelTesto(HWND controllo) {

@@ -13,13 +13,20 @@ constexpr auto kAdesso = std::chrono::steady_clock::now;
 // One random command, by the messages that a user's hand would cause.
 void UnComando(const Sessione &s, std::mt19937 &caso) {
     static constexpr UINT kTasti[] = {WM_LBUTTONDOWN, WM_MBUTTONDOWN, WM_MBUTTONUP};
-    const auto tira = [&](unsigned n) { return caso() % n; };
+    static const std::vector<telva::VoceMenu *> voci = [] { // none ends or opens a dialog
+        using telva::FormTelva;
+        std::vector<telva::VoceMenu *> tutte = FormTelva.voci;
+        std::erase_if(tutte, [](const telva::VoceMenu *v) {
+            return v == &FormTelva.Salva || v == &FormTelva.Esci || v == &FormTelva.Trappola ||
+                   v == &FormTelva.Rappresentazione;
+        });
+        return tutte;
+    }();
+    const auto tira = [&](std::size_t n) { return static_cast<unsigned>(caso() % n); };
     const LPARAM punto = MAKELPARAM(tira(700), tira(500));
     const std::string genere = "OptElem(" + std::to_string(tira(5)) + ")";
     switch (tira(6)) {
-    case 0: // every menu item but those that end the program or open a dialog
-        SendMessageW(s.finestra, WM_COMMAND, 1004 + tira(59), 0);
-        break;
+    case 0: SendMessageW(s.finestra, WM_COMMAND, NumeroDi(*voci[tira(voci.size())]), 0); break;
     case 1: SendMessageW(s.Controllo(genere), BM_CLICK, 0, 0); break;
     case 2: PostMessageW(s.Controllo("Risposta"), WM_CHAR, '0' + tira(10), 0); break;
     case 3: SendMessageW(s.disegno, kTasti[tira(3)], 0, punto); break;
@@ -38,7 +45,7 @@ SCENARIO(lungo_centomila_comandi) {
         if (n == 60000) prima = s.LeggiRisorse(); // every size of the window has been seen
         if (n % 1000 == 0) {
             s.Dimensiona(s.finestra, 800 + n / 1000 % 7 * 90, 640 + n / 1000 % 5 * 60);
-            PostMessageW(s.finestra, WM_COMMAND, 1064, 0);
+            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(telva::FormTelva.Rappresentazione), 0);
             const HWND dialogo = s.Dialogo("Opzioni di rappresentazione");
             PostMessageW(dialogo, WM_CLOSE, 0, 0);
             s.Aspetta("the main window", [&] { return IsWindowEnabled(s.finestra); });
@@ -63,7 +70,7 @@ SCENARIO(lungo_ucciso_mentre_scrive) {
             Sessione s(amb, Genere::Aste, "9,14");
             lavoro = s.lavoro;
             ScriviFile(lavoro / "TelvaOut.txt", "8\n");
-            PostMessageW(s.finestra, WM_COMMAND, 1001, 0);
+            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(telva::FormTelva.Salva), 0);
             const auto fine = kAdesso() + std::chrono::microseconds(caso() % 3000);
             while (kAdesso() < fine) continue;
         } // its end comes here, if not by itself
