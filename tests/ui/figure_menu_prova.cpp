@@ -9,6 +9,13 @@
 #include <cmath>
 #include <set>
 
+namespace telva {
+void PrintTo(const FiguraVoce &f, std::ostream *os) {
+    static const char *const kGeneri[] = {"no picture", "colour", "line", "hatch"};
+    *os << kGeneri[static_cast<int>(f.genere)] << " " << f.codice;
+}
+} // namespace telva
+
 namespace telva::prove {
 namespace {
 
@@ -31,16 +38,17 @@ TEST_F(FigureMenu, UnaVoceMostraIlCodiceCheSeleziona) {
         FiguraVoce figura;
     };
     CostruisciComandi();
-    for (const Caso &c : {Caso{.voce = "Bianco", .figura = {.genere = Genere::Colore, .codice = 1}},
-                          {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = 9}},
-                          {.voce = "TuttiCol", .figura = {.genere = Genere::Colore, .codice = 10}},
-                          {.voce = "TipoPt1", .figura = {}},
-                          {.voce = "TipoLn1", .figura = {.genere = Genere::Linea, .codice = 0}},
-                          {.voce = "TipoLn5", .figura = {.genere = Genere::Linea, .codice = 4}},
-                          {.voce = "TipoTr1", .figura = {.genere = Genere::Retino, .codice = 1}},
-                          {.voce = "TipoTr8", .figura = {.genere = Genere::Retino, .codice = 8}},
-                          {.voce = "Materiale", .figura = {}}})
-        EXPECT_TRUE(FiguraDi(c.voce) == c.figura) << c.voce;
+    for (const Caso &c :
+         {Caso{.voce = "Bianco", .figura = {.genere = Genere::Colore, .codice = kBianco}},
+          {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = kArancione}},
+          {.voce = "TuttiCol", .figura = {.genere = Genere::Colore, .codice = kOgniColore}},
+          {.voce = "TipoPt1", .figura = {}},
+          {.voce = "TipoLn1", .figura = {.genere = Genere::Linea, .codice = 0}},
+          {.voce = "TipoLn5", .figura = {.genere = Genere::Linea, .codice = 4}},
+          {.voce = "TipoTr1", .figura = {.genere = Genere::Retino, .codice = 1}},
+          {.voce = "TipoTr8", .figura = {.genere = Genere::Retino, .codice = 8}},
+          {.voce = "Materiale", .figura = {}}})
+        EXPECT_EQ(FiguraDi(c.voce), c.figura) << c.voce;
 }
 
 TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
@@ -58,7 +66,7 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
             for (const std::uint32_t p : f.pixel) ASSERT_EQ(p >> 24, 0xFFu) << "opacity";
             EXPECT_TRUE(diverse.insert(f.pixel).second) << "looks like another one";
         }
-        EXPECT_EQ(diverse.size(), 10u + 6 + 9);
+        EXPECT_EQ(diverse.size(), kNumeroColori + 6u + 9u);
     }
 }
 
@@ -67,7 +75,9 @@ TEST_F(FigureMenu, UnColoreEQuelloDellaSuaTabella) {
     EXPECT_EQ(f.pixel[6 * 13 + 6], 0xFFFFA346u);
     const Figura tutti = DisegnaFigura({.genere = Genere::Colore, .codice = kOgniColore}, 13, 1);
     EXPECT_EQ(tutti.pixel[1 * 13 + 1], 0xFFFFFFFFu) << "the first one, in a corner";
-    EXPECT_EQ(tutti.pixel[11 * 13 + 11], 0xFFFFA346u) << "the last";
+    const Figura ultimo =
+        DisegnaFigura({.genere = Genere::Colore, .codice = kNumeroColori - 1}, 13, 1);
+    EXPECT_EQ(tutti.pixel[11 * 13 + 11], ultimo.pixel[6 * 13 + 6]) << "the last";
 }
 
 TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
