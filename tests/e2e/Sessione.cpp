@@ -6,12 +6,13 @@
 #include <utility>
 
 namespace telva::prove {
-namespace {
 
 std::string SenzaSegno(std::string didascalia) {
     std::erase(didascalia, '&');
     return didascalia;
 }
+
+namespace {
 
 std::string Lettera(const std::string &didascalia) {
     const auto segno = didascalia.find('&');

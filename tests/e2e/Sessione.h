@@ -22,6 +22,8 @@ inline Luogo Vuoto() { return Nodo(3).Piu(-60, -60); }
 // The element kinds by the places of their buttons.
 enum class Genere { Nodi, Aste, Gusci, ElementiContinui, Pareti };
 
+// A caption as it is seen.
+std::string SenzaSegno(std::string didascalia);
 // What WM_COMMAND says for an item.
 UINT NumeroDi(const VoceMenu &voce);
 

@@ -1,5 +1,6 @@
 // Commands by each of their doors (menu, tool bar, keys), submenus, answer box, and what is grey.
 #include "Sessione.h"
+#include "ui/comandi.h"
 
 using namespace telva::prove;
 
@@ -7,26 +8,38 @@ namespace {
 
 enum class Porta { Bottone, Menu, Tasti, TastiNellaRisposta };
 
+// A command by the tip of its button, and the menu it stands in.
 struct Comando {
-    std::string suggerimento, menu, voce, tasti{}; // without keys: by menu and tool bar only
+    const telva::Comando *riga, *menu;
 };
+Comando ConSuggerimento(const std::string &suggerimento) {
+    Comando comando{};
+    for (const telva::Comando &c : telva::TabellaComandi()) {
+        if (c.livello == 0) comando.menu = &c;
+        comando.riga = &c;
+        if (c.suggerimento && c.suggerimento == suggerimento) return comando;
+    }
+    Fallisci("no command '" + suggerimento + "'");
+}
 
 // The keys act from the answer box too, and not on its text.
 void Esegui(Sessione &s, const Comando &comando, Porta porta) {
+    const auto [riga, menu] = comando;
+    const std::string tasti = std::string("Ctrl+") + riga->scorciatoia;
     switch (porta) {
-    case Porta::Bottone: return s.PremiBottone(comando.suggerimento);
-    case Porta::Menu: return s.Scegli(comando.menu, comando.voce);
-    case Porta::Tasti: return s.Premi(comando.tasti);
+    case Porta::Bottone: return s.PremiBottone(riga->suggerimento);
+    case Porta::Menu: return s.Scegli(SenzaSegno(menu->didascalia), SenzaSegno(riga->didascalia));
+    case Porta::Tasti: return s.Premi(tasti);
     case Porta::TastiNellaRisposta:
         s.Premi("Ctrl+A");
         s.ChiediNomi();
         s.Riscrivi("Risposta", "5");
-        return s.Premi(comando.tasti);
+        return s.Premi(tasti);
     }
 }
 
 std::vector<Porta> Porte(const Comando &comando) {
-    if (comando.tasti.empty()) return {Porta::Bottone, Porta::Menu};
+    if (!comando.riga->scorciatoia) return {Porta::Bottone, Porta::Menu};
     return {Porta::Bottone, Porta::Menu, Porta::Tasti, Porta::TastiNellaRisposta};
 }
 
@@ -34,28 +47,14 @@ const std::string kTutte = "7,7-9,12,14"; // the bars
 
 // What stands once a command has run that began with all bars selected, to add some.
 const struct {
-    Comando comando;
-    std::string funzione = "Aggiungi selezione", sottoFunzione = "Selezione diretta",
-                lista = kTutte;
+    std::string comando, funzione = "Aggiungi selezione", sottoFunzione = "Selezione diretta",
+                         lista = kTutte;
 } kComandi[] = {
-    {.comando = {.suggerimento = "Zoom", .menu = "Visualizza", .voce = "Zoom", .tasti = "Ctrl+Z"},
-     .sottoFunzione = "Zoom"},
-    {.comando = {.suggerimento = "Aggiungi selezione",
-                 .menu = "Operazioni",
-                 .voce = "Aggiungi",
-                 .tasti = "Ctrl+A"}},
-    {.comando = {.suggerimento = "Rimuovi selezione",
-                 .menu = "Operazioni",
-                 .voce = "Rimuovi",
-                 .tasti = "Ctrl+T"},
-     .funzione = "Rimuovi selezione"},
-    {.comando = {.suggerimento = "Rimuovi tutto", .menu = "Operazioni", .voce = "Rimuovi tutto"},
-     .lista = ""},
-    {.comando = {.suggerimento = "Inverti selezione",
-                 .menu = "Operazioni",
-                 .voce = "Inverti selezione"},
-     .sottoFunzione = "",
-     .lista = ""},
+    {.comando = "Zoom", .sottoFunzione = "Zoom"},
+    {.comando = "Aggiungi selezione"},
+    {.comando = "Rimuovi selezione", .funzione = "Rimuovi selezione"},
+    {.comando = "Rimuovi tutto", .lista = ""},
+    {.comando = "Inverti selezione", .sottoFunzione = "", .lista = ""},
 };
 
 } // namespace
@@ -63,12 +62,13 @@ const struct {
 SCENARIO(comandi_per_ogni_porta) {
     Sessione s(amb);
     for (const auto &caso : kComandi) {
-        s.BottoneSuggerisce(caso.comando.suggerimento, caso.comando.suggerimento);
-        for (const Porta porta : Porte(caso.comando)) {
+        const Comando comando = ConSuggerimento(caso.comando);
+        s.BottoneSuggerisce(caso.comando, caso.comando);
+        for (const Porta porta : Porte(comando)) {
             s.Premi("Ctrl+A");
             s.Scegli("Selezioni", "Tutto");
             s.ListaDiventa(kTutte);
-            Esegui(s, caso.comando, porta);
+            Esegui(s, comando, porta);
             s.FunzioneDiventa(caso.funzione);
             s.SottoFunzioneDiventa(caso.sottoFunzione);
             s.ListaDiventa(caso.lista);
@@ -80,20 +80,13 @@ SCENARIO(comandi_per_ogni_porta) {
 
 SCENARIO(comandi_che_finiscono) {
     const struct {
-        Comando comando;
-        std::string file;
-    } uscite[] = {
-        {.comando = {.suggerimento = "Aggiorna ed esci",
-                     .menu = "File",
-                     .voce = "Aggiorna ed Esci",
-                     .tasti = "Ctrl+G"},
-         .file = "9,14\r\n"},
-        {.comando = {.suggerimento = "Esci", .menu = "File", .voce = "Esci", .tasti = "Ctrl+E"},
-         .file = "(no file)"}};
+        std::string comando, file;
+    } uscite[] = {{.comando = "Aggiorna ed esci", .file = "9,14\r\n"},
+                  {.comando = "Esci", .file = "(no file)"}};
     for (const auto &uscita : uscite)
-        for (const Porta porta : Porte(uscita.comando)) {
+        for (const Porta porta : Porte(ConSuggerimento(uscita.comando))) {
             Sessione s(amb, Genere::Aste, "9,14");
-            Esegui(s, uscita.comando, porta);
+            Esegui(s, ConSuggerimento(uscita.comando), porta);
             UGUALE(s.AttendiFine(), 0U);
             UGUALE(Scritto(s.lavoro), uscita.file);
         }

@@ -192,14 +192,10 @@ SCENARIO(posto_ricordato) {
 // cannot be seen.
 SCENARIO(posto_impossibile) {
     const struct {
-        LONG sinistra, sopra, larghezza, altezza, massima; // pixels, then twips
+        LONG sinistra, sopra, larghezza = 9000, altezza = 8000, massima = 0; // pixels, then twips
     } posti[] = {
-        {.sinistra = 30000, .sopra = -20000, .larghezza = 9000, .altezza = 8000, .massima = 0},
-        {.sinistra = -900000, // and a picture of 400 MB
-         .sopra = 900000,
-         .larghezza = 150000,
-         .altezza = 150000,
-         .massima = 0}};
+        {.sinistra = 30000, .sopra = -20000},
+        {.sinistra = -900000, .sopra = 900000, .larghezza = 150000, .altezza = 150000}}; // 400 MB
     for (const auto &posto : posti) {
         RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Telva", L"Finestra", REG_BINARY, &posto,
                         sizeof posto);

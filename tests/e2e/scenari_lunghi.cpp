@@ -8,25 +8,22 @@ using namespace telva::prove;
 
 namespace {
 
+const telva::ModuloTelva &f = telva::FormTelva;
 constexpr auto kAdesso = std::chrono::steady_clock::now;
 
 // One random command, by the messages that a user's hand would cause.
 void UnComando(const Sessione &s, std::mt19937 &caso) {
     static constexpr UINT kTasti[] = {WM_LBUTTONDOWN, WM_MBUTTONDOWN, WM_MBUTTONUP};
-    static const std::vector<telva::VoceMenu *> voci = [] { // none ends or opens a dialog
-        using telva::FormTelva;
-        std::vector<telva::VoceMenu *> tutte = FormTelva.voci;
-        std::erase_if(tutte, [](const telva::VoceMenu *v) {
-            return v == &FormTelva.Salva || v == &FormTelva.Esci || v == &FormTelva.Trappola ||
-                   v == &FormTelva.Rappresentazione;
-        });
-        return tutte;
-    }();
     const auto tira = [&](std::size_t n) { return static_cast<unsigned>(caso() % n); };
     const LPARAM punto = MAKELPARAM(tira(700), tira(500));
+    const telva::VoceMenu *voce = f.voci[tira(f.voci.size())];
     const std::string genere = "OptElem(" + std::to_string(tira(5)) + ")";
     switch (tira(6)) {
-    case 0: SendMessageW(s.finestra, WM_COMMAND, NumeroDi(*voci[tira(voci.size())]), 0); break;
+    case 0: // but those that end the program or open a dialog
+        if (voce != &f.Salva && voce != &f.Esci && voce != &f.Trappola &&
+            voce != &f.Rappresentazione)
+            SendMessageW(s.finestra, WM_COMMAND, NumeroDi(*voce), 0);
+        break;
     case 1: SendMessageW(s.Controllo(genere), BM_CLICK, 0, 0); break;
     case 2: PostMessageW(s.Controllo("Risposta"), WM_CHAR, '0' + tira(10), 0); break;
     case 3: SendMessageW(s.disegno, kTasti[tira(3)], 0, punto); break;
@@ -45,7 +42,7 @@ SCENARIO(lungo_centomila_comandi) {
         if (n == 60000) prima = s.LeggiRisorse(); // every size of the window has been seen
         if (n % 1000 == 0) {
             s.Dimensiona(s.finestra, 800 + n / 1000 % 7 * 90, 640 + n / 1000 % 5 * 60);
-            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(telva::FormTelva.Rappresentazione), 0);
+            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(f.Rappresentazione), 0);
             const HWND dialogo = s.Dialogo("Opzioni di rappresentazione");
             PostMessageW(dialogo, WM_CLOSE, 0, 0);
             s.Aspetta("the main window", [&] { return IsWindowEnabled(s.finestra); });
@@ -70,7 +67,7 @@ SCENARIO(lungo_ucciso_mentre_scrive) {
             Sessione s(amb, Genere::Aste, "9,14");
             lavoro = s.lavoro;
             ScriviFile(lavoro / "TelvaOut.txt", "8\n");
-            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(telva::FormTelva.Salva), 0);
+            PostMessageW(s.finestra, WM_COMMAND, NumeroDi(f.Salva), 0);
             const auto fine = kAdesso() + std::chrono::microseconds(caso() % 3000);
             while (kAdesso() < fine) continue;
         } // its end comes here, if not by itself

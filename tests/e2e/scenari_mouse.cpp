@@ -176,17 +176,3 @@ SCENARIO(mouse_e_contorno) {
     s.ApriTrappola();
     s.TestoDiventa("LabStato", altrove);
 }
-
-// The line of state while the pointer wanders.
-SCENARIO(mouse_e_stato) {
-    Sessione s(amb, Genere::Nodi);
-    s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nCtrl+A aggiunge, Ctrl+T rimuove");
-    s.Premi("Ctrl+A");
-    s.Punta(Vuoto());
-    s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nclic: apre una finestra");
-    s.Punta(Nodo(3));
-    s.TestoDiventa("LabStato", "nessun nodo selezionato\r\nclic: nodo 3");
-    s.Clic(Nodo(3));
-    s.ListaDiventa("3");
-    s.TestoDiventa("LabStato", "1 nodo selezionato\r\nclic: nodo 3, già selezionato");
-}

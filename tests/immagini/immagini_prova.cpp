@@ -182,39 +182,6 @@ TEST_F(Immagini, LavoroDaDueParti) {
     Confronta("lavoro_da_sotto");
 }
 
-// Every type of line under thin and thick pens, outlines of shells, nodes of every radius.
-TEST_F(Immagini, PenneERaggi) {
-    struct Penne {
-        double nonSel, sel, raggio;
-    };
-    Foglio f;
-    for (int tipo = 0; tipo < 6; ++tipo) { // 5 is none
-        const double x = 10 + 50 * tipo;
-        f.Linea(x, 10, x + 40, 25, 1, tipo);
-        f.Linea(x, 20, x + 40, 35, 9, tipo);
-        f.Linea(x, 45, x + 8, 95, 4, tipo);
-        f.Linea(x + 20, 45, x + 28, 95, 5, tipo);
-        f.NodoVisibile(x + 40, 60, 3);
-        f.NodoVisibile(x + 40, 80, 7);
-    }
-    f.Triangolo(315, 10, 30, 0, 8);
-    f.Quadrilatero(315, 55, 30, 3, 8);
-    ApriFoglio(f, 360, 105);
-    for (int k = 1; k < NumAste; k += 2) SelAsta[k] = 1;
-    for (int i = 1; i < NumNodi; i += 2) SelNodo[i] = 1;
-    SelGuscio[1] = 1;
-    Superficie pila;
-    for (const Penne &penne : {Penne{.nonSel = 1, .sel = 2, .raggio = 1},
-                               {.nonSel = 2, .sel = 3, .raggio = 4},
-                               {.nonSel = 4, .sel = 9, .raggio = 12}}) {
-        Opzioni[kOpzPennaNonSel] = penne.nonSel;
-        Opzioni[kOpzPennaSel] = penne.sel;
-        Opzioni[kOpzRaggioNodo] = penne.raggio;
-        Impila(pila, Dipingi());
-    }
-    ConfrontaImmagine(pila, "penne");
-}
-
 TEST_F(Immagini, ColoriDegliElementi) {
     Foglio f;
     for (int colore = 0; colore < 12; ++colore) { // 10 and 11 are hidden
@@ -232,6 +199,10 @@ TEST_F(Immagini, ColoriDegliElementi) {
     }
     Superficie pila = Dipingi();
     Opzioni[kOpzColoreSel] = 0.0; // the cyan goes to those that are not selected
+    Impila(pila, Dipingi());
+    Opzioni[kOpzPennaNonSel] = 2.0;
+    Opzioni[kOpzPennaSel] = 9.0;
+    Opzioni[kOpzRaggioNodo] = 12.0;
     Impila(pila, Dipingi());
     ConfrontaImmagine(pila, "colori");
 }

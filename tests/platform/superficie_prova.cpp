@@ -18,8 +18,8 @@ constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "wide dashe
 struct Forma {
     Genere genere;
     Pixel a, b; // the ends; of a circle: its centre, twice
-    int penna, raggio;
-    Trattini trattini;
+    int penna = 1, raggio = 0;
+    Trattini trattini = {};
 
     void Disegna(Superficie &s, int margine = 0) const {
         const Pixel da{a.x + margine, a.y + margine}, fino{b.x + margine, b.y + margine};
@@ -87,10 +87,9 @@ struct SuperficieProva : ::testing::Test {
                     .a = {a.x / 2, a.y / 2},
                     .b = {a.x / 2, a.y / 2},
                     .penna = Fra(1, 11),
-                    .raggio = Fra(1, 25),
-                    .trattini = {}};
+                    .raggio = Fra(1, 25)};
         const Trattini t{static_cast<std::uint32_t>(sorte()), Fra(1, 32)};
-        return {.genere = genere, .a = a, .b = b, .penna = Fra(2, 12), .raggio = 0, .trattini = t};
+        return {.genere = genere, .a = a, .b = b, .penna = Fra(2, 12), .trattini = t};
     }
     // Says which pixel of the surface is not as the rule wants it.
     template <class Regola>

@@ -9,47 +9,14 @@
 #include <cmath>
 #include <set>
 
-namespace telva {
-void PrintTo(const FiguraVoce &f, std::ostream *os) {
-    static const char *const kGeneri[] = {"no picture", "colour", "line", "hatch"};
-    *os << kGeneri[static_cast<int>(f.genere)] << " " << f.codice;
-}
-} // namespace telva
-
 namespace telva::prove {
 namespace {
 
 using Genere = FiguraVoce::Genere;
 
-FiguraVoce FiguraDi(const std::string &voce) {
-    for (const Comando &c : TabellaComandi())
-        if (c.voce->NomeControllo() == voce) return c.voce->figura;
-    ADD_FAILURE() << "no item " << voce;
-    return {};
-}
-
 } // namespace
 
 struct FigureMenu : Banco {};
-
-TEST_F(FigureMenu, UnaVoceMostraIlCodiceCheSeleziona) {
-    struct Caso {
-        const char *voce;
-        FiguraVoce figura;
-    };
-    CostruisciComandi();
-    for (const Caso &c :
-         {Caso{.voce = "Bianco", .figura = {.genere = Genere::Colore, .codice = kBianco}},
-          {.voce = "Arancione", .figura = {.genere = Genere::Colore, .codice = kArancione}},
-          {.voce = "TuttiCol", .figura = {.genere = Genere::Colore, .codice = kOgniColore}},
-          {.voce = "TipoPt1", .figura = {}},
-          {.voce = "TipoLn1", .figura = {.genere = Genere::Linea, .codice = 0}},
-          {.voce = "TipoLn5", .figura = {.genere = Genere::Linea, .codice = 4}},
-          {.voce = "TipoTr1", .figura = {.genere = Genere::Retino, .codice = 1}},
-          {.voce = "TipoTr8", .figura = {.genere = Genere::Retino, .codice = 8}},
-          {.voce = "Materiale", .figura = {}}})
-        EXPECT_EQ(FiguraDi(c.voce), c.figura) << c.voce;
-}
 
 TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
     CostruisciComandi();
