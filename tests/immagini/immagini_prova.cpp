@@ -9,7 +9,6 @@
 #include "ui/controlli/FormOpt.h"
 #include "ui/controlli/FormOptInt.h"
 #include "ui/controlli/FormTelva.h"
-#include "ui/icone.h"
 #include "view/FunzDisegno.h"
 #include "view/inquadra.h"
 #include "view/proiezione.h"
@@ -105,6 +104,8 @@ Superficie Pianta(const Modulo &modulo) {
         for (int y = alto; y <= basso; y += vuoto ? std::max(basso - alto, 1) : 1)
             s.Linea({sinistra, y}, {destra, y}, tinta);
         for (const int x : {sinistra, destra}) s.Linea({x, alto}, {x, basso}, tinta);
+        if (const auto *e = dynamic_cast<const Etichetta *>(c)) // a longer mark for each style
+            s.Linea({sinistra, alto}, {sinistra + static_cast<int>(e->stile), alto}, 0);
     }
     return s;
 }
@@ -333,6 +334,7 @@ TEST_F(Immagini, Icone) {
         "AggiornaEsci", "Esci",    "Ottimizza",    "Zoom",       "Sposta",     "Ridisegna",
         "Aggiungi",     "Rimuovi", "RimuoviTutto", "InvertiSel", "Interrompi", "AggiungiBarraLat",
         "Telva"};
+    Apri(Telaio());
     constexpr int kPasso = 52;
     Superficie s;
     s.Ridimensiona(kPasso * static_cast<int>(std::size(kChiavi)), 5 * 2 * kPasso);
@@ -342,7 +344,7 @@ TEST_F(Immagini, Icone) {
             std::fill(s.Riga(y0), s.Riga(y0 + kPasso), fondo);
             int x0 = 2;
             for (const char *chiave : kChiavi) {
-                Sovrapponi(s, DisegnaIcona(chiave, lato), lato, x0, y0 + 2);
+                Sovrapponi(s, FormTelva.Toolbar1.Icona(chiave, lato), lato, x0, y0 + 2);
                 x0 += kPasso;
             }
             y0 += kPasso;

@@ -109,6 +109,12 @@ struct Modello {
     std::string Evidenza() const;
     // The start: intervals on the whole structure, everything in view, the caller's list selected.
     void Avvio(const Ingresso &ingresso);
+    // The rubber bands: left, top, width and height; from and to.
+    std::array<double, 4> Rettangolo() const {
+        return {std::min(angolo0_.x, angolo1_.x), std::max(angolo0_.y, angolo1_.y),
+                std::abs(angolo1_.x - angolo0_.x), std::abs(angolo1_.y - angolo0_.y)};
+    }
+    std::array<double, 4> Linea() const { return {linea0_.x, linea0_.y, linea1_.x, linea1_.y}; }
     double RaggioTrappola() const { return trappola * scala.larghezza / largo; }
     bool InVista(double x, double y) const;
     // A place as an event tells it: in single precision where that is near enough.
@@ -176,7 +182,7 @@ struct Modello {
     bool ultimoCentrale_ = false; // of the buttons that were pressed
     int richiesto_ = kNodi;       // kind that the caller asks for
     Punto angolo0_{}, angolo1_{}; // rectangle
-    Punto linea0_{};              // where a pan or a drag began
+    Punto linea0_{}, linea1_{};   // where a pan or a drag began, and where the pointer is
 };
 
 template <class Vale, class Azione>

@@ -157,6 +157,7 @@ void Modello::Didascalia() {
 
 void Modello::Muovi(double x, double y) {
     if (primoAngolo && InVista(x, y)) angolo1_ = {x, y};
+    linea1_ = {x, y};
     if (!coordinate) return;
     labCoord = "";
     for (const Elemento &e : elementi[kNodi]) {

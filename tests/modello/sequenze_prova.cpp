@@ -141,6 +141,12 @@ struct SequenzeProva : Utente {
         c.Uguali("FinestraAutomatica", FinestraAutomatica != 0, m.finestraAutomatica);
         c.Uguali("Shape.Visible", d.Shape.Visible(), m.primoAngolo);
         c.Uguali("LineSposta.Visible", d.LineSposta.Visible(), m.lineaSposta);
+        const Rettangolo &r = d.Shape;
+        const Segmento &l = d.LineSposta;
+        const double misura = 1e2 * std::abs(d.ScaleWidth); // to a part of a pixel, as events do
+        if (r.Visible)
+            c.Vicini("Shape", {r.Left, r.Top, r.Width, r.Height}, m.Rettangolo(), misura);
+        if (l.Visible) c.Vicini("LineSposta", {l.X1, l.Y1, l.X2, l.Y2}, m.Linea(), misura);
         const auto forma = [](Puntatore puntatore) { return static_cast<int>(puntatore); };
         c.Uguali("MousePointer", forma(f.MousePointer), 0); // no hourglass is left
         c.Uguali("Disegno.MousePointer", forma(d.MousePointer), forma(m.puntatore));

@@ -50,6 +50,7 @@ TEST_F(AvvioProva, SenzaStrutturaLaListaDelChiamanteTornaIntera) {
         Cancella("lavori/prova1/STRUTTUR.STR");
         Avvia();
         Detto();
+        EXPECT_EQ(FormTelva.Caption(), "Palazzo - " + Radice() + "\\lavori\\prova1");
         Passo("Ridis", [] { FormTelva.Ridis.Click(); });
         EXPECT_EQ(Lista(), "2-4,9") << "kind " << tipo;
         Passo("Salva", [] { FormTelva.Salva.Click(); });

@@ -142,6 +142,7 @@ TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
 
 TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
     Menu("Rappresentazione");
+    EXPECT_EQ(f.predefinito, &f.Salva) << "what Enter presses";
     for (const bool nascosti : {true, false}) {
         EXPECT_EQ(f.CheckSpGus.Value, nascosti);
         EXPECT_EQ(f.SpMinGus.AbilitatoDavvero(), nascosti);

@@ -3,6 +3,7 @@
 
 #include "sostegno/Banco.h"
 #include "ui/comandi.h"
+#include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
 #include "view/retini.h"
 
@@ -26,7 +27,7 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
         for (const Comando &c : TabellaComandi()) {
             if (c.figura.genere == Genere::Nessuna) continue;
             SCOPED_TRACE(c.voce->NomeControllo() + " at " + std::to_string(quanto));
-            const Figura f = DisegnaFigura(c.figura, altezza, quanto);
+            const Figura f = FormTelva.FiguraMenu(c.figura, altezza, quanto);
             EXPECT_EQ(f.altezza, altezza);
             EXPECT_EQ(f.larghezza, c.figura.genere == Genere::Colore ? altezza : 3 * altezza);
             ASSERT_EQ(f.pixel.size(), static_cast<std::size_t>(f.altezza * f.larghezza));
