@@ -12,8 +12,9 @@ namespace {
 constexpr std::uint32_t kColore = 7;
 constexpr int kMargine = 100; // around the part that is compared with the whole
 
-enum class Genere { Linea, ATrattini, Larga, LargaATrattini, Cerchio };
-constexpr const char *kNomi[] = {"line", "dashed line", "wide line", "wide dashed line", "circle"};
+enum class Genere { Linea, ATrattini, Larga, LargaATrattini, Cerchio, Timbro };
+constexpr const char *kNomi[] = {"line",   "dashed line", "wide line", "wide dashed line",
+                                 "circle", "stamp"};
 
 struct Forma {
     Genere genere;
@@ -32,6 +33,13 @@ struct Forma {
             s.LineaLargaATrattini(da, fino, penna, kColore, trattini);
             break;
         case Genere::Cerchio: s.Cerchio(da, raggio, penna, kColore); break;
+        case Genere::Timbro: { // of a line from its origin
+            Tratti tratto;
+            tratto.Aggiungi(0, 0, b.x - a.x, b.y - a.y);
+            Timbro timbro;
+            timbro.Riempi(tratto, 0, 0);
+            s.Timbra(timbro, da, kColore);
+        }
         }
     }
     // How far the pixel lies beyond the shape's reach; negative inside.
@@ -115,8 +123,8 @@ struct SuperficieProva : ::testing::Test {
 TEST_F(SuperficieProva, UnaFormaRitagliataAccendeGliStessiPixelDiQuellaIntera) {
     Superficie parte, intera;
     intera.Ridimensiona(40 + 2 * kMargine, 40 + 2 * kMargine);
-    for (const Genere genere :
-         {Genere::Linea, Genere::ATrattini, Genere::Larga, Genere::LargaATrattini, Genere::Cerchio})
+    for (const Genere genere : {Genere::Linea, Genere::ATrattini, Genere::Larga,
+                                Genere::LargaATrattini, Genere::Cerchio, Genere::Timbro})
         for (int giro = 0; giro < 1000; ++giro) {
             const Forma f = FormaACaso(genere);
             parte.Ridimensiona(Fra(1, 40), Fra(1, 40));

@@ -242,10 +242,10 @@ TEST_F(StatoProva, ValeAncheQuandoLaVistaSiMuoveSottoIlPuntatore) {
     const double px = d.XPixel(100), py = d.YPixel(100);
     Menu("Sposta");
     Clic(100, 100);
-    Clic(0, 0); // the pointer rests where node 1 stood, and node 5 comes there
+    Clic(0, 100); // the pointer rests where node 4 stood, and node 5 comes there
     EXPECT_EQ(Poi(), "clic: nodo 5, vincolo 1");
     Muovi(static_cast<float>(d.XDaPixel(px)), static_cast<float>(d.YDaPixel(py)));
-    EXPECT_EQ(Poi(), "clic: nodo 9, vincolo 2");
+    EXPECT_EQ(Poi(), "clic: nodo 6, vincolo 1");
     Rotella(1);
     const float x = static_cast<float>(d.XDaPixel(px)), y = static_cast<float>(d.YDaPixel(py));
     const std::string detto = Poi();
