@@ -132,6 +132,7 @@ TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
     Menu("Rappresentazione");
     for (int scelto = 0; scelto < ModuloOpt::kCampioni; ++scelto) {
         f.LabelCol[scelto].Click();
+        EXPECT_NE(f.LabelCol[scelto].didascalia, "") << "for those who do not see it";
         EXPECT_EQ(f.LabelCol[scelto].BackColor, ColoreRGB(scelto)) << "as the labels are drawn";
         for (int k = 0; k < ModuloOpt::kCampioni; ++k) {
             EXPECT_EQ(f.LabelCol[k].Marcato, k == scelto) << k << " while chosen is " << scelto;

@@ -182,27 +182,20 @@ TEST_F(PuntatoreProva, LaVistaSiSpostaDaQuelloCheSiVede) {
 TEST_F(PuntatoreProva, IlPostoDiUnEvento) {
     struct Caso {
         const char *che;
-        double posto, unitaPerPixel;
+        double posto, scala; // drawing units a pixel
         bool singola;
     };
     const double quanto = 32; // between two single numbers near 5e8
     const double accanto = 5e8 + quanto / 4;
     const Caso casi[] = {
-        {.che = "near the origin", .posto = 0.1, .unitaPerPixel = 0.25, .singola = true},
-        {.che = "the same, tiny pixels", .posto = 0.1, .unitaPerPixel = 1e-9, .singola = false},
-        {.che = "far off", .posto = 5e8 + 7, .unitaPerPixel = 20, .singola = false},
-        {.che = "a 64th of a pixel",
-         .posto = accanto,
-         .unitaPerPixel = 16 * quanto,
-         .singola = true},
-        {.che = "more than that",
-         .posto = accanto,
-         .unitaPerPixel = 15.9 * quanto,
-         .singola = false},
+        {.che = "near the origin", .posto = 0.1, .scala = 0.25, .singola = true},
+        {.che = "the same, tiny pixels", .posto = 0.1, .scala = 1e-9, .singola = false},
+        {.che = "far off", .posto = 5e8 + 7, .scala = 20, .singola = false},
+        {.che = "a 64th of one", .posto = accanto, .scala = 16 * quanto, .singola = true},
+        {.che = "a bit more", .posto = accanto, .scala = 15.9 * quanto, .singola = false},
     };
     for (const Caso &caso : casi) {
-        d.Scale(0, 0, caso.unitaPerPixel * d.LarghezzaPixel(),
-                -caso.unitaPerPixel * d.AltezzaPixel());
+        d.Scale(0, 0, caso.scala * d.LarghezzaPixel(), -caso.scala * d.AltezzaPixel());
         const double atteso = caso.singola ? static_cast<float>(caso.posto) : caso.posto;
         EXPECT_EQ(d.XEvento(caso.posto), atteso) << caso.che;
         EXPECT_EQ(d.YEvento(-caso.posto), -atteso) << caso.che;
