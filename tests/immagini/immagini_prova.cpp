@@ -330,20 +330,19 @@ TEST_F(Immagini, PiantaDelleFinestre) {
 
 // Every icon at every size, over a light and a dark tool bar.
 TEST_F(Immagini, Icone) {
-    constexpr const char *kChiavi[] = {
-        "AggiornaEsci", "Esci",    "Ottimizza",    "Zoom",       "Sposta",     "Ridisegna",
-        "Aggiungi",     "Rimuovi", "RimuoviTutto", "InvertiSel", "Interrompi", "AggiungiBarraLat",
-        "Telva"};
     Apri(Telaio());
+    std::vector<std::string> chiavi;
+    for (const BottoneBarra &b : FormTelva.Toolbar1.Bottoni) chiavi.push_back(b.chiave);
+    chiavi.emplace_back("Telva");
     constexpr int kPasso = 52;
     Superficie s;
-    s.Ridimensiona(kPasso * static_cast<int>(std::size(kChiavi)), 5 * 2 * kPasso);
+    s.Ridimensiona(kPasso * static_cast<int>(chiavi.size()), 5 * 2 * kPasso);
     int y0 = 0;
     for (const int lato : {16, 20, 24, 32, 48})
         for (const std::uint32_t fondo : {0xF0F0F0u, 0x202020u}) {
             std::fill(s.Riga(y0), s.Riga(y0 + kPasso), fondo);
             int x0 = 2;
-            for (const char *chiave : kChiavi) {
+            for (const std::string &chiave : chiavi) {
                 Sovrapponi(s, FormTelva.Toolbar1.Icona(chiave, lato), lato, x0, y0 + 2);
                 x0 += kPasso;
             }
