@@ -51,8 +51,8 @@ SCENARIO(lungo_centomila_comandi) {
     const Risorse dopo = s.LeggiRisorse();
     std::printf("       GDI %lu %lu, USER %lu %lu, memory %zu %zu KiB\n", prima.gdi, dopo.gdi,
                 prima.utente, dopo.utente, prima.piccoByte >> 10, dopo.piccoByte >> 10);
-    UGUALE(dopo.gdi, prima.gdi);
-    UGUALE(dopo.utente, prima.utente);
+    VERIFICA(dopo.gdi <= prima.gdi); // what is shown at the end may need fewer
+    VERIFICA(dopo.utente <= prima.utente);
     VERIFICA(dopo.piccoByte < prima.piccoByte + (1U << 19));
 }
 

@@ -150,7 +150,7 @@ Punto Caso::PuntoScelto(const Modello &m) {
 
 PassoCasuale Caso::Filtri() {
     const auto asse = static_cast<Asse>(Tira(3));
-    const auto filtro = static_cast<Filtro>(Tira(5));
+    const auto filtro = static_cast<Filtro>(Tira(kFiltri));
     const auto tutto = [](Asse quale) { return [=](auto &chi) { chi.Tutto(quale); }; };
     const auto largo = [](double twip) {
         return [=](auto &chi) { chi.Ridimensiona(twip, kAlto); };

@@ -224,9 +224,12 @@ void Modello::ControllaIntervalli() {
 void Modello::Adatta() {
     for (int k = 0; k < 6; ++k) // what is not yet told does not count
         if (Giusto(intervalli[k])) ultimi_[k] = intervalli[k];
+    static constexpr Filtro kDelTipo[] = {Filtro::Nodi, Filtro::Aste, Filtro::Gusci};
+    const auto mostra = [&](Filtro filtro) { return !nascosti_.contains(filtro); };
     for (int t = kNodi; t <= kGusci; ++t)
         for (Elemento &e : elementi[t])
-            e.attivo = Dentro(e) && filtri_[t] && filtri_[e.selezionato ? 3 : 4];
+            e.attivo = Dentro(e) && mostra(kDelTipo[t]) &&
+                       mostra(e.selezionato ? Filtro::Selezionati : Filtro::NonSelezionati);
     const Riquadro r = Zoomata() ? zoom : Mostrati();
     if (r.HaArea())
         Inquadra(r);
@@ -284,8 +287,7 @@ void Modello::Tasto(int codice) {
 void Modello::Ridimensiona(double, double) { Adatta(); }
 
 void Modello::Mostra(Filtro filtro) {
-    bool &mostrati = filtri_[static_cast<std::size_t>(filtro)];
-    mostrati = !mostrati;
+    if (nascosti_.erase(filtro) == 0) nascosti_.insert(filtro);
     Ridisegna();
 }
 

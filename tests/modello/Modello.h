@@ -178,7 +178,7 @@ struct Modello {
     double largoScala_ = 0, altoScala_ = 0; // the box that the scale was made for; 0: none yet
     std::array<std::string, 6> ultimi_;     // intervals that were right
     std::array<std::string, 3> validi_;     // angles that were right
-    std::array<bool, 5> filtri_ = {true, true, true, true, true};
+    std::set<Filtro> nascosti_;             // boxes without their tick
     bool ultimoCentrale_ = false; // of the buttons that were pressed
     int richiesto_ = kNodi;       // kind that the caller asks for
     Punto angolo0_{}, angolo1_{}; // rectangle

@@ -141,7 +141,7 @@ std::string Modello::Adesso() const {
     if (nascosti > 0)
         testo += ", di cui " + std::to_string(nascosti) + " nascost" +
                  (nascosti == 1 ? singolare : plurale);
-    const bool tutti = std::ranges::all_of(filtri_, std::identity{}) &&
+    const bool tutti = nascosti_.empty() &&
                        std::ranges::all_of(elementi[kNodi], [&](auto &e) { return Dentro(e); });
     return tutti ? testo : "vista filtrata; " + testo;
 }

@@ -37,12 +37,8 @@ class Confronto {
                     << ::testing::PrintToString(atteso) << "\n";
     }
     // Within the last digits of numbers of this size.
-    using Quattro = std::array<double, 4>;
-    void Vicini(const std::string &che, const Quattro &visti, const Quattro &attesi,
-                double misura) {
-        for (std::size_t k = 0; k < visti.size(); ++k)
-            if (!(std::abs(visti[k] - attesi[k]) <= 1e-6 * misura))
-                return Uguali(che, visti, attesi);
+    void Vicini(const std::string &che, double visto, double atteso, double misura) {
+        if (!(std::abs(visto - atteso) <= 1e-6 * misura)) Uguali(che, visto, atteso);
     }
     std::string Differenze() const { return differenze_.str(); }
 
@@ -61,17 +57,22 @@ double Misura(double larghezza, double altezza, double x, double y) {
 void ConfrontaFinestra(Confronto &c, const std::string &che, const FinestraDisegno &vista,
                        Riquadro &attesa) {
     const auto &[maxX, minX, maxY, minY] = vista;
-    c.Vicini(che, {maxX, minX, maxY, minY}, {attesa.maxX, attesa.minX, attesa.maxY, attesa.minY},
-             Misura(maxX - minX, maxY - minY, maxX, maxY));
+    const double misura = Misura(maxX - minX, maxY - minY, maxX, maxY);
+    c.Vicini(che + ".primaX", maxX, attesa.maxX, misura);
+    c.Vicini(che + ".secondaX", minX, attesa.minX, misura);
+    c.Vicini(che + ".primaY", maxY, attesa.maxY, misura);
+    c.Vicini(che + ".secondaY", minY, attesa.minY, misura);
     attesa = {maxX, minX, maxY, minY};
 }
 
 void ConfrontaScala(Confronto &c, const RiquadroDisegno &d, Scala &attesa) {
     const double sinistra = d.ScaleLeft, alto = d.ScaleTop, largo = d.ScaleWidth,
                  altezza = d.ScaleHeight;
-    c.Vicini("Scale", {sinistra, alto, largo, altezza},
-             {attesa.sinistra, attesa.alto, attesa.larghezza, attesa.altezza},
-             Misura(largo, altezza, sinistra, alto));
+    const double misura = Misura(largo, altezza, sinistra, alto);
+    c.Vicini("ScaleLeft", sinistra, attesa.sinistra, misura);
+    c.Vicini("ScaleTop", alto, attesa.alto, misura);
+    c.Vicini("ScaleWidth", largo, attesa.larghezza, misura);
+    c.Vicini("ScaleHeight", altezza, attesa.altezza, misura);
     attesa = {sinistra, alto, largo, altezza};
 }
 

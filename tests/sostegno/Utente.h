@@ -18,6 +18,7 @@ namespace telva::prove {
 // The boxes of the side bar and of the strip below the drawing, by what they hold.
 enum class Estremo { MinX, MaxX, MinY, MaxY, MinZ, MaxZ };
 enum class Filtro { Nodi, Aste, Gusci, Selezionati, NonSelezionati };
+inline constexpr int kFiltri = 5;
 enum class Asse { X, Y, Z };
 inline void PrintTo(Estremo e, std::ostream *os) {
     static const char *const kNomi[] = {"MinX", "MaxX", "MinY", "MaxY", "MinZ", "MaxZ"};

@@ -15,6 +15,13 @@
 namespace telva::prove {
 namespace {
 
+// Its name, left, top, width and height.
+std::string Posto(const Controllo &c) {
+    return c.NomeControllo() + " " +
+           ::testing::PrintToString(
+               std::array<double, 4>{c.LeftAssoluto(), c.TopAssoluto(), c.Width, c.Height});
+}
+
 bool Separati(const Controllo &a, const Controllo &b) {
     const double aLeft = a.LeftAssoluto(), bLeft = b.LeftAssoluto();
     const double aTop = a.TopAssoluto(), bTop = b.TopAssoluto();
@@ -64,7 +71,7 @@ void ControllaCheStiano(const Modulo &modulo) {
         }
         for (const Controllo *b : modulo.controlli)
             if (a != b && b->VisibileDavvero() && !Contiene(*a) && !Contiene(*b)) {
-                EXPECT_TRUE(Separati(*a, *b)) << "over " << b->NomeControllo();
+                EXPECT_TRUE(Separati(*a, *b)) << Posto(*a) << " over " << Posto(*b);
             }
     }
 }
