@@ -37,8 +37,13 @@ class Confronto {
                     << ::testing::PrintToString(atteso) << "\n";
     }
     // Within the last digits of numbers of this size.
-    void Vicini(const std::string &che, double visto, double atteso, double misura) {
-        if (!(std::abs(visto - atteso) <= 1e-6 * misura)) Uguali(che, visto, atteso);
+    using Quattro = std::array<double, 4>;
+    using Nomi = std::array<const char *, 4>;
+    void Vicini(const std::string &che, const Nomi &nomi, const Quattro &visti,
+                const Quattro &attesi, double misura) {
+        for (std::size_t k = 0; k < visti.size(); ++k)
+            if (!(std::abs(visti[k] - attesi[k]) <= 1e-6 * misura))
+                Uguali(che + "." + nomi[k], visti[k], attesi[k]);
     }
     std::string Differenze() const { return differenze_.str(); }
 
@@ -57,22 +62,18 @@ double Misura(double larghezza, double altezza, double x, double y) {
 void ConfrontaFinestra(Confronto &c, const std::string &che, const FinestraDisegno &vista,
                        Riquadro &attesa) {
     const auto &[maxX, minX, maxY, minY] = vista;
-    const double misura = Misura(maxX - minX, maxY - minY, maxX, maxY);
-    c.Vicini(che + ".primaX", maxX, attesa.maxX, misura);
-    c.Vicini(che + ".secondaX", minX, attesa.minX, misura);
-    c.Vicini(che + ".primaY", maxY, attesa.maxY, misura);
-    c.Vicini(che + ".secondaY", minY, attesa.minY, misura);
+    c.Vicini(che, {"primaX", "secondaX", "primaY", "secondaY"}, {maxX, minX, maxY, minY},
+             {attesa.maxX, attesa.minX, attesa.maxY, attesa.minY},
+             Misura(maxX - minX, maxY - minY, maxX, maxY));
     attesa = {maxX, minX, maxY, minY};
 }
 
 void ConfrontaScala(Confronto &c, const RiquadroDisegno &d, Scala &attesa) {
     const double sinistra = d.ScaleLeft, alto = d.ScaleTop, largo = d.ScaleWidth,
                  altezza = d.ScaleHeight;
-    const double misura = Misura(largo, altezza, sinistra, alto);
-    c.Vicini("ScaleLeft", sinistra, attesa.sinistra, misura);
-    c.Vicini("ScaleTop", alto, attesa.alto, misura);
-    c.Vicini("ScaleWidth", largo, attesa.larghezza, misura);
-    c.Vicini("ScaleHeight", altezza, attesa.altezza, misura);
+    c.Vicini("Scale", {"Left", "Top", "Width", "Height"}, {sinistra, alto, largo, altezza},
+             {attesa.sinistra, attesa.alto, attesa.larghezza, attesa.altezza},
+             Misura(largo, altezza, sinistra, alto));
     attesa = {sinistra, alto, largo, altezza};
 }
 
@@ -146,8 +147,11 @@ struct SequenzeProva : Utente {
         const Segmento &l = d.LineSposta;
         const double misura = 1e2 * std::abs(d.ScaleWidth); // to a part of a pixel, as events do
         if (r.Visible)
-            c.Vicini("Shape", {r.Left, r.Top, r.Width, r.Height}, m.Rettangolo(), misura);
-        if (l.Visible) c.Vicini("LineSposta", {l.X1, l.Y1, l.X2, l.Y2}, m.Linea(), misura);
+            c.Vicini("Shape", {"Left", "Top", "Width", "Height"},
+                     {r.Left, r.Top, r.Width, r.Height}, m.Rettangolo(), misura);
+        if (l.Visible)
+            c.Vicini("LineSposta", {"X1", "Y1", "X2", "Y2"}, {l.X1, l.Y1, l.X2, l.Y2}, m.Linea(),
+                     misura);
         const auto forma = [](Puntatore puntatore) { return static_cast<int>(puntatore); };
         c.Uguali("MousePointer", forma(f.MousePointer), 0); // no hourglass is left
         c.Uguali("Disegno.MousePointer", forma(d.MousePointer), forma(m.puntatore));
