@@ -179,10 +179,10 @@ struct Modello {
     std::array<std::string, 6> ultimi_;     // intervals that were right
     std::array<std::string, 3> validi_;     // angles that were right
     std::set<Filtro> nascosti_;             // boxes without their tick
-    bool ultimoCentrale_ = false; // of the buttons that were pressed
-    int richiesto_ = kNodi;       // kind that the caller asks for
-    Punto angolo0_{}, angolo1_{}; // rectangle
-    Punto linea0_{}, linea1_{};   // where a pan or a drag began, and where the pointer is
+    bool ultimoCentrale_ = false;           // of the buttons that were pressed
+    int richiesto_ = kNodi;                 // kind that the caller asks for
+    Punto angolo0_{}, angolo1_{};           // rectangle
+    Punto linea0_{}, linea1_{};             // where a pan or a drag began, and where the pointer is
 };
 
 template <class Vale, class Azione>
