@@ -51,20 +51,16 @@ SCENARIO(avvio_con_file_impediti) {
     const auto font = mio.dati / "progra" / "font.001";
     const struct {
         fs::path file;
-        Ostacolo ostacolo;
-        RiquadroAtteso riquadro;
-    } casi[] = {
-        {lavoro / "STRUTTUR.STR", Ostacolo::Chiuso, Errore("Errore nella lettura della struttura")},
-        {lavoro / "spessori", Ostacolo::Chiuso,
-         Errore(" Impossibile leggere il file " + Utf8((lavoro / "spessori").wstring()))},
-        {font, Ostacolo::Chiuso, Errore("Errore in lettura del file " + Minuscolo(font) + " !")}};
+        std::string detto;
+    } casi[] = {{.file = lavoro / "STRUTTUR.STR", .detto = "Errore nella lettura della struttura"},
+                {.file = font, .detto = "Errore in lettura del file " + Minuscolo(font) + " !"}};
     for (const auto &caso : casi) {
         Passo("put an obstacle in the way of " + Utf8(caso.file.wstring()));
         const std::string salvo = LeggiByte(caso.file).value_or("");
         {
-            const Impedito impedito(caso.file, caso.ostacolo);
+            const Impedito impedito(caso.file, Ostacolo::Chiuso);
             Programma p(mio.telva, mio.Argomento("LAVORO=prova1|"));
-            ChiudiRiquadro(p, caso.riquadro);
+            ChiudiRiquadro(p, Errore(caso.detto));
             p.Principale(); // it goes on
             Esci(p);
             UGUALE(Scritto(lavoro), "(no file)");

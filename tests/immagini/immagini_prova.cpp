@@ -66,7 +66,7 @@ struct Foglio : LavoroProva {
 
 // A premultiplied picture over what is there.
 void Sovrapponi(Superficie &s, const std::vector<std::uint32_t> &icona, int lato, int x0, int y0) {
-    for (int n = 0; n < lato * lato; ++n) {
+    for (int n = 0; n < static_cast<int>(icona.size()); ++n) {
         const std::uint32_t p = icona[static_cast<std::size_t>(n)];
         std::uint32_t &sotto = s.Riga(y0 + n / lato)[x0 + n % lato];
         std::uint32_t misto = 0;
@@ -326,6 +326,27 @@ TEST_F(Immagini, PiantaDelleFinestre) {
     ConfrontaImmagine(Pianta(FormOptInt), "pianta_trappola");
     FormOpt.Chiudi();
     FormOptInt.Chiudi();
+}
+
+// Every colour and hatch beside its item, and those of "Tutti", at 100 % and 200 %.
+TEST_F(Immagini, FigureDeiMenu) {
+    constexpr int kPasso = 84;
+    Superficie s;
+    s.Ridimensiona(10 * kPasso, 4 * kPasso / 2);
+    Apri(Telaio());
+    int y0 = 0;
+    for (const double quanto : {1.0, 2.0})
+        for (const VoceMenu *menu : {&FormTelva.Colore, &FormTelva.TipoTratt}) {
+            int x0 = 0;
+            for (const VoceMenu *voce : menu->voci) {
+                const Figura f =
+                    FormTelva.FiguraMenu(voce->figura, static_cast<int>(13 * quanto), quanto);
+                Sovrapponi(s, f.pixel, f.larghezza, x0, y0);
+                x0 += kPasso;
+            }
+            y0 += kPasso / 2;
+        }
+    ConfrontaImmagine(s, "figure_menu");
 }
 
 // Every icon at every size, over a light and a dark tool bar.

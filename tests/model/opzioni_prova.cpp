@@ -83,14 +83,11 @@ TEST_F(OpzioniProva, LeOpzioniInterneSonoLePrimeCinqueRigheGiuste) {
         {.testo = "7|PX1|\n7|PC6|\n3|PC2\n3|PC0|\n3|PC|", .attese = {}},
         {.testo = "1|PC1|\n2|PC4|\n3|PC1|\n\n4|PC3|\n5|PC2|\n",
          .attese = {{1, 3}, {3, 4}, {4, 2}}}};
-    for (const Caso &c : casi) {
+    for (Caso c : casi) {
         Scrivi("TelOpInt.txt", c.testo);
         LeggiOpzInt();
-        for (int n = 1; n <= 5; ++n) {
-            const auto attesa = c.attese.find(n);
-            EXPECT_EQ(OpzInt[n], attesa == c.attese.end() ? 0 : attesa->second)
-                << "PC" << n << " of " << c.testo;
-        }
+        for (int n = 1; n <= 5; ++n)
+            EXPECT_EQ(OpzInt[n], c.attese[n]) << "PC" << n << " of " << c.testo;
     }
     Cancella("TelOpInt.txt");
     LeggiOpzInt();

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iomanip>
 #include <sstream>
 
 namespace telva::prove {
@@ -43,7 +44,8 @@ class Confronto {
                 const Quattro &attesi, double misura) {
         for (std::size_t k = 0; k < visti.size(); ++k)
             if (!(std::abs(visti[k] - attesi[k]) <= 1e-6 * misura))
-                Uguali(che + "." + nomi[k], visti[k], attesi[k]);
+                differenze_ << che << "." << nomi[k] << ": " << std::setprecision(15) << visti[k]
+                            << " instead of " << attesi[k] << "\n";
     }
     std::string Differenze() const { return differenze_.str(); }
 

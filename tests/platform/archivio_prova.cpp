@@ -41,36 +41,28 @@ struct Caso {
     bool riesce = true;
 };
 
+constexpr int kSempre = 1000000;
+
 const Caso kCasi[] = {
     {.quando = "tutto va"},
-    {.quando = "il file non c'era", .cEra = false},
+    {.quando = "file nuovo", .cEra = false},
     {.quando = "disco pieno", .spazio = kVecchio.size(), .riesce = false},
-    {.quando = "disco pieno, il file non c'era", .cEra = false, .spazio = 9, .riesce = false},
-    {.quando = "cartella chiusa ai file nuovi", .nessunFileNuovo = true},
-    {.quando = "cartella chiusa, il file non c'era",
-     .cEra = false,
-     .nessunFileNuovo = true,
-     .riesce = false},
-    {.quando = "cartella chiusa e disco pieno a meta'",
+    {.quando = "disco pieno, file nuovo", .cEra = false, .spazio = 9, .riesce = false},
+    {.quando = "cartella chiusa", .nessunFileNuovo = true},
+    {.quando = "chiusa, file nuovo", .cEra = false, .nessunFileNuovo = true, .riesce = false},
+    {.quando = "chiusa e piena",
      .spazio = kVecchio.size(),
      .nessunFileNuovo = true,
      .riesce = false},
     {.quando = "nessun provvisorio", .nessunProvvisorio = true},
-    {.quando = "nessun provvisorio, il file non c'era", .cEra = false, .nessunProvvisorio = true},
-    {.quando = "nessun provvisorio, il file non c'era, disco pieno",
-     .cEra = false,
-     .spazio = 9,
-     .nessunProvvisorio = true,
-     .riesce = false},
-    {.quando = "qualcuno tiene il file per poco, e sul posto non si potrebbe",
+    {.quando = "lo stesso, file nuovo", .cEra = false, .nessunProvvisorio = true},
+    {.quando = "e pieno", .cEra = false, .spazio = 9, .nessunProvvisorio = true, .riesce = false},
+    {.quando = "tenuto un poco, chiuso sul posto",
      .sostituzioniNegate = 5,
-     .apertureNegate = 1000000},
-    {.quando = "qualcuno tiene il file per sempre", .sostituzioniNegate = 1000000},
-    {.quando = "un altro lo sta scrivendo", .nessunFileNuovo = true, .apertureNegate = 5},
-    {.quando = "un altro lo scrive per sempre",
-     .nessunFileNuovo = true,
-     .apertureNegate = 1000000,
-     .riesce = false},
+     .apertureNegate = kSempre},
+    {.quando = "tenuto per sempre", .sostituzioniNegate = kSempre},
+    {.quando = "un altro lo scrive", .nessunFileNuovo = true, .apertureNegate = 5},
+    {.quando = "e non smette", .nessunFileNuovo = true, .apertureNegate = kSempre, .riesce = false},
 };
 
 } // namespace

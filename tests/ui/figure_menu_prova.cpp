@@ -5,7 +5,6 @@
 #include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
 #include "view/colori.h"
-#include "view/retini.h"
 
 #include <cmath>
 #include <set>
@@ -38,16 +37,6 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
     }
 }
 
-TEST_F(FigureMenu, UnColoreEQuelloDellaSuaTabella) {
-    const Figura f = DisegnaFigura({.genere = Genere::Colore, .codice = kArancione}, 13, 1);
-    EXPECT_EQ(f.pixel[6 * 13 + 6], 0xFFFFA346u);
-    const Figura tutti = DisegnaFigura({.genere = Genere::Colore, .codice = kOgniColore}, 13, 1);
-    std::set<std::uint32_t> visti;
-    for (std::size_t y = 1; y < 12; ++y) // inside the frame
-        for (std::size_t x = 1; x < 12; ++x) visti.insert(tutti.pixel[y * 13 + x]);
-    EXPECT_EQ(visti.size(), kNumeroColori - 1u) << "all that the menu names";
-}
-
 TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
     const char *const tratti[] = {"##########################", "#########.....#########...",
                                   "##....##....##....##....##", "#########.....##....######",
@@ -57,24 +46,6 @@ TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
         std::string riga; // in the middle, from the beginning of the line on
         for (std::size_t x = 2; x < 28; ++x) riga += f.pixel[6 * 39 + x] == 0xFFFFFFFF ? '#' : '.';
         EXPECT_EQ(riga, tratti[tipo]) << "type " << tipo;
-    }
-}
-
-// What hatch a number is, the pictures of the drawing tell.
-TEST_F(FigureMenu, UnTratteggioEQuelloDelDisegno) {
-    constexpr Pixel kAngoli[] = {{0, 0}, {39, 0}, {39, 13}, {0, 13}};
-    for (int tipo = 1; tipo <= 8; ++tipo) {
-        const Figura f = DisegnaFigura({.genere = Genere::Retino, .codice = tipo}, 13, 1);
-        Superficie disegno;
-        disegno.Ridimensiona(39, 13);
-        disegno.Riempi(0);
-        Retini(0.4, 1).Riempi(disegno, kAngoli, tipo, 0xFFFFFF);
-        int diversi = 0;
-        for (int y = 1; y < 12; ++y) // inside the frame
-            for (int x = 1; x < 38; ++x)
-                diversi += f.pixel[static_cast<std::size_t>(39 * y + x)] !=
-                           (disegno.Leggi(x, y) | 0xFF000000);
-        EXPECT_EQ(diversi, 0) << "hatch " << tipo;
     }
 }
 

@@ -15,12 +15,9 @@ namespace {
 
 // The options that say which labels there are, and which of their parts.
 constexpr int kGeneri[] = {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont};
-constexpr int kNomeNodo = kOpzPartiNodi, kVincolo = kOpzPartiNodi + 1;
-constexpr int kNomeAsta = kOpzPartiAste, kMaterialeAsta = kOpzPartiAste + 1,
-              kSezione = kOpzPartiAste + 2, kOrientamento = kOpzPartiAste + 3,
-              kSvincolo = kOpzPartiAste + 4;
-constexpr int kNomeGuscio = kOpzPartiGusci, kMaterialeGuscio = kOpzPartiGusci + 1,
-              kSpessore = kOpzPartiGusci + 2;
+enum { kNomeNodo = kOpzPartiNodi, kVincolo };
+enum { kNomeAsta = kOpzPartiAste, kMaterialeAsta, kSezione, kOrientamento, kSvincolo };
+enum { kNomeGuscio = kOpzPartiGusci, kMaterialeGuscio, kSpessore };
 
 // The frame from the front.
 struct Etichette : Banco {
