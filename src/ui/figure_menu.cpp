@@ -44,14 +44,15 @@ void DisegnaColori(Superficie &s, int codice) {
         }
 }
 
-// One line type in the middle, or all of them, one below the other.
+// One line type in the middle, or the first ones, one below the other: more of them would run
+// together.
 void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
     const bool tutte = codice == kOgniLinea;
-    const int prima = tutte ? 0 : codice, dopo = tutte ? kOgniLinea : codice + 1;
-    for (int k = prima; k < dopo; ++k) {
-        const int y = (2 * (k - prima) + 1) * s.Altezza() / (2 * (dopo - prima));
+    const int prima = tutte ? 0 : codice, quante = tutte ? 3 : 1;
+    for (int k = 0; k < quante; ++k) {
+        const int y = (2 * k + 1) * s.Altezza() / (2 * quante);
         s.Traccia({2 * penna, y}, {s.Larghezza() - 1 - 2 * penna, y}, penna, kSegno,
-                  TrattiniLinea(k, quanto));
+                  TrattiniLinea(prima + k, quanto));
     }
 }
 

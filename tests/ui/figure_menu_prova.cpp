@@ -1,6 +1,7 @@
 // The pictures beside the items of the menus.
 #include "ui/figure_menu.h"
 
+#include "selection/attributi_sel.h"
 #include "sostegno/Banco.h"
 #include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
@@ -41,11 +42,17 @@ TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
     const char *const tratti[] = {"##########################", "#########.....#########...",
                                   "##....##....##....##....##", "#########.....##....######",
                                   "#########.....##....##...."};
-    for (int tipo = 0; tipo < 5; ++tipo) {
-        const Figura f = DisegnaFigura({.genere = Genere::Linea, .codice = tipo}, 13, 1);
-        std::string riga; // in the middle, from the beginning of the line on
-        for (std::size_t x = 2; x < 28; ++x) riga += f.pixel[6 * 39 + x] == 0xFFFFFFFF ? '#' : '.';
-        EXPECT_EQ(riga, tratti[tipo]) << "type " << tipo;
+    const auto riga = [](int codice, std::size_t y) { // from the beginning of the line on
+        const Figura f = DisegnaFigura({.genere = Genere::Linea, .codice = codice}, 13, 1);
+        std::string punti;
+        for (std::size_t x = 2; x < 28; ++x) punti += f.pixel[y * 39 + x] == 0xFFFFFFFF ? '#' : '.';
+        return punti;
+    };
+    const std::string vuota(26, '.');
+    for (int tipo = 0; tipo < 5; ++tipo) EXPECT_EQ(riga(tipo, 6), tratti[tipo]) << "type " << tipo;
+    for (const std::size_t k : {0u, 1u, 2u}) { // "Tutti": three that can be told apart
+        EXPECT_EQ(riga(kOgniLinea, 2 + 4 * k), tratti[k]);
+        for (const std::size_t y : {1u, 3u}) EXPECT_EQ(riga(kOgniLinea, y + 4 * k), vuota);
     }
 }
 
