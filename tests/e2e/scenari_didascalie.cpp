@@ -5,7 +5,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <set>
 
 using namespace telva::prove;
@@ -77,11 +76,11 @@ const Tabella kFinestra = Unisci(
       {.nome = "ElNonSelez", .didascalia = "Elementi non selezionati"},
       {.nome = "LabelInt", .didascalia = "Intervalli di coordinate"},
       {.nome = "Label5", .didascalia = "Risultato della selezione:"},
-      {.nome = "StringaSel", .didascalia = "8"},
+      {.nome = "StringaSel", .didascalia = "31,31,33,35,37"},
       {.nome = "Frame2"},
       {.nome = "FunAttiva"},
       {.nome = "SottoFunAttiva"},
-      {.nome = "LabStato", .didascalia = "1 asta selezionata\r\nCtrl+A aggiunge, Ctrl+T rimuove"},
+      {.nome = "LabStato", .didascalia = "4 gusci selezionati\r\nCtrl+A aggiunge, Ctrl+T rimuove"},
       {.nome = "FrameCoord"},
       {.nome = "Label6", .didascalia = "Coordinate:"},
       {.nome = "LabCoord"}},
@@ -129,33 +128,45 @@ const Tabella kOpzioni =
             Schiera("LabelCol", Colori()),
             Schiera("LabelBordCol", std::vector<std::string>(Colori().size()))});
 
+// The part of the screen that is dark in that one, whose corner shows the ground.
+RECT Inchiostro(const RECT &zona) {
+    const Immagine foto = Schermo(&zona);
+    const auto luce = [&](int x, int y) { return foto.In(x, y) & 0xFF; };
+    RECT tutto{};
+    for (int y = 0; y < foto.altezza; ++y)
+        for (int x = 0; x < foto.larghezza; ++x) {
+            RECT punto{x, y, x + 1, y + 1};
+            OffsetRect(&punto, zona.left, zona.top);
+            if (luce(x, y) * 6 < luce(0, 0) * 5) UnionRect(&tutto, &tutto, &punto);
+        }
+    return tutto;
+}
+
 // The lowest row of the screen that the first letter in a control reaches.
 LONG PiedeDelTesto(HWND controllo) {
     RECT r{};
     GetClientRect(controllo, &r);
     MapWindowPoints(controllo, nullptr, reinterpret_cast<POINT *>(&r), 2);
-    const Immagine foto = Schermo(&r);
-    const auto luce = [&](int x, int y) { return foto.In(x, y) & 0xFF; };
-    const auto scuro = [&](int x, int y) { return luce(x, y) * 3 < luce(0, 0) * 2; };
-    int prima = foto.larghezza, piede = 0;
-    for (int x = 0; x < std::min(prima + 4, foto.larghezza); ++x)
-        for (int y = 0; y < foto.altezza; ++y) {
-            if (!scuro(x, y)) continue;
-            prima = std::min(prima, x);
-            piede = std::max(piede, y);
-        }
-    return r.top + piede;
+    r.left = Inchiostro(r).left;
+    r.right = r.left + 4;
+    return Inchiostro(r).bottom;
 }
 
-// Where the first row of a label ends, in its pixels.
-LONG FineDelTesto(HWND etichetta) {
+LONG Larghezza(HWND controllo) { return Rettangolo(controllo).right - Rettangolo(controllo).left; }
+
+// Where a row of a label (0: the upper half, 1: the lower) ends, in its pixels; its frame is none.
+LONG FineDelTesto(HWND etichetta, int riga = 0) {
     const RECT r = Rettangolo(etichetta);
-    const Immagine foto = Schermo(&r);
-    int fine = 0;
-    for (int y = 0; y < foto.altezza / 2; ++y)
-        for (int x = fine; x < foto.larghezza; ++x)
-            if ((foto.In(x, y) & 0xFF) < 128) fine = x;
-    return fine;
+    const LONG meta = (r.bottom - r.top) / 2, alto = r.top + riga * meta;
+    return Inchiostro({r.left + 2, alto + 2 - 2 * riga, r.right - 2, alto + meta - 2}).right -
+           r.left - 1;
+}
+
+// Whether a row of a label shows this beginning of its text and an ellipsis, from that pixel on;
+// the lower half of a single row has its dots.
+bool Tronca(HWND etichetta, int riga, const std::string &inizio, LONG da) {
+    const LONG fine = FineDelTesto(etichetta, riga) - da;
+    return fine > Ingombro(inizio, 999).cx && fine < Ingombro(inizio + "…", 999).cx;
 }
 
 // The box is given the text beside it: a letter and the same letter.
@@ -179,6 +190,12 @@ SCENARIO(didascalie_allineate) {
     s.ApriOpzioni();
     for (const std::string casella : {"SpNonSel", "SpSel", "Raggio"})
         VerificaAllineati(s, "Label" + casella, casella);
+    s.Premi("Esc");
+    s.Principale();
+    s.Premi("Ctrl+A");
+    s.ChiediNomi(); // the question stands against the answer
+    const HWND domanda = s.Controllo("Domanda");
+    DIVENTA(s, Larghezza(domanda) - FineDelTesto(domanda) <= 4, true);
 }
 
 // What the caller wants stands out; what finds no room stands in the tip, for half a minute.
@@ -195,10 +212,20 @@ SCENARIO(didascalie_stato) {
                        Ingombro("; nessun guscio selezionato", 1560).cx;
     DIVENTA(s, std::abs(FineDelTesto(stato) - larga) <= 2, true);
     UGUALE(s.Suggerimenti(s.finestra).contains(stato), false);
-    const RECT libera = Rettangolo(stato);
-    s.Dimensiona(s.finestra, 1520 - (libera.right - libera.left - larga), alta);
+    const LONG resto = 1560 - Larghezza(stato), dpi = static_cast<LONG>(GetDpiForWindow(stato));
+    const LONG forte = Ingombro("richiesti: nodi", 1560, FW_BOLD).cx;
+    s.Dimensiona(s.finestra, resto + forte + Ingombro("; nessun gusc", 999).cx, alta);
     DIVENTA(s, s.Suggerimenti(s.finestra)[stato], s.Testo(stato));
-    DIVENTA(s, FineDelTesto(stato) < larga - 20, true); // an ellipsis
+    DIVENTA(s, Tronca(stato, 0, "; nessun gu", forte), true);
+    s.Dimensiona(s.finestra, resto + Ingombro("Ctrl+A aggiunge, Ctrl+T", 999).cx, alta);
+    DIVENTA(s, Tronca(stato, 1, "Ctrl+A aggiunge,", 0), true);
+    UGUALE(s.Suggerimenti(s.finestra)[stato], s.Testo(stato));
+    const LONG minima = (6615 * dpi + 1439) / 1440; // with 60 pixels (at 100 %) left for it
+    s.Dimensiona(s.finestra, minima - 1, alta);
+    DIVENTA(s, s.Visibile("LabStato"), false);
+    s.Dimensiona(s.finestra, minima, alta);
+    DIVENTA(s, s.Visibile("LabStato"), true);
+    DIVENTA(s, std::abs(Larghezza(stato) * 96 - 60 * dpi) <= dpi, true);
     std::set<LRESULT> durate;
     for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
         durate.insert(SendMessageW(h, TTM_GETDELAYTIME, TTDT_AUTOPOP, 0));
@@ -206,10 +233,15 @@ SCENARIO(didascalie_stato) {
 }
 
 SCENARIO(didascalie_finestra) {
-    Sessione s(amb, Genere::Aste, "8");
+    Sessione s(amb, Genere::Gusci, "31,33,35,37");
     s.PuntaInDisparte();
     s.TestoDiventa("LabCoord", "");
     VerificaControlli(s, s.finestra, kFinestra);
+    // Where the list finds no room, it ends with a whole number; 5 pixels are free beside it.
+    const HWND lista = s.Controllo("StringaSel");
+    const LONG posto = Ingombro("31,31,33,3…", 999).cx + 2 * 5 + 1;
+    s.Dimensiona(s.finestra, Larghezza(s.finestra) - Larghezza(lista) + posto, 960);
+    DIVENTA(s, Tronca(lista, 1, "31,31,33,", 5), true);
 }
 
 SCENARIO(didascalie_dialoghi) {

@@ -210,11 +210,16 @@ SCENARIO(posto_impossibile) {
 SCENARIO(testo_smisurato) {
     const auto lavoro = LavoroPiccolo(amb);
     std::filesystem::remove(lavoro / "STRUTTUR.STR"); // the caller's list comes back as it is
-    const std::string lista(5000, '7');
+    std::string lista = "777", riga, breve;
+    for (int k = 1; k < 1250; ++k) lista += ",777";
     ScriviIngresso(lavoro, std::string(4000000, 'T'), lista, 0);
     Programma p(amb.telva, amb.Argomento("LAVORO=prova1"));
     p.ChiudiRiquadro();
     UGUALE(p.Testo("StringaSel"), lista.substr(0, 3999) + "…");
+    for (int k = 0; k < 17; ++k) riga += "777,";
+    for (int k = 0; k < 11; ++k) breve += riga + "\r\n";
+    breve += "… Ctrl+C copia tutto";
+    DIVENTA(p, p.Suggerimenti(p.Principale())[p.Controllo("StringaSel")], breve);
     p.Clic("StringaSel");
     p.Premi("Ctrl+C");
     DIVENTA(p, Appunti(), lista);

@@ -36,14 +36,18 @@ SCENARIO(barre_menu_coi_colori) {
     Sessione s(amb, Genere::Aste);
     s.Premi("Ctrl+A");
     s.FunzioneDiventa("Aggiungi selezione");
-    const UINT dpi = GetDpiForWindow(s.finestra);
-    const int spunta = GetSystemMetricsForDpi(SM_CYMENUCHECK, dpi);
-    const auto dentro = std::to_string(spunta - 2 * static_cast<int>(std::lround(dpi / 96.0)));
-    Manda(Accordo("Alt+S"));
-    s.Aspetta("the menu", [] { return MenuAperto() != nullptr; });
-    const HWND selezioni = MenuAperto();
-    Manda(Accordo("c"));
-    s.Aspetta("the menu of colours", [&] { return MenuAperto() != selezioni; });
-    DIVENTA(s, MisuraDelColore(MenuAperto(), kMagenta), dentro + " x " + dentro);
-    for (int k = 0; k < 3; ++k) Manda(Accordo("Esc"));
+    const UINT nato = GetDpiForWindow(s.finestra);
+    for (const UINT dpi : {nato, 2 * nato}) { // then it comes to another monitor
+        if (dpi != nato) s.CambiaDpi(s.finestra, dpi);
+        const int spunta = GetSystemMetricsForDpi(SM_CYMENUCHECK, dpi);
+        const auto dentro = std::to_string(spunta - 2 * static_cast<int>(std::lround(dpi / 96.0)));
+        Manda(Accordo("Alt+S"));
+        s.Aspetta("the menu", [] { return MenuAperto() != nullptr; });
+        const HWND selezioni = MenuAperto();
+        Manda(Accordo("c"));
+        s.Aspetta("the menu of colours", [&] { return MenuAperto() != selezioni; });
+        DIVENTA(s, MisuraDelColore(MenuAperto(), kMagenta), dentro + " x " + dentro);
+        for (int k = 0; k < 3; ++k) Manda(Accordo("Esc"));
+        s.Principale();
+    }
 }

@@ -335,10 +335,10 @@ bool Programma::HaFuoco(const std::string &nome) const {
     return Filo(f).hwndFocus == f;
 }
 
-POINT Programma::Centro(HWND controllo) {
+POINT Programma::InMillesimi(HWND controllo, LONG x, LONG y) {
     RECT r{};
     GetClientRect(controllo, &r);
-    return {r.right / 2, r.bottom / 2};
+    return {r.right * x / 1000, r.bottom * y / 1000};
 }
 
 POINT Programma::CentroBottone(HWND barra, int indice) const {
@@ -427,6 +427,12 @@ void Programma::Scrivi(const std::string &nome, const std::string &testo) {
     Aspetta(
         "'" + testo + "' in " + nome, [&] { return Testo(nome).ends_with(testo); },
         [&] { return "'" + Testo(nome) + "'"; });
+}
+
+void Programma::Riscrivi(const std::string &nome, const std::string &testo) {
+    Clic(nome);
+    for (const char *tasti : {"Fine", "Shift+Inizio"}) Premi(tasti);
+    Scrivi(nome, testo);
 }
 
 void Programma::Menu(const std::string &apri, const std::string &tasti) {
@@ -524,6 +530,15 @@ void Programma::Dimensiona(HWND finestra, int larghezza, int altezza) {
     if (!SetWindowPos(finestra, nullptr, 0, 0, larghezza, altezza,
                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE))
         Fallisci("the window cannot be resized, error " + std::to_string(GetLastError()));
+}
+
+void Programma::CambiaDpi(HWND finestra, UINT dpi) {
+    Passo("DPI " + std::to_string(dpi));
+    const MemoriaAltrui la(processo_, sizeof(RECT));
+    RECT posto{};
+    GetWindowRect(finestra, &posto);
+    la.Scrivi(posto);
+    Chiedi(finestra, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), LPARAM(la.Dove<RECT>()));
 }
 
 void ScriviFile(const std::filesystem::path &file, const std::string &utf8) {

@@ -62,8 +62,10 @@ class Programma {
     bool HaFuoco(const std::string &nome) const;
     // What has the focus in the front window.
     HWND Fuoco() const;
-    // Middle of a control, in its own client coordinates.
-    static POINT Centro(HWND controllo);
+    // Middle of a control, and a place told in thousandths of its width and height, in its own
+    // client coordinates.
+    static POINT Centro(HWND controllo) { return InMillesimi(controllo, 500, 500); }
+    static POINT InMillesimi(HWND controllo, LONG x, LONG y);
     // Middle of a tool-bar button (separators count), in client coordinates of the bar.
     POINT CentroBottone(HWND barra, int indice) const;
     // The name a control was given, empty when none.
@@ -82,6 +84,8 @@ class Programma {
     void Digita(const std::string &testo);
     // Waits until the control has the focus, types, and waits until its text ends in `testo`.
     void Scrivi(const std::string &nome, const std::string &testo);
+    // The same in place of what a text box holds, which a click gives the focus.
+    void Riscrivi(const std::string &nome, const std::string &testo);
     // Opens a menu ("Alt+S") and presses keys in it ("O", "C B", "Giu Giu Invio"); waits until it
     // is left. A greyed item runs nothing and may leave the menu too: look at the effect.
     void Menu(const std::string &apri, const std::string &tasti);
@@ -100,6 +104,8 @@ class Programma {
     void Rotella(HWND finestra, POINT dove, int scatti);
     // Sets the outer size of a top-level window.
     void Dimensiona(HWND finestra, int larghezza, int altezza);
+    // Tells one that it has come to a monitor of this DPI, where it may stay as large as it is.
+    void CambiaDpi(HWND finestra, UINT dpi);
 
     // Polls until `fatto` is true; fails at the limit, or as soon as the program has ended without
     // it. The failure names `cosa`, `visto()` and the state of the windows.

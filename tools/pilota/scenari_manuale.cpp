@@ -75,25 +75,13 @@ class Seduta : public Programma {
         ClicIn(a);
     }
 
-    // Another text in place of that of a box.
-    void Riscrivi(const std::string &casella, const std::string &testo) {
-        Clic(casella);
-        Premi("Fine");
-        Premi("Shift+Inizio");
-        Scrivi(casella, testo);
-    }
-
   private:
     static Immagine Vista(HWND finestra) {
         RECT r{};
         GetWindowRect(finestra, &r);
         return Schermo(&r);
     }
-    POINT Punto(const Posto &posto) const {
-        RECT r{};
-        GetClientRect(disegno_, &r);
-        return {r.right * posto.x / 1000, r.bottom * posto.y / 1000};
-    }
+    POINT Punto(const Posto &posto) const { return InMillesimi(disegno_, posto.x, posto.y); }
 
     fs::path foto_;
     HWND finestra_ = Principale(), disegno_ = Controllo("Disegno");

@@ -36,6 +36,21 @@ bool MostraTesto(HWND finestra, const std::string &testo) {
     return true;
 }
 
+std::wstring InUnaRiga(HDC dc, const std::wstring &testo, int larghezza) {
+    const int lunghezza = static_cast<int>(testo.size());
+    SIZE tutto{}, puntini{};
+    GetTextExtentPoint32W(dc, testo.c_str(), lunghezza, &tutto);
+    if (tutto.cx <= larghezza) return testo;
+    GetTextExtentPoint32W(dc, L"…", 1, &puntini);
+    int stanno = 0;
+    GetTextExtentExPointW(dc, testo.c_str(), lunghezza,
+                          std::max(larghezza - static_cast<int>(puntini.cx), 0), &stanno, nullptr,
+                          &tutto);
+    const auto mostrato = std::wstring_view(testo).substr(0, static_cast<std::size_t>(stanno));
+    const std::size_t virgola = mostrato.rfind(L',');
+    return std::wstring(mostrato, 0, virgola == mostrato.npos ? virgola : virgola + 1) + L"…";
+}
+
 void GuastoWindows(const char *chiamata) {
     throw Guasto("Chiamata di sistema non riuscita: " + std::string(chiamata) + " (errore " +
                  std::to_string(GetLastError()) + ")");

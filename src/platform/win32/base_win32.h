@@ -25,6 +25,10 @@ std::string TestoFinestra(HWND finestra);
 // Shows a text in it, if it is another one; true when it was.
 bool MostraTesto(HWND finestra, const std::string &testo);
 
+// What a row of so many pixels can show of a text: all of it, or its items up to a comma, and an
+// ellipsis. `dc` has the font.
+std::wstring InUnaRiga(HDC dc, const std::wstring &testo, int larghezza);
+
 // A Windows call that cannot be done without: on failure a Guasto names it and its error number.
 template <class T>
 T Richiesto(T risultato, const char *chiamata);

@@ -31,9 +31,10 @@ void EtichettaStatoWin32::Disegna(const DRAWITEMSTRUCT &d) const {
     FillRect(d.hDC, &r, GetSysColorBrush(COLOR_BTNFACE));
     SetBkMode(d.hDC, TRANSPARENT);
     SetTextColor(d.hDC, GetSysColor(COLOR_BTNTEXT));
-    const auto scrivi = [&](StileFont stile, const std::wstring &testo, RECT dove) {
-        constexpr UINT kModo = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+    const auto scrivi = [&](StileFont stile, const std::wstring &tutto, RECT dove) {
+        constexpr UINT kModo = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
         const HGDIOBJ prima = SelectObject(d.hDC, finestra_.Font(stile));
+        const auto testo = InUnaRiga(d.hDC, tutto, static_cast<int>(dove.right - dove.left));
         DrawTextW(d.hDC, testo.c_str(), static_cast<int>(testo.size()), &dove, kModo);
         SelectObject(d.hDC, prima);
     };

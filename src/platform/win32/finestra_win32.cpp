@@ -172,7 +172,7 @@ void FinestraWin32::DpiCambiato(UINT dpi, const RECT &proposto) {
     const FontWin32 prima =
         std::exchange(font_, FontWin32(modulo_.dpi)); // goes when nobody uses it
     suggerimenti_.Adegua(font_[StileFont::Normale], modulo_.dpi);
-    if (menu_) menu_->DpiCambiato();
+    if (menu_) menu_->DpiCambiato(dpi);
     for (const auto &p : controlli_) {
         p->AggiornaFont(true);
         p->DpiCambiato();

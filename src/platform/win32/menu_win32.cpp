@@ -63,7 +63,8 @@ HMENU MenuWin32::Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu) {
         HMENU figlio = nullptr;
         if (!voce->voci.empty())
             figlio = Costruisci(voce->voci, Richiesto(CreatePopupMenu(), "CreatePopupMenu"));
-        Inserisci(*voce, {menu, posizione++, figlio, BitmapFigura(*voce)});
+        Inserisci(*voce,
+                  {menu, posizione++, figlio, BitmapFigura(*voce, DpiDi(finestra_.Maniglia()))});
     }
     return menu;
 }
@@ -85,20 +86,19 @@ void MenuWin32::Inserisci(const VoceMenu &voce, const VoceMostrata &posto) {
     posti_[&voce] = posto;
 }
 
-HBITMAP MenuWin32::BitmapFigura(const VoceMenu &voce) const {
+HBITMAP MenuWin32::BitmapFigura(const VoceMenu &voce, UINT dpi) const {
     if (voce.figura.genere == FiguraVoce::Genere::Nessuna || !modulo_.FiguraMenu) return nullptr;
-    const UINT dpi = DpiDi(finestra_.Maniglia());
     const Figura f = modulo_.FiguraMenu(voce.figura, AltezzaSpuntaMenu(dpi), dpi / 96.0);
     return CreaBitmap(f.pixel, f.larghezza, f.altezza);
 }
 
-void MenuWin32::DpiCambiato() {
+void MenuWin32::DpiCambiato(UINT dpi) {
     for (auto &[voce, posto] : posti_) {
         if (!posto.figura) continue;
         MENUITEMINFOW info{};
         info.cbSize = sizeof info;
         info.fMask = MIIM_BITMAP;
-        info.hbmpItem = BitmapFigura(*voce);
+        info.hbmpItem = BitmapFigura(*voce, dpi);
         SetMenuItemInfoW(posto.menu, posto.posizione, TRUE, &info);
         DeleteObject(std::exchange(posto.figura, info.hbmpItem));
     }

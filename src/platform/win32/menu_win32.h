@@ -21,8 +21,8 @@ class MenuWin32 : public Pari {
     void Popup(const VoceMenu &menu) const;
     // Answer to WM_MENUCHAR: items without a letter of their own hear to their first one.
     LRESULT Lettera(HMENU menu, wchar_t lettera) const;
-    // Makes the items' pictures again, at the window's present DPI.
-    void DpiCambiato();
+    // Makes the items' pictures again, for this DPI.
+    void DpiCambiato(UINT dpi);
 
   private:
     struct VoceMostrata {
@@ -36,8 +36,8 @@ class MenuWin32 : public Pari {
     void Aggiorna(const VoceMenu &voce) const;
     HMENU Costruisci(const std::vector<VoceMenu *> &voci, HMENU menu);
     void Inserisci(const VoceMenu &voce, const VoceMostrata &posto);
-    // The picture of an item as the window's DPI asks for it; none: nullptr.
-    HBITMAP BitmapFigura(const VoceMenu &voce) const;
+    // The picture of an item at this DPI; none: nullptr.
+    HBITMAP BitmapFigura(const VoceMenu &voce, UINT dpi) const;
 
     Modulo &modulo_;
     OspiteWin32 &finestra_;

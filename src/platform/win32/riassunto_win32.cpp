@@ -33,9 +33,10 @@ void RiassuntoWin32::Dipingi() const {
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
     RECT dentro = r;
     InflateRect(&dentro, -kMargine, 0);
-    const std::wstring testo = ALargo(Testo());
+    const std::wstring testo =
+        InUnaRiga(dc, ALargo(Testo()), static_cast<int>(dentro.right - dentro.left));
     DrawTextW(dc, testo.c_str(), static_cast<int>(testo.size()), &dentro,
-              DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
+              DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX);
     SelectObject(dc, prima);
     if (GetFocus() == hwnd_) {
         InflateRect(&r, -2, -2);
