@@ -14,11 +14,13 @@ sensibili='barre_*,dialogo_*,didascalie_*,finestr*,mouse_*,posto_*'
 
 prova() { # DPI or nothing, screen, scenarios or nothing for all
     local dpi=$1 schermo=$2 scelti=${solo:-$3}
-    local dati=$windows/prova_finestra${dpi:+_$dpi}_$schermo radice
+    local dati=$windows/prova_finestra${dpi:+_$dpi}_$schermo radice lavoro
     echo "-- ${dpi:-96} DPI, screen $schermo${scelti:+, $scelti}"
     rm -rf "$dati"
-    radice=$(bash "$qui/../../tools/installa_campione.sh" \
-        "$nativo/tools/genera_lavoro/genera_lavoro" "$dati" --lavoro dimo01)
+    for lavoro in dimo01 'piena0 --taglia piena'; do
+        radice=$(bash "$qui/../../tools/installa_campione.sh" \
+            "$nativo/tools/genera_lavoro/genera_lavoro" "$dati" --lavoro $lavoro)
+    done
     bash "$qui/esegui_wine.sh" --prefisso "$prefisso" ${dpi:+--dpi $dpi} --schermo "$schermo" -- \
         wine "$windows/tests/e2e/prove_e2e.exe" --telva "$windows/telva.exe" --dati "$radice" \
         --foto "$dati/foto" ${scelti:+--solo "$scelti"}
