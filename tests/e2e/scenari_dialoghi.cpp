@@ -32,10 +32,6 @@ SCENARIO(dialogo_trappola) {
                        .icona = "avviso"});
     s.Principale();
     s.ApriTrappola();
-    s.Riscrivi("TextTrappola", "77");
-    s.Premi("Esc"); // leaves it as it was
-    s.Principale();
-    s.ApriTrappola();
     s.TestoDiventa("TextTrappola", "0");
 }
 

@@ -225,7 +225,6 @@ SCENARIO(didascalie_stato) {
     DIVENTA(s, s.Visibile("LabStato"), false);
     s.Dimensiona(s.finestra, minima, alta);
     DIVENTA(s, s.Visibile("LabStato"), true);
-    DIVENTA(s, std::abs(Larghezza(stato) * 96 - 60 * dpi) <= dpi, true);
     std::set<LRESULT> durate;
     for (HWND h = nullptr; (h = FindWindowExW(nullptr, h, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
         durate.insert(SendMessageW(h, TTM_GETDELAYTIME, TTDT_AUTOPOP, 0));

@@ -247,7 +247,10 @@ TEST_F(Immagini, EtichetteEAssiAl200) {
     for (int parte : {1, 2, 3, 4}) Opzioni[kOpzPartiAste + parte] = 0.0;
     MisuraTesti(9, 11);
     Adatta();
-    Confronta("etichette_assi_200");
+    Superficie pila = Dipingi();
+    MisuraTesti(9, 9.5); // less than 6 pixels at 100 %: no outline
+    Impila(pila, Dipingi());
+    ConfrontaImmagine(pila, "etichette_assi_200");
 }
 
 // Bars in every direction and one seen from its end, each with its continuous element; nodes with

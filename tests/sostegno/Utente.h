@@ -61,9 +61,6 @@ class Utente : public Banco {
         if (!v.Enabled) throw std::logic_error("the item " + voce + " is disabled");
         Passo(Scritto("Menu", voce), v.Click);
     }
-    void Barra(const std::string &chiave) {
-        Passo(Scritto("Barra", chiave), [&] { FormTelva.Toolbar1.ButtonClick(chiave); });
-    }
     void Esc() {
         Passo("Esc()", [] { FormTelva.KeyPress(kEsc); });
     }

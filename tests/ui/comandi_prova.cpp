@@ -67,20 +67,6 @@ TEST_F(ComandiProva, IBottoniSonoQuelliDelManuale) {
                       "RimuoviTutto InvertiSel Interrompi | AggiungiBarraLat");
 }
 
-TEST_F(ComandiProva, UnBottoneFaCioCheFaLaSuaVoce) {
-    for (const char *ignota : {"aggiungi", "Aggiung", "Materiale", "Salva", ""}) Barra(ignota);
-    EXPECT_EQ(Funzione(), "");
-    Barra("Aggiungi");
-    EXPECT_EQ(Funzione(), "Aggiungi selezione");
-    Barra("InvertiSel");
-    EXPECT_EQ(Lista(), "1,1-9");
-    Barra("Zoom");
-    EXPECT_EQ(SottoFunzione(), "Zoom");
-    Barra("AggiornaEsci");
-    EXPECT_EQ(codiceFine, 0);
-    EXPECT_EQ(Uscita(), "1,1-9\r\n");
-}
-
 TEST_F(ComandiProva, UnGuastoFinisceConUnoENonScrive) {
     NodoJAsta[0] = 25000; // no place of the nodes: the next picture comes upon it
     Tipo(kAsteTipo);

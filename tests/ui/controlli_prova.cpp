@@ -113,6 +113,7 @@ TEST(ModuloTelva, LaFinestraPrincipaleAllaNascita) {
     const auto nuova = std::make_unique<ModuloTelva>();
     ModuloTelva &f = *nuova;
     EXPECT_TRUE(f.ridimensionabile);
+    EXPECT_EQ(f.Domanda.stile, StileEtichetta::ADestra) << "against the answer";
     for (int k = 0; k < 3; ++k) {
         EXPECT_TRUE(f.Angolo[k].stretta);
         const std::string asse(1, "XYZ"[k]);

@@ -4,12 +4,14 @@
 #include "model/opzioni_cond.h"
 #include "selection/selezione.h"
 #include "sostegno/Utente.h"
+#include "startup/avvio.h"
 #include "ui/controlli/FormTelva.h"
 #include "ui/gesto.h"
 #include "ui/preda.h"
 #include "ui/stato.h"
 
 #include <algorithm>
+#include <functional>
 #include <random>
 
 namespace telva::prove {
@@ -28,10 +30,6 @@ struct StatoProva : Utente {
 };
 
 TEST_F(StatoProva, SenzaUnaRichiestaNonSiNeDiceNulla) {
-    ApriCon(7); // no kind
-    Tipo(kGusciTipo);
-    EXPECT_EQ(ComponiStato().evidenza, "");
-    Cancella("lavori/prova1/TelvaIn.txt");
     Apri(Telaio());
     Tipo(kGusciTipo);
     EXPECT_EQ(ComponiStato().evidenza, "");
@@ -55,6 +53,9 @@ TEST_F(StatoProva, CheCosaSiPuoScrivere) {
         {.voce = "SchVincolo", .tipo = kNodiTipo, .atteso = "vincoli presenti: 1-2"},
         {.voce = "Nome", .tipo = kAsteTipo, .atteso = "nomi presenti: da 1 a 12"},
         {.voce = "Nome", .tipo = kElContTipo, .atteso = "nomi presenti: da 10 a 20"},
+        {.voce = "Nome", .tipo = kParetiTipo, .atteso = "nomi presenti: -"}, // they have no data
+        {.voce = "Materiale", .tipo = kParetiTipo, .atteso = "materiali presenti: -"},
+        {.voce = "SchSpessore", .tipo = kParetiTipo, .atteso = "spessori presenti: -"},
     };
     for (const Caso &caso : casi) {
         Tipo(caso.tipo);
@@ -140,43 +141,43 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
         EXPECT_EQ(d.Anteprima().linee.size(), linee);
         EXPECT_EQ(d.Anteprima().cerchi.size(), cerchi);
     }
-}
-
-TEST_F(StatoProva, IlContornoDiUnNodoCresceConLaFinestra) {
-    ApriCon(kNodiTipo);
-    Menu("Aggiungi");
-    Opzioni[kOpzRaggioNodo] = 5.0; // pixels at 100 %
-    for (const double dpi : {96.0, 144.0, 192.0}) {
-        f.dpi = dpi;
-        Menu("Ottimizza");
-        Muovi(0, 0);
-        EXPECT_EQ(d.Anteprima().cerchi.at(0).raggio, 5 * dpi / 96);
-    }
+    f.dpi = 192; // there a node is twice as large
+    Menu("Ottimizza");
+    Tipo(kNodiTipo);
+    Muovi(0, 0);
+    EXPECT_EQ(d.Anteprima().cerchi.at(0).raggio, 2 * OpzioneNumero(kOpzRaggioNodo));
     f.dpi = 96;
 }
 
-TEST_F(StatoProva, CheCosaRestaSenzaIlPuntatoreEConUnaFinestra) {
-    ApriCon(kNodiTipo);
-    Menu("Aggiungi");
-    Tipo(kAsteTipo);
-    Muovi(50, 0);
-    const Sagoma::Linea asta{.x1 = 0, .y1 = 0, .x2 = 100, .y2 = 0};
-    EXPECT_EQ(d.Anteprima().linee.at(0), asta);
-    Passo("Distratta()", f.Distratta);
-    EXPECT_EQ(Poi(), "clic su un'asta, o menu Selezioni; Esc termina") << "a key has the word";
-    EXPECT_TRUE(d.Anteprima().Vuota());
-    Muovi(0, 0);
+// What the next click takes is outlined while it would take it, and no longer.
+TEST_F(StatoProva, IlContornoSpariscePerOgniAltroUsoDelPuntatore) {
+    constexpr const char *kAltrove = "clic su un'asta, o menu Selezioni; Esc termina";
+    struct Caso {
+        std::function<void()> fai;
+        const char *detto;
+    };
+    const Caso casi[] = {
+        {[&] { Passo("Distratta()", f.Distratta); }, kAltrove}, // a key, a menu, a box
+        {[&] { Passo("MouseLeave()", d.MouseLeave); }, kAltrove},
+        {[&] { Menu("ZoomIn"); }, "clic: primo angolo"},
+        {[&] { Menu("Finestra"); }, "clic: primo angolo"},
+        {[&] { Clic(50, 50); }, "clic: angolo opposto"}, // on nothing
+        {[&] { Menu("Sposta"); }, "clic: punto da spostare"},
+        {[&] { Menu("Sposta"), Clic(20, 20); }, "clic: dove portarlo"},
+        {[&] { PremiCentrale(50, 0); }, ""},
+    };
+    for (const Caso &caso : casi) {
+        AzzeraProgramma();
+        ApriCon(kAsteTipo);
+        Menu("Aggiungi");
+        Muovi(50, 0);
+        EXPECT_EQ(d.Anteprima().linee.at(0), (Sagoma::Linea{.x1 = 0, .y1 = 0, .x2 = 100, .y2 = 0}));
+        caso.fai();
+        EXPECT_EQ(Poi(), caso.detto);
+        EXPECT_TRUE(d.Anteprima().Vuota()) << caso.detto;
+    }
     Passo("MouseLeave()", d.MouseLeave);
-    EXPECT_EQ(Poi(), "clic su un'asta, o menu Selezioni; Esc termina") << "the pointer has left";
-    EXPECT_EQ(f.LabCoord.Caption(), "") << "and its coordinates with it";
-    Menu("Finestra");
-    EXPECT_EQ(Poi(), "clic: primo angolo");
-    Clic(50, 50);
-    EXPECT_EQ(Poi(), "clic: angolo opposto");
-    Menu("Sposta");
-    EXPECT_EQ(Poi(), "clic: punto da spostare");
-    Clic(20, 20);
-    EXPECT_EQ(Poi(), "clic: dove portarlo");
+    EXPECT_EQ(f.LabCoord.Caption(), "") << "the pointer has left";
 }
 
 TEST_F(StatoProva, LEtichettaSiNascondeSenzaPosto) {
@@ -185,10 +186,9 @@ TEST_F(StatoProva, LEtichettaSiNascondeSenzaPosto) {
         Ridimensiona(larghezza, 11400);
         return f.LabStato.Visible();
     };
-    EXPECT_TRUE(visibile(15000));
-    EXPECT_TRUE(visibile(6800));
-    EXPECT_FALSE(visibile(6400));
-    EXPECT_FALSE(visibile(5550));
+    EXPECT_TRUE(visibile(6615));
+    EXPECT_EQ(f.LabStato.Width, 900) << "60 pixels at 100 %";
+    EXPECT_FALSE(visibile(6614));
     Menu("VisCoord");
     EXPECT_TRUE(visibile(5550)) << "the room of the coordinates is free";
     Tipo(kAsteTipo);

@@ -5,51 +5,82 @@
 
 using namespace telva::prove;
 
+namespace {
+
+class Compito : public Programma {
+  public:
+    explicit Compito(const Ambiente &amb) : Programma(amb.telva, amb.Argomento("LAVORO=piena0")) {}
+
+    using Programma::Clic, Programma::Punta;
+
+    void Dice(const std::string &adesso, const std::string &poi) const {
+        DIVENTA(*this, Testo("LabStato"), adesso + "\r\n" + poi);
+    }
+    // Places on the drawing, in thousandths of its size.
+    void Punta(LONG x, LONG y) { Punta(disegno_, InMillesimi(disegno_, x, y)); }
+    void Clic(LONG x, LONG y) { Clic(disegno_, InMillesimi(disegno_, x, y)); }
+    void Fotografa(const std::filesystem::path &file) const {
+        RECT zona{};
+        GetWindowRect(finestra_, &zona);
+        ScriviBmp(Schermo(&zona), file);
+    }
+
+  private:
+    HWND finestra_ = Principale(), disegno_ = Controllo("Disegno");
+};
+
+void GuardaIlSecondoPiano(Compito &c) {
+    c.Dice("nessuna asta selezionata", "Ctrl+A aggiunge, Ctrl+T rimuove");
+    for (const char *quota : {"IntZ(0)", "IntZ(1)"}) c.Riscrivi(quota, "600");
+    c.Riscrivi("Angolo(0)", "90"); // from above
+    c.Riscrivi("Angolo(1)", "0");
+    c.Premi("Ctrl+O");
+    c.Dice("vista filtrata; nessuna asta selezionata", "Ctrl+A aggiunge, Ctrl+T rimuove");
+}
+
+void AggiungiDieciTravi(Compito &c) {
+    c.Premi("Ctrl+A");
+    c.Dice("vista filtrata; nessuna asta selezionata",
+           "clic su un'asta, o menu Selezioni; Esc termina");
+    c.Premi("Ctrl+Z"); // the corner at the left
+    c.Dice("vista filtrata; nessuna asta selezionata", "clic: primo angolo");
+    c.Clic(40, 140);
+    c.Dice("vista filtrata; nessuna asta selezionata", "clic: angolo opposto");
+    c.Clic(240, 440);
+    c.Menu("Alt+S", "f");
+    c.Dice("vista filtrata; nessuna asta selezionata", "clic: primo angolo");
+    c.Clic(350, 150); // around the outermost beams
+    c.Dice("vista filtrata; nessuna asta selezionata", "clic: angolo opposto");
+    c.Clic(385, 860);
+    c.Dice("vista filtrata; 10 aste selezionate", "clic: primo angolo");
+}
+
+void TogliNeDue(Compito &c) {
+    c.Premi("Ctrl+T");
+    c.Dice("vista filtrata; 10 aste selezionate", "clic su un'asta, o menu Selezioni; Esc termina");
+    c.Punta(370, 204);
+    c.Dice("vista filtrata; 10 aste selezionate", "clic: asta 2978, sezione 15, materiale 2");
+    c.Clic(370, 204);
+    c.Dice("vista filtrata; 9 aste selezionate",
+           "clic: asta 2978, sezione 15, materiale 2, non selezionata");
+    c.Clic(370, 805);
+    c.Dice("vista filtrata; 8 aste selezionate",
+           "clic: asta 2956, sezione 15, materiale 2, non selezionata");
+}
+
+} // namespace
+
 SCENARIO(dimostrazione) {
     VERIFICA(std::filesystem::exists(amb.telva));
     if (GetDpiForSystem() != 96) return; // the places are those of 100 %
-    const auto lavoro = amb.Lavori() / "piena0";
-    std::filesystem::remove(lavoro / "TelvaOut.txt");
-    Programma p(amb.telva, amb.Argomento("LAVORO=piena0"));
-    const HWND finestra = p.Principale(), disegno = p.Controllo("Disegno");
-    const auto clic = [&](LONG x, LONG y) { p.Clic(disegno, p.InMillesimi(disegno, x, y)); };
-    const auto dice = [&](const std::string &adesso, const std::string &poi) {
-        DIVENTA(p, p.Testo("LabStato"), adesso + "\r\n" + poi);
-    };
-    dice("nessuna asta selezionata", "Ctrl+A aggiunge, Ctrl+T rimuove");
-    for (const char *quota : {"IntZ(0)", "IntZ(1)"}) p.Riscrivi(quota, "600");
-    p.Riscrivi("Angolo(0)", "90"); // from above
-    p.Riscrivi("Angolo(1)", "0");
-    p.Premi("Ctrl+O");
-    dice("vista filtrata; nessuna asta selezionata", "Ctrl+A aggiunge, Ctrl+T rimuove");
-    p.Premi("Ctrl+A");
-    dice("vista filtrata; nessuna asta selezionata",
-         "clic su un'asta, o menu Selezioni; Esc termina");
-    p.Premi("Ctrl+Z"); // to the corner at the left
-    dice("vista filtrata; nessuna asta selezionata", "clic: primo angolo");
-    clic(40, 140);
-    dice("vista filtrata; nessuna asta selezionata", "clic: angolo opposto");
-    clic(240, 440);
-    p.Menu("Alt+S", "f");
-    dice("vista filtrata; nessuna asta selezionata", "clic: primo angolo");
-    clic(350, 150); // around the outermost beams
-    dice("vista filtrata; nessuna asta selezionata", "clic: angolo opposto");
-    clic(385, 860);
-    dice("vista filtrata; 10 aste selezionate", "clic: primo angolo");
-    p.Premi("Ctrl+T");
-    dice("vista filtrata; 10 aste selezionate", "clic su un'asta, o menu Selezioni; Esc termina");
-    p.Punta(disegno, p.InMillesimi(disegno, 370, 204));
-    dice("vista filtrata; 10 aste selezionate", "clic: asta 2978, sezione 15, materiale 2");
-    clic(370, 204);
-    dice("vista filtrata; 9 aste selezionate",
-         "clic: asta 2978, sezione 15, materiale 2, non selezionata");
-    clic(370, 805);
-    dice("vista filtrata; 8 aste selezionate",
-         "clic: asta 2956, sezione 15, materiale 2, non selezionata");
-    RECT zona{};
-    GetWindowRect(finestra, &zona);
-    if (!amb.foto.empty()) ScriviBmp(Schermo(&zona), amb.foto / "dimostrazione.bmp");
-    p.Premi("Ctrl+G"); // hand back and leave
-    UGUALE(p.AttendiFine(), 0U);
-    UGUALE(LeggiByte(lavoro / "TelvaOut.txt").value_or("(no file)"), "2957-2958,2972-2977\r\n");
+    const auto lista = amb.Lavori() / "piena0" / "TelvaOut.txt";
+    std::filesystem::remove(lista);
+    Compito c(amb);
+    GuardaIlSecondoPiano(c);
+    AggiungiDieciTravi(c);
+    TogliNeDue(c);
+    if (!amb.foto.empty()) c.Fotografa(amb.foto / "dimostrazione.bmp");
+    c.Premi("Ctrl+G"); // hand back and leave
+    UGUALE(c.AttendiFine(), 0U);
+    UGUALE(LeggiByte(lista).value_or("(no file)"), "2957-2958,2972-2977\r\n");
 }
