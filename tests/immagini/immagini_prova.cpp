@@ -298,8 +298,6 @@ TEST_F(Immagini, Elastici) {
     Foglio f;
     f.Quadrilatero(40, 30, 90, 7, 1);
     ApriFoglio(f, 200, 150);
-    CalcolaAttivi();
-    DisegnaStruttura();
     d.Shape.Left = 20;
     d.Shape.Top = 130;
     d.Shape.Width = 90;
@@ -310,7 +308,12 @@ TEST_F(Immagini, Elastici) {
     d.LineSposta.Y2 = 110;
     d.Shape.Visible = d.LineSposta.Visible = true;
     d.Anteprima = Sagoma{.linee = {{10, 60, 190, 75}}, .cerchi = {{160, 30, 10}}};
-    ConfrontaImmagine(Composta(d, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()}), "elastici");
+    for (const int percento : {100, 200}) { // of the window
+        FormTelva.dpi = 0.96 * percento;
+        Dipingi();
+        ConfrontaImmagine(Composta(d, {0, 0, d.LarghezzaPixel(), d.AltezzaPixel()}),
+                          "elastici_" + std::to_string(percento));
+    }
 }
 
 TEST_F(Immagini, PiantaDelleFinestre) {
