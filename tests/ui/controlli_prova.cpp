@@ -138,11 +138,11 @@ TEST_F(ControlliProva, OgniControlloHaIlSuoPostoAOgniMisura) {
     };
     const Caso casi[] = {
         {.larghezza = 5550, .altezza = 7120, .laterale = true, .icone = true, .coordinate = true},
-        {.larghezza = 15000, .altezza = 11400, .laterale = true, .icone = true, .coordinate = true},
+        {.larghezza = 6800, .altezza = 11400, .laterale = true, .icone = true, .coordinate = true},
         {.larghezza = 9000, .altezza = 8000, .laterale = true, .icone = true, .coordinate = false},
-        {.larghezza = 6000, .altezza = 9999, .laterale = false, .icone = true, .coordinate = false},
+        {.larghezza = 5550, .altezza = 9999, .laterale = false, .icone = true, .coordinate = false},
         {.larghezza = 7000, .altezza = 7120, .laterale = true, .icone = false, .coordinate = false},
-        {.larghezza = 5550, .altezza = 9000, .laterale = false, .icone = false, .coordinate = true},
+        {.larghezza = 6400, .altezza = 9000, .laterale = false, .icone = false, .coordinate = true},
     };
     for (const auto &[w, h, laterale, icone, coordinate] : casi) {
         Ridimensiona(w, h);
@@ -151,7 +151,7 @@ TEST_F(ControlliProva, OgniControlloHaIlSuoPostoAOgniMisura) {
         if (f.BarraLat.Checked != laterale) Menu("BarraLat");
         if (f.BarraIcone.Checked != icone) Menu("BarraIcone");
         ControllaCheStiano(f);
-        EXPECT_EQ(f.LabStato.Visible, w > (coordinate ? 6600 : 3900));
+        EXPECT_EQ(f.LabStato.Visible, !coordinate || w > 6600) << "for want of room";
         EXPECT_EQ(f.Disegno.Immagine().Larghezza(), f.Disegno.LarghezzaPixel());
         EXPECT_EQ(f.Disegno.Immagine().Altezza(), f.Disegno.AltezzaPixel());
         EXPECT_EQ(f.FrameSel.Visible, laterale);

@@ -244,13 +244,17 @@ TEST_F(StatoProva, ValeAncheQuandoLaVistaSiMuoveSottoIlPuntatore) {
     Clic(100, 100);
     Clic(0, 100); // the pointer rests where node 4 stood, and node 5 comes there
     EXPECT_EQ(Poi(), "clic: nodo 5, vincolo 1");
-    Muovi(static_cast<float>(d.XDaPixel(px)), static_cast<float>(d.YDaPixel(py)));
+    const auto torna = [&] {
+        Muovi(static_cast<float>(d.XDaPixel(px)), static_cast<float>(d.YDaPixel(py)));
+    };
+    torna();
     EXPECT_EQ(Poi(), "clic: nodo 6, vincolo 1");
-    Rotella(1);
-    const float x = static_cast<float>(d.XDaPixel(px)), y = static_cast<float>(d.YDaPixel(py));
-    const std::string detto = Poi();
-    Muovi(x, y);
-    EXPECT_EQ(Poi(), detto) << "as a move to the same pixel says";
+    for (const int tasto : {kTastoDestra, kTastoSinistra, kTastoSu, kTastoGiu, kTastoPiu}) {
+        Tasto(tasto);
+        const std::string detto = Poi();
+        torna();
+        EXPECT_EQ(Poi(), detto) << "as a move to the same pixel says, after " << tasto;
+    }
 }
 
 } // namespace telva::prove
