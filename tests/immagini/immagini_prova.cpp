@@ -363,9 +363,9 @@ TEST_F(Immagini, Icone) {
     chiavi.emplace_back("Telva");
     constexpr int kPasso = 52;
     Superficie s;
-    s.Ridimensiona(kPasso * static_cast<int>(chiavi.size()), 5 * 2 * kPasso);
+    s.Ridimensiona(kPasso * static_cast<int>(chiavi.size()), 6 * 2 * kPasso);
     int y0 = 0;
-    for (const int lato : {16, 20, 24, 32, 48})
+    for (const int lato : {16, 20, 24, 28, 32, 48})
         for (const std::uint32_t fondo : {0xF0F0F0u, 0x202020u}) {
             std::fill(s.Riga(y0), s.Riga(y0 + kPasso), fondo);
             int x0 = 2;
