@@ -41,6 +41,12 @@ void Uguale(const A &a, const B &b, const char *testo, const char *file, int rig
              riga);
 }
 
+template <class A, class B>
+void AlPiu(const A &a, const B &b, const char *testo, const char *file, int riga) {
+    Verifica(a <= b, std::string(testo) + ": at most " + Mostra(b) + ", saw " + Mostra(a), file,
+             riga);
+}
+
 template <class F, class B>
 void Diventa(const Programma &p, F lettura, const B &atteso, const char *testo) {
     auto visto = lettura();
@@ -58,5 +64,6 @@ void Diventa(const Programma &p, F lettura, const B &atteso, const char *testo) 
     static void nome([[maybe_unused]] const telva::prove::Ambiente &amb)
 #define VERIFICA(condizione) telva::prove::Verifica((condizione), #condizione, __FILE__, __LINE__)
 #define UGUALE(a, b) telva::prove::Uguale((a), (b), #a, __FILE__, __LINE__)
+#define AL_PIU(a, b) telva::prove::AlPiu((a), (b), #a, __FILE__, __LINE__)
 #define DIVENTA(programma, espressione, atteso)                                                    \
     telva::prove::Diventa((programma), [&] { return (espressione); }, (atteso), #espressione)

@@ -111,8 +111,8 @@ SCENARIO(tre_programmi_insieme) {
                          NumeroDi(telva::FormTelva.Salva), 0);
         for (const auto &p : programmi) UGUALE(p->AttendiFine(), 0U);
         const std::string rimasta = Scritto(lavoro);
-        VERIFICA(std::count(liste.begin(), liste.end(), rimasta.substr(0, rimasta.find('\r'))) ==
-                 1);
+        const auto quale = std::ranges::find(liste, rimasta.substr(0, rimasta.find('\r')));
+        UGUALE(rimasta, quale == liste.end() ? "one of the three" : *quale + "\r\n");
         VerificaNessunResto(lavoro);
     }
 }

@@ -75,7 +75,9 @@ SCENARIO(dialogo_opzioni) {
     attese[7] = "1\r";   // CheckTxtNodi
     attese[12] = "3\r";  // LabelCol
     attese[15] = "0\r";  // TxtNodi(1)
-    VERIFICA(Righe(file) == attese);
+    std::string atteso;
+    for (const std::string &riga : attese) atteso += riga + "\n";
+    UGUALE(LeggiByte(file).value_or("(no file)"), atteso);
     s.Premi("Esc");
     s.Principale();
     s.FotoDiversa(); // drawn with what was saved

@@ -201,7 +201,7 @@ SCENARIO(posto_impossibile) {
                         sizeof posto);
         Programma p(amb.telva, amb.Argomento(), true);
         VERIFICA(SiVedeIntera(p.Principale()));
-        VERIFICA(p.LeggiRisorse().piccoByte < 250U << 20);
+        AL_PIU(p.LeggiRisorse().piccoByte >> 20, 250U);
         Esci(p);
     }
 }
@@ -224,7 +224,8 @@ SCENARIO(testo_smisurato) {
     p.Premi("Ctrl+C");
     DIVENTA(p, Appunti(), lista);
     const std::string titolo = p.Testo(p.Principale());
-    VERIFICA(titolo.size() > 10 && titolo.size() < 1000);
+    AL_PIU(11U, titolo.size());
+    AL_PIU(titolo.size(), 999U);
     p.Clic("Angolo(0)");
     const std::wstring testo(1000000, L'W');
     SendMessageW(p.Controllo("Angolo(0)"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(testo.c_str()));

@@ -51,7 +51,7 @@ TEST_F(SalvaDis, UnPuntoSiCercaFraGliUltimiTrentuno) {
 
 TEST_F(SalvaDis, LaTabellaDelleCoordinatePienaSiAvvisaERifiuta) {
     for (int n = 0; n < 49999; ++n) ASSERT_EQ(AggiungiCoordinata(n, 0), n);
-    EXPECT_TRUE(messaggi.empty());
+    EXPECT_EQ(messaggi, std::vector<Messaggio>());
     EXPECT_EQ(AggiungiCoordinata(49999, 0), 49999) << "the last place";
     Avvisa(" Numero eccessivo di coordinate ");
     EXPECT_EQ(AggiungiCoordinata(-1, 0), -1);
@@ -62,12 +62,12 @@ TEST_F(SalvaDis, LaTabellaDelleCoordinatePienaSiAvvisaERifiuta) {
 
 TEST_F(SalvaDis, LaTabellaDegliElementiPienaSiAvvisaERifiuta) {
     for (int n = 0; n < 49999; ++n) DisLinea(n % 2, 0, 2, 0);
-    EXPECT_TRUE(messaggi.empty());
+    EXPECT_EQ(messaggi, std::vector<Messaggio>());
     DisLinea(0, 0, 2, 0);
     Avvisa(" Numero eccessivo di elementi di disegno ");
     DisLinea(0, 0, 2, 0);
     EXPECT_EQ(NumElemDis, 50000);
-    EXPECT_TRUE(messaggi.empty()) << "told once";
+    EXPECT_EQ(messaggi, std::vector<Messaggio>()) << "told once";
 }
 
 TEST_F(SalvaDis, ITestiSiRegistranoFinchePossono) {
@@ -80,7 +80,7 @@ TEST_F(SalvaDis, ITestiSiRegistranoFinchePossono) {
     EXPECT_EQ(TestiDis[0].y, 8);
     EXPECT_EQ(NumElemDis, 0) << "no strokes";
     for (int n = 1; n < 14999; ++n) DisTesto("a", 1, 2, 0, 10, 20);
-    EXPECT_TRUE(messaggi.empty());
+    EXPECT_EQ(messaggi, std::vector<Messaggio>());
     DisTesto("ultimo", 1, 2, 0, 10, 20);
     Avvisa(" Numero eccessivo di testi ");
     DisTesto("oltre", 1, 2, 0, 10, 20);
