@@ -108,6 +108,23 @@ class Utente : public Banco {
             applica ? FormOptInt.Command1.Click() : FormOptInt.KeyUp(kEsc);
         });
     }
+    // In a dialog.
+    void Digita(CasellaTesto &casella, const std::string &testo) {
+        Passo(Scritto("Digita", casella.NomeControllo(), testo), [&] { casella.Text = testo; });
+    }
+    void Premi(CasellaTesto &casella, int tasto) {
+        Passo(Scritto("Premi", casella.NomeControllo(), tasto), [&] { casella.KeyDown(tasto); });
+    }
+    void Premi(Modulo &dialogo, int tasto) {
+        Passo(Scritto("Premi", dialogo.NomeControllo(), tasto), [&] { dialogo.KeyUp(tasto); });
+    }
+    void Premi(CasellaSpunta &casella) {
+        Passo(Scritto("Premi", casella.NomeControllo()), [&] { casella.Premi(); });
+    }
+    template <class ConClick>
+    void Premi(ConClick &controllo) { // a button, a swatch
+        Passo(Scritto("Premi", controllo.NomeControllo()), controllo.Click);
+    }
     void Ridimensiona(double larghezza, double altezza) {
         Passo(Scritto("Ridimensiona", larghezza, altezza), [&] {
             FormTelva.Width = larghezza;

@@ -46,8 +46,8 @@ TEST_F(FormTelvaProva, LaVirgolaEUnPunto) {
     EXPECT_EQ(AttNodo[1], 0);
 
     Menu("Rappresentazione");
-    FormOpt.Raggio.Text = "0,5";
-    FormOpt.Salva.Click();
+    Digita(FormOpt.Raggio, "0,5");
+    Premi(FormOpt.Salva);
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 0.5);
     Trappola("7,9");
     EXPECT_EQ(OpzInt[kOpzTrappola], 7);

@@ -20,24 +20,24 @@ TEST_F(DialogoTrappola, SiApreConLaMisuraDiOraEInvioLApplica) {
     EXPECT_TRUE(FormOptInt.Mostrata());
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "8");
     EXPECT_EQ(FormOptInt.fuoco, &FormOptInt.TextTrappola);
-    FormOptInt.TextTrappola.Text = "-19,6"; // its nearest lower whole number, without the sign
-    FormOptInt.TextTrappola.KeyDown('2');   // any other key only types
+    Digita(FormOptInt.TextTrappola, "-19,6"); // its nearest lower whole number, without the sign
+    Premi(FormOptInt.TextTrappola, '2');      // any other key only types
     EXPECT_TRUE(FormOptInt.Mostrata());
-    FormOptInt.TextTrappola.KeyDown(kInvio);
+    Premi(FormOptInt.TextTrappola, kInvio);
     EXPECT_FALSE(FormOptInt.Mostrata());
     Menu("Trappola");
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "20");
-    FormOptInt.KeyUp('A');
+    Premi(FormOptInt, 'A');
     EXPECT_TRUE(FormOptInt.Mostrata()) << "only Esc closes";
-    FormOptInt.TextTrappola.Text = "0";
-    FormOptInt.KeyUp(kEsc);
+    Digita(FormOptInt.TextTrappola, "0");
+    Premi(FormOptInt, kEsc);
     EXPECT_FALSE(FormOptInt.Mostrata());
     EXPECT_EQ(OpzInt[kOpzTrappola], 20) << "Esc leaves it as it was";
     EXPECT_EQ(Detto(), "");
     OpzInt[kOpzTrappola] = 2e20;
     Menu("Trappola");
     EXPECT_EQ(FormOptInt.TextTrappola.Text(), "2e+20") << "short in the box";
-    FormOptInt.TextTrappola.KeyDown(kInvio);
+    Premi(FormOptInt.TextTrappola, kInvio);
     EXPECT_EQ(FormTelva.Trappola.Caption(), "Trappola (2e+20)...");
 }
 
@@ -68,8 +68,8 @@ struct DialogoRappresentazione : Utente {
         attese[static_cast<std::size_t>(voce)] = valore;
         Menu("Rappresentazione");
         Passo(controllo + " = " + std::to_string(valore), cambia);
-        f.Salva.Click();
-        f.KeyUp(kEsc);
+        Premi(f.Salva);
+        Premi(f, kEsc);
         EXPECT_EQ(Detto(), "INFORMAZIONE: Opzioni salvate");
         EXPECT_FALSE(f.Mostrata());
         AzzeraOpzioni();
@@ -131,7 +131,7 @@ TEST_F(DialogoRappresentazione, UnColoreSconosciutoSiMostraBiancoUnTestoComE) {
 TEST_F(DialogoRappresentazione, OgniCampioneHaIlColoreCheSceglie) {
     Menu("Rappresentazione");
     for (int scelto = 0; scelto < ModuloOpt::kCampioni; ++scelto) {
-        f.LabelCol[scelto].Click();
+        Premi(f.LabelCol[scelto]);
         EXPECT_NE(f.LabelCol[scelto].didascalia, "") << "for those who do not see it";
         EXPECT_EQ(f.LabelCol[scelto].BackColor, ColoreRGB(scelto)) << "as the labels are drawn";
         for (int k = 0; k < ModuloOpt::kCampioni; ++k) {
@@ -148,7 +148,7 @@ TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
         EXPECT_EQ(f.CheckSpGus.Value, nascosti);
         EXPECT_EQ(f.SpMinGus.AbilitatoDavvero(), nascosti);
         EXPECT_EQ(f.LabelSpMinGus.AbilitatoDavvero(), nascosti);
-        f.CheckSpGus.Premi();
+        Premi(f.CheckSpGus);
     }
 
     struct Gruppo {
@@ -171,9 +171,9 @@ TEST_F(DialogoRappresentazione, SiPuoScrivereSoloCioCheVale) {
     controlla(false, "");
     for (const auto &[capo, parti] : gruppi) {
         SCOPED_TRACE(parti);
-        capo.Premi();
+        Premi(capo);
         controlla(true, parti);
-        capo.Premi();
+        Premi(capo);
         controlla(false, "");
     }
 }
@@ -193,9 +193,9 @@ TEST_F(DialogoRappresentazione, SenzaMisuraDelTestoNienteTesti) {
         for (const int acceso : {kOpzTestiNodi, kOpzTestiAste, kOpzTestiGusci, kOpzTestiElCont})
             Opzioni[acceso] = 1.0;
         Menu("Rappresentazione");
-        casella.Text = "";
-        f.Salva.Click();
-        f.Chiudi_.Click();
+        Digita(casella, "");
+        Premi(f.Salva);
+        Premi(f.Chiudi_);
         EXPECT_EQ(OpzioneNumero(voce), 0);
         EXPECT_EQ(OpzioneAttiva(kOpzTestiNodi), testi);
         EXPECT_EQ(OpzioneAttiva(kOpzTestiAste), testi);
@@ -208,24 +208,24 @@ TEST_F(DialogoRappresentazione, IlDisegnoCambiaAllaChiusuraESoloDopoSalva) {
     const Superficie prima = FormTelva.Disegno.Immagine();
     const auto diversi = [&] { return PixelDiversi(prima, FormTelva.Disegno.Immagine()); };
     Menu("Rappresentazione");
-    f.Raggio.Text = "12";
-    f.Chiudi_.Click();
+    Digita(f.Raggio, "12");
+    Premi(f.Chiudi_);
     EXPECT_FALSE(f.Mostrata());
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "not saved";
     EXPECT_EQ(diversi(), 0);
     Menu("Rappresentazione");
-    f.Raggio.Text = "12";
-    f.Salva.Click();
+    Digita(f.Raggio, "12");
+    Premi(f.Salva);
     EXPECT_TRUE(f.Mostrata());
     EXPECT_EQ(diversi(), 0) << "until the dialog closes";
-    f.Chiudi_.Click();
+    Premi(f.Chiudi_);
     EXPECT_GT(diversi(), 0);
 }
 
 TEST_F(DialogoRappresentazione, UnFileCheNonSiScriveSiDice) {
     Cancella("custom");
     Menu("Rappresentazione");
-    f.Salva.Click();
+    Premi(f.Salva);
     EXPECT_EQ(Detto(), "INFORMAZIONE: Problemi nel salvataggio delle opzioni");
     EXPECT_EQ(OpzioneNumero(kOpzRaggioNodo), 5) << "they hold all the same";
 }
