@@ -147,7 +147,10 @@ struct SequenzeProva : Utente {
         c.Uguali("LineSposta.Visible", d.LineSposta.Visible(), m.lineaSposta);
         const Rettangolo &r = d.Shape;
         const Segmento &l = d.LineSposta;
-        const double misura = 1e2 * std::abs(d.ScaleWidth); // to a part of a pixel, as events do
+        // To a part of a pixel, as events come; those in single precision may be older than the
+        // scale of now.
+        const double misura =
+            1e2 * std::abs(d.ScaleWidth) + 0.2 * std::max(std::abs(r.Left), std::abs(l.X1));
         if (r.Visible)
             c.Vicini("Shape", {"Left", "Top", "Width", "Height"},
                      {r.Left, r.Top, r.Width, r.Height}, m.Rettangolo(), misura);
