@@ -72,6 +72,8 @@ TEST_F(StatoProva, CheCosaSiPuoScrivere) {
     EXPECT_EQ(Poi(), "orientamenti presenti: 3") << "of what is shown";
     Mostra(Filtro::Aste);
     EXPECT_EQ(Poi(), "orientamenti presenti: -") << "nothing is shown";
+    Menu("ZoomIn");
+    EXPECT_EQ(Poi(), "clic: primo angolo; orientamenti presenti: -");
 }
 
 TEST_F(StatoProva, UnElencoLungoFinisceConUnNumeroIntero) {
