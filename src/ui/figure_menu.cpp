@@ -8,6 +8,7 @@
 #include "view/tipi_linea.h"
 
 #include <array>
+#include <vector>
 
 namespace telva {
 namespace {
@@ -56,16 +57,17 @@ void DisegnaLinee(Superficie &s, int codice, double quanto, int penna) {
     }
 }
 
-// One hatch, or some of them side by side.
+// One hatch, or three that differ at a glance, side by side.
 void DisegnaRetini(Superficie &s, int codice, double quanto, int penna) {
     const bool tutti = codice == kOgniRetino;
-    const int prima = tutti ? 1 : codice, quanti = tutti ? 4 : 1;
+    const std::vector<int> tipi = tutti ? std::vector{2, 3, 7} : std::vector{codice};
+    const int quanti = static_cast<int>(tipi.size());
     const Retini retini(kStretto * quanto, penna);
     for (int k = 0; k < quanti; ++k) {
         const int da = k * s.Larghezza() / quanti, a = (k + 1) * s.Larghezza() / quanti;
         const std::array<Pixel, 4> angoli = {
             {{da, 0}, {a, 0}, {a, s.Altezza()}, {da, s.Altezza()}}};
-        retini.Riempi(s, angoli, prima + k, kSegno);
+        retini.Riempi(s, angoli, tipi[static_cast<std::size_t>(k)], kSegno);
     }
 }
 

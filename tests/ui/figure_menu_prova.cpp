@@ -32,6 +32,7 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
             EXPECT_EQ(f.larghezza, c.figura.genere == Genere::Colore ? altezza : 3 * altezza);
             ASSERT_EQ(f.pixel.size(), static_cast<std::size_t>(f.altezza * f.larghezza));
             for (const std::uint32_t p : f.pixel) ASSERT_EQ(p >> 24, 0xFFu) << "opacity";
+            EXPECT_EQ(f.pixel[0], 0xFF808080u) << "a frame for light menus and dark ones";
             EXPECT_TRUE(diverse.insert(f.pixel).second) << "looks like another one";
         }
         EXPECT_EQ(diverse.size(), kNumeroColori + 6u + 9u);
