@@ -334,15 +334,16 @@ TEST_F(Immagini, PiantaDelleFinestre) {
     FormOptInt.Chiudi();
 }
 
-// Every colour and hatch beside its item, and those of "Tutti", at 100 % and 200 %.
+// Every colour, line type and hatch beside its item, and those of "Tutti", at 100 % and 200 %.
 TEST_F(Immagini, FigureDeiMenu) {
     constexpr int kPasso = 84;
     Superficie s;
-    s.Ridimensiona(10 * kPasso, 4 * kPasso / 2);
+    s.Ridimensiona(10 * kPasso, 6 * kPasso / 2);
     Apri(Telaio());
     int y0 = 0;
     for (const double quanto : {1.0, 2.0})
-        for (const VoceMenu *menu : {&FormTelva.Colore, &FormTelva.TipoTratt}) {
+        for (const VoceMenu *menu :
+             {&FormTelva.Colore, &FormTelva.TipoLinea, &FormTelva.TipoTratt}) {
             int x0 = 0;
             for (const VoceMenu *voce : menu->voci) {
                 const Figura f =

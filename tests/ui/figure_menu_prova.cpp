@@ -1,7 +1,6 @@
 // The pictures beside the items of the menus.
 #include "ui/figure_menu.h"
 
-#include "selection/attributi_sel.h"
 #include "sostegno/Banco.h"
 #include "ui/comandi.h"
 #include "ui/controlli/FormTelva.h"
@@ -11,11 +10,8 @@
 #include <set>
 
 namespace telva::prove {
-namespace {
 
 using Genere = FiguraVoce::Genere;
-
-} // namespace
 
 struct FigureMenu : Banco {};
 
@@ -36,24 +32,6 @@ TEST_F(FigureMenu, OgniFiguraEDiversaDellaMisuraChiestaEOpaca) {
             EXPECT_TRUE(diverse.insert(f.pixel).second) << "looks like another one";
         }
         EXPECT_EQ(diverse.size(), kNumeroColori + 6u + 9u);
-    }
-}
-
-TEST_F(FigureMenu, UnaLineaHaITrattiDelSuoTipo) {
-    const char *const tratti[] = {"##########################", "#########.....#########...",
-                                  "##....##....##....##....##", "#########.....##....######",
-                                  "#########.....##....##...."};
-    const auto riga = [](int codice, std::size_t y) { // from the beginning of the line on
-        const Figura f = DisegnaFigura({.genere = Genere::Linea, .codice = codice}, 13, 1);
-        std::string punti;
-        for (std::size_t x = 2; x < 28; ++x) punti += f.pixel[y * 39 + x] == 0xFFFFFFFF ? '#' : '.';
-        return punti;
-    };
-    const std::string vuota(26, '.');
-    for (int tipo = 0; tipo < 5; ++tipo) EXPECT_EQ(riga(tipo, 6), tratti[tipo]) << "type " << tipo;
-    for (const std::size_t k : {0u, 1u, 2u}) { // "Tutti": three that can be told apart
-        EXPECT_EQ(riga(kOgniLinea, 2 + 4 * k), tratti[k]);
-        for (const std::size_t y : {1u, 3u}) EXPECT_EQ(riga(kOgniLinea, y + 4 * k), vuota);
     }
 }
 
