@@ -193,6 +193,7 @@ TEST_F(Immagini, ColoriDegliElementi) {
             f.Quadrilatero(x, z + 45, 32, 3, colore);
         }
     }
+    f.Linea(5, 112, 1e12, 112, kVerde); // to where no pixel has a number
     ApriFoglio(f, 490, 220);
     for (int k = 1; k < 24; k += 2) { // the upper ones are selected
         SelAsta[k] = SelGuscio[k] = 1;

@@ -29,6 +29,11 @@ TEST_F(FormTelvaProva, RidottaAIconaNienteSiDispone) {
     EXPECT_EQ(f.Width, 99) << "an icon has no smallest size";
     EXPECT_EQ(Posti(), prima);
     f.ridotta = false;
+    Ridimensiona(99, 8000);
+    EXPECT_EQ(f.Width, 5550) << "its smallest width";
+    EXPECT_EQ(f.Height, 8000);
+    Ridimensiona(15000, 99);
+    EXPECT_EQ(f.Height, 7120) << "its smallest height";
     Ridimensiona(15000, 11400);
     EXPECT_EQ(Posti(), prima);
 }
