@@ -228,7 +228,10 @@ TEST_F(Immagini, TrattiERetiniAl200) {
     Foglio f;
     for (int k = 0; k < 4; ++k) {
         f.Linea(10, 10 + 10 * k, 90, 20 + 10 * k, 1, k + 1);
-        f.Linea(100 + 8 * k, 10, 104 + 8 * k, 60, 5, k + 1);
+        if (k % 2 == 0) // up or down: the same dashes
+            f.Linea(100 + 8 * k, 10, 104 + 8 * k, 60, 5, k + 1);
+        else
+            f.Linea(104 + 8 * k, 60, 100 + 8 * k, 10, 5, k + 1);
         f.Quadrilatero(10 + 40 * k, 70, 36, 2 * k + 1, 4);
         f.Quadrilatero(10 + 40 * k, 112, 36, 2 * k + 2, 7);
         f.NodoVisibile(150, 12 + 15 * k, 3);
