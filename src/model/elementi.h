@@ -16,12 +16,12 @@ inline constexpr int kTipiElemento = 5;
 // element are its bars, and it has only what all of them have. Walls have no tables: none counts.
 struct Elementi {
     TipoElemento tipo;
-    TipoElemento parti;         // kind of the parts
-    const std::int16_t &numero; // how many
-    const std::int16_t *nomi;   // by element
-    std::int16_t *selezionati;  // by element
-    std::int16_t *attivi;       // by part
-    const std::int16_t *colori; // by part
+    TipoElemento parti;                      // kind of the parts
+    const std::int16_t &numero;              // how many
+    VistaTabella<const std::int16_t> nomi;   // by element
+    VistaTabella<std::int16_t> selezionati;  // by element
+    VistaTabella<std::int16_t> attivi;       // by part
+    VistaTabella<const std::int16_t> colori; // by part
 
     // True when `prova(parte)` holds for every part of element i; so for one without parts. A name
     // that no bar has stands as it is among the bars of a continuous element: where it is no place

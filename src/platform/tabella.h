@@ -24,9 +24,9 @@ class Tabella {
     T &operator[](int i) { return voci_[Verifica(i)]; }
     const T &operator[](int i) const { return voci_[Verifica(i)]; }
     T *Dati() { return voci_.data(); }
-    const T *Dati() const { return voci_.data(); }
     void Azzera() { voci_.fill(T{}); }
     static constexpr int Capacita() { return N; }
+    const char *Nome() const { return nome_; }
 
   private:
     std::size_t Verifica(int i) const {
@@ -35,6 +35,28 @@ class Tabella {
     }
     const char *nome_;
     std::array<T, static_cast<std::size_t>(N)> voci_;
+};
+
+// A table for whoever does not know its size: the same check of every index. Made of nothing it has
+// no entries.
+template <class T>
+class VistaTabella {
+  public:
+    VistaTabella() = default;
+    template <class V, int N>
+    VistaTabella(Tabella<V, N> &t) : nome_(t.Nome()), voci_(t.Dati()), numero_(N) {}
+
+    T &operator[](int i) const {
+        if (static_cast<unsigned>(i) >= static_cast<unsigned>(numero_))
+            GuastoIndice(nome_, i, numero_ - 1);
+        return voci_[i];
+    }
+    bool Vuota() const { return numero_ == 0; }
+
+  private:
+    const char *nome_ = "";
+    T *voci_ = nullptr;
+    int numero_ = 0;
 };
 
 // Entries (0..N-1, 0..M-1), the second index the fast one; an index outside throws Guasto.

@@ -5,14 +5,16 @@
 namespace telva {
 namespace {
 
-// An attribute: its table by element kind (of the parts; nullptr where it marks nothing), and the
+using Valori = VistaTabella<const std::int16_t>;
+
+// An attribute: its table by element kind (of the parts; empty where it marks nothing), and the
 // code that matches any value.
 struct Attributo {
-    const std::int16_t *nodi = nullptr, *aste = nullptr, *gusci = nullptr, *elCont = nullptr;
+    Valori nodi = {}, aste = {}, gusci = {}, elCont = {};
     std::int16_t ogni = 0;
 
-    const std::int16_t *Valori(TipoElemento tipo) const {
-        const std::int16_t *const tabelle[] = {nodi, aste, gusci, elCont};
+    Valori Di(TipoElemento tipo) const {
+        const Valori tabelle[] = {nodi, aste, gusci, elCont};
         return tabelle[tipo];
     }
 };
@@ -21,7 +23,7 @@ void Seleziona(const Attributo &a, std::int16_t codice, Segno segno) {
     AzzeraInput();
     const int tipo = FormTelva.TipoElemento();
     const Elementi &e = ElementiDisegnatiDi(tipo); // walls have no attributes of their own
-    if (const std::int16_t *valori = a.Valori(e.tipo))
+    if (const Valori valori = a.Di(e.tipo); !valori.Vuota())
         Segna(e, segno, [&](int i) {
             return codice == a.ogni ||
                    e.OgniParte(i, [&](int parte) { return valori[parte] == codice; });
@@ -34,25 +36,24 @@ void Seleziona(const Attributo &a, std::int16_t codice, Segno segno) {
 } // namespace
 
 void SelezionaPerColore(std::int16_t codice, Segno segno) {
-    Seleziona({.nodi = ColNodo.Dati(),
-               .aste = ColAsta.Dati(),
-               .gusci = ColGuscio.Dati(),
-               .elCont = ColAsta.Dati(),
+    Seleziona({.nodi = ColNodo,
+               .aste = ColAsta,
+               .gusci = ColGuscio,
+               .elCont = ColAsta,
                .ogni = kOgniColore},
               codice, segno);
 }
 
 void SelezionaPerTipoPunto(std::int16_t codice, Segno segno) {
-    Seleziona({.nodi = TipoPtNodo.Dati(), .ogni = kOgniPunto}, codice, segno);
+    Seleziona({.nodi = TipoPtNodo, .ogni = kOgniPunto}, codice, segno);
 }
 
 void SelezionaPerTipoLinea(std::int16_t codice, Segno segno) {
-    Seleziona({.aste = TipoLinAsta.Dati(), .elCont = TipoLinAsta.Dati(), .ogni = kOgniLinea},
-              codice, segno);
+    Seleziona({.aste = TipoLinAsta, .elCont = TipoLinAsta, .ogni = kOgniLinea}, codice, segno);
 }
 
 void SelezionaPerTratteggio(std::int16_t codice, Segno segno) {
-    Seleziona({.gusci = TrattGuscio.Dati(), .ogni = kOgniRetino}, codice, segno);
+    Seleziona({.gusci = TrattGuscio, .ogni = kOgniRetino}, codice, segno);
 }
 
 } // namespace telva

@@ -112,9 +112,9 @@ std::vector<int> OrdinaNumeriSel(int tipo) {
     const Elementi &e = ElementiDi(tipo);
     const auto n = static_cast<std::size_t>(e.numero);
     std::vector<std::uint32_t> coppie(n), appoggio(n);
-    for (std::size_t i = 0; i < n; ++i)
-        coppie[i] = static_cast<std::uint32_t>(e.nomi[i] + 32768) << 1 |
-                    static_cast<std::uint32_t>(e.selezionati[i] == 1 ? 1 : 0);
+    for (int i = 0; i < e.numero; ++i)
+        coppie[static_cast<std::size_t>(i)] = static_cast<std::uint32_t>(e.nomi[i] + 32768) << 1 |
+                                              static_cast<std::uint32_t>(e.Selezionato(i) ? 1 : 0);
     OrdinaPerByte(coppie, appoggio, 1);
     OrdinaPerByte(appoggio, coppie, 9);
     std::vector<int> nomi(n);

@@ -10,6 +10,7 @@
 #include "ui/controlli/FormTelva.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace telva::prove {
 
@@ -39,8 +40,9 @@ TEST_F(LavoroPienoProva, SiSelezionaSiInverteESiRestituisce) {
     for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
         const Elementi &e = ElementiDi(tipo);
         SCOPED_TRACE("kind " + std::to_string(tipo));
+        const auto elementi = std::views::iota(0, int{e.numero});
         const auto selezionati = [&] {
-            return std::count(e.selezionati, e.selezionati + e.numero, 1);
+            return std::ranges::count_if(elementi, [&](int i) { return e.Selezionato(i); });
         };
         Tipo(tipo);
         Menu("Inverti");
@@ -48,7 +50,8 @@ TEST_F(LavoroPienoProva, SiSelezionaSiInverteESiRestituisce) {
         Menu("RimTutto");
         EXPECT_EQ(selezionati(), 0);
         // By name, the last of the table too.
-        const int ultimo = *std::max_element(e.nomi, e.nomi + e.numero);
+        const int ultimo = std::ranges::max(
+            elementi | std::views::transform([&](int i) { return int{e.nomi[i]}; }));
         Menu("Aggiungi");
         Menu("Nome");
         Elenco(std::to_string(ultimo));

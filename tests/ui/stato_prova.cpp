@@ -207,7 +207,9 @@ TEST_F(StatoProva, CioCheSiVedePrimaECioCheSiPrende) {
     Apri(lavoro);
     const auto selezionati = [](int tipo) {
         const Elementi &e = ElementiDi(tipo);
-        return std::vector<int>(e.selezionati, e.selezionati + e.numero);
+        std::vector<int> stati;
+        for (int i = 0; i < e.numero; ++i) stati.push_back(e.selezionati[i]);
+        return stati;
     };
     std::mt19937 sorte(7);
     const auto posto = [&] {
