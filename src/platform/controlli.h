@@ -255,7 +255,7 @@ class BarraStrumenti : public Controllo {
     std::vector<BottoneBarra> Bottoni;
     std::function<void(const std::string &)> ButtonClick;
     // Pixels 0xAARRGGBB (premultiplied) of a button's picture at lato x lato.
-    std::function<std::vector<std::uint32_t>(std::string_view chiave, int lato)> Icona;
+    std::function<std::vector<std::uint32_t>(std::string_view chiave, int lato)> FiguraBottone;
     void Suggerimento(std::string_view chiave, const std::string &testo);
     std::string Suggerimento(std::string_view chiave) const;
 };

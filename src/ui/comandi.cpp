@@ -159,7 +159,7 @@ void CostruisciComandi() {
     DisabilitaComandi();
     f.Interrompi.Enabled = false;
     f.Toolbar1.ButtonClick = EseguiChiave;
-    f.Toolbar1.Icona = DisegnaIcona;
+    f.Toolbar1.FiguraBottone = DisegnaIcona;
     f.FiguraMenu = DisegnaFigura;
 }
 

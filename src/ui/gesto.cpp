@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 
 namespace telva {
@@ -47,6 +48,13 @@ constexpr RigaGesto kGesti[] = {
     {Gesto::Trascina,         Strato::TastoCentrale, kSotto,     0,      0,     0,      0,      0},
     // clang-format on
 };
+
+constexpr bool OgnunoAlSuoPosto() {
+    for (std::size_t k = 0; k < std::size(kGesti); ++k)
+        if (static_cast<std::size_t>(kGesti[k].gesto) != k) return false;
+    return std::size(kGesti) == static_cast<std::size_t>(Gesto::Trascina) + 1;
+}
+static_assert(OgnunoAlSuoPosto());
 
 const RigaGesto &Riga(Gesto gesto) { return kGesti[static_cast<std::size_t>(gesto)]; }
 

@@ -375,7 +375,7 @@ TEST_F(Immagini, Icone) {
             std::fill(s.Riga(y0), s.Riga(y0 + kPasso), fondo);
             int x0 = 2;
             for (const std::string &chiave : chiavi) {
-                Sovrapponi(s, FormTelva.Toolbar1.Icona(chiave, lato), lato, x0, y0 + 2);
+                Sovrapponi(s, FormTelva.Toolbar1.FiguraBottone(chiave, lato), lato, x0, y0 + 2);
                 x0 += kPasso;
             }
             y0 += kPasso;

@@ -71,7 +71,7 @@ void BarraWin32::MettiImmagini() {
         ImageList_Create(lato, lato, ILC_COLOR32, static_cast<int>(controllo_.Bottoni.size()), 0),
         "ImageList_Create");
     for (const BottoneBarra &b : controllo_.Bottoni) {
-        const HBITMAP bitmap = Immagine(controllo_.Icona(b.chiave, lato), lato);
+        const HBITMAP bitmap = Immagine(controllo_.FiguraBottone(b.chiave, lato), lato);
         if (ImageList_Add(nuove, bitmap, nullptr) < 0) GuastoWindows("ImageList_Add");
         DeleteObject(bitmap);
     }
