@@ -195,7 +195,7 @@ void SelezionaTutto() {
 void Deseleziona() {
     for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
         const Elementi &e = ElementiDi(tipo);
-        std::fill_n(e.selezionati, e.numero, std::int16_t{0});
+        for (int i = 0; i < e.numero; ++i) e.selezionati[i] = 0;
     }
 }
 
