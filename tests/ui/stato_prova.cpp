@@ -117,12 +117,18 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
         float x, y;
         const char *detto;
         std::size_t linee = 0, cerchi = 0; // of the outline
+        const char *selezionato = "selezionato";
     };
     const Caso casi[] = {
         {.tipo = kNodiTipo, .x = 0, .y = 0, .detto = "nodo 1", .cerchi = 1},
         {.tipo = kNodiTipo, .x = 100, .y = 100, .detto = "nodo 5, vincolo 1", .cerchi = 1},
         {.tipo = kNodiTipo, .x = 50, .y = 50, .detto = "apre una finestra"},
-        {.tipo = kAsteTipo, .x = 50, .y = 0, .detto = "asta 1, sezione 1, materiale 1", .linee = 1},
+        {.tipo = kAsteTipo,
+         .x = 50,
+         .y = 0,
+         .detto = "asta 1, sezione 1, materiale 1",
+         .linee = 1,
+         .selezionato = "selezionata"},
         {.tipo = kGusciTipo,
          .x = 150,
          .y = 50,
@@ -135,17 +141,22 @@ TEST_F(StatoProva, CheCosaFarebbeUnClic) {
          .linee = 2},
         {.tipo = kParetiTipo, .x = 50, .y = 0, .detto = "apre una finestra"},
     };
-    for (const auto &[tipo, x, y, detto, linee, cerchi] : casi) {
+    for (const auto &[tipo, x, y, detto, linee, cerchi, selezionato] : casi) {
         SCOPED_TRACE(detto);
         Tipo(tipo);
         Muovi(x, y);
         EXPECT_EQ(Poi(), std::string("clic: ") + detto);
         EXPECT_EQ(d.Anteprima().linee.size(), linee);
         EXPECT_EQ(d.Anteprima().cerchi.size(), cerchi);
+        if (linee + cerchi == 0) continue;
+        Clic(x, y);
+        EXPECT_EQ(Poi(), std::string("clic: ") + detto + ", già " + selezionato);
+        EXPECT_TRUE(d.Anteprima().Vuota()) << "nothing would change";
     }
     f.dpi = 192; // there a node is twice as large
-    Menu("Ottimizza");
     Tipo(kNodiTipo);
+    Menu("RimTutto");
+    Menu("Ottimizza");
     Muovi(0, 0);
     EXPECT_EQ(d.Anteprima().cerchi.at(0).raggio, 2 * OpzioneNumero(kOpzRaggioNodo));
     f.dpi = 96;

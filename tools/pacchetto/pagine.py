@@ -203,7 +203,7 @@ def errori_pagina(pagina, sorgente, cartella):
 
 def ossatura(pagina):
     """What a page in another language has as well: heading levels, rows of tables by their columns,
-    items of lists by their depth, example files."""
+    items of lists by their depth, example files, and what stands there as it is written in a file."""
     for riga in (BASE / "docs" / pagina).read_text("utf-8").splitlines():
         if riga.startswith("#"):
             yield riga.split()[0]
@@ -213,6 +213,7 @@ def ossatura(pagina):
             yield voce[0]
         elif esempio := ESEMPIO.match(riga):
             yield esempio[1]
+        yield from re.findall(r"`[^`]+`", riga)
 
 
 def errori_traduzione():

@@ -136,6 +136,8 @@ void UnoAllaVolta(Seduta &s) {
     s.Premi("Ctrl+Z"); // zoom
     s.Rettangolo({570, 400}, {850, 780});
     for (const Posto &asta : {Posto{683, 190}, {683, 340}, {683, 540}, {619, 312}}) s.ClicIn(asta);
+    s.PuntaIn({622, 509}); // the next one
+    s.AspettaDisegno();
     s.Foto("diretta");
     DIVENTA(s, s.Testo("StringaSel"), "168,286,322,349");
 }
