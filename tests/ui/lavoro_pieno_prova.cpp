@@ -10,7 +10,6 @@
 #include "ui/controlli/FormTelva.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace telva::prove {
 
@@ -40,9 +39,10 @@ TEST_F(LavoroPienoProva, SiSelezionaSiInverteESiRestituisce) {
     for (const int tipo : {kNodiTipo, kAsteTipo, kGusciTipo, kElContTipo}) {
         const Elementi &e = ElementiDi(tipo);
         SCOPED_TRACE("kind " + std::to_string(tipo));
-        const auto elementi = std::views::iota(0, int{e.numero});
         const auto selezionati = [&] {
-            return std::ranges::count_if(elementi, [&](int i) { return e.Selezionato(i); });
+            int quanti = 0;
+            for (int i = 0; i < e.numero; ++i) quanti += e.Selezionato(i);
+            return quanti;
         };
         Tipo(tipo);
         Menu("Inverti");
@@ -50,8 +50,8 @@ TEST_F(LavoroPienoProva, SiSelezionaSiInverteESiRestituisce) {
         Menu("RimTutto");
         EXPECT_EQ(selezionati(), 0);
         // By name, the last of the table too.
-        const int ultimo = std::ranges::max(
-            elementi | std::views::transform([&](int i) { return int{e.nomi[i]}; }));
+        int ultimo = 0;
+        for (int i = 0; i < e.numero; ++i) ultimo = std::max<int>(ultimo, e.nomi[i]);
         Menu("Aggiungi");
         Menu("Nome");
         Elenco(std::to_string(ultimo));
