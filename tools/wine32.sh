@@ -24,7 +24,9 @@ mkdir -p "$albero"
     rm -rf "$albero/radice"
     debootstrap --arch=i386 --variant=minbase --include=wine,wine32 "$VERSION_CODENAME" "$albero/radice" \
         >"$albero/registro.txt" 2>&1 || { tail -n 5 "$albero/registro.txt" >&2; muori 'debootstrap failed'; }
-    chroot "$albero/radice" wine --version >/dev/null 2>&1 || muori 'this machine runs no 32-bit program'
+    # It finds its own parts through /proc.
+    unshare -m bash -c 'mount --rbind /proc "$1/proc" && exec chroot "$1" wine --version' - "$albero/radice" \
+        >/dev/null 2>&1 || muori 'this machine runs no 32-bit program'
     : >"$albero/.pronto"
 ) 9>"$albero.lock"
 [ "${1:-}" != --prepara ] || exit 0
